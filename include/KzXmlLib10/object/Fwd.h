@@ -1,0 +1,53 @@
+#pragma once
+
+/// Declares every class of the library without defining it.
+
+namespace KzXmlLib10 {
+
+class CAttribute;
+class CAttributeCol;
+class CBigInteger;
+class CBinaryData;
+class CBinaryStream;
+class CClassfactoryBase;
+class CDateTime;
+class CDateTimeSpan;
+class CDecimal;
+class CElement;
+class CElementCol;
+class CFIVocabulary;
+class CFastInfosetContext;
+class CFastInfosetWriter;
+class CFileBinaryStream;
+class CFileTextStream;
+class CInstanceMonitor;
+class CKZCriticalSection;
+class CKzException;
+class CNamespaceAliasMap;
+class CPrimitiveRestrictions;
+class CStringBuffer;
+class CTextStream;
+class CXmlAttribute;
+class CXmlCollection;
+class CXmlCollectionBase;
+class CXmlDocument;
+class CXmlElement;
+class CXmlGeneratedClass;
+class CXmlObjectBase;
+class CXmlSerializationContext;
+class CXmlTextWriter;
+class CXmlTypeCollection;
+class CXmlWriter;
+class IEventSink;
+class INillable;
+class KzVariant;
+
+} // namespace KzXmlLib10
+
+namespace KzXmlLib10Data {
+
+class CAttributeInfo;
+class CElementInfo;
+class CParentElementInfo;
+
+} // namespace KzXmlLib10Data
