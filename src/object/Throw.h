@@ -36,7 +36,7 @@ constexpr bool Fits(char kind) {
 
 template <class... Args>
 constexpr bool PlaceholdersFit(const char16_t* format) {
-    char kinds[sizeof...(Args) + 1] = {};
+    [[maybe_unused]] char kinds[sizeof...(Args) + 1] = {};
     std::size_t count = 0;
     while (*format) {
         if (*format++ != u'%')
@@ -45,7 +45,7 @@ constexpr bool PlaceholdersFit(const char16_t* format) {
             return false;
         kinds[count++] = PlaceholderKind(format);
     }
-    std::size_t i = 0;
+    [[maybe_unused]] std::size_t i = 0;
     return count == sizeof...(Args) && (Fits<std::remove_cvref_t<Args>>(kinds[i++]) && ...);
 }
 

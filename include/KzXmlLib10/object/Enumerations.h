@@ -25,6 +25,20 @@ enum CompressionType : std::int32_t {
     CompressionType_ZLib = 2,
 };
 
+/// The declaration in front of a Fast Infoset document.
+enum FInfoDecl : std::int32_t {
+    FInfoDecl_None = 0,
+    FInfoDecl_NoVersion = 1,              ///< <?xml encoding='finf'?>
+    FInfoDecl_NoVersionStandalone = 2,    ///< ... standalone='yes'
+    FInfoDecl_NoVersionNotStandalone = 3, ///< ... standalone='no'
+    FInfoDecl_10 = 4,                     ///< <?xml version='1.0' encoding='finf'?>
+    FInfoDecl_10Standalone = 5,
+    FInfoDecl_10NotStandalone = 6,
+    FInfoDecl_11 = 7, ///< <?xml version='1.1' encoding='finf'?>
+    FInfoDecl_11Standalone = 8,
+    FInfoDecl_11NotStandalone = 9,
+};
+
 /// Whether the names of a schema live in namespaces.
 enum SchemaType : std::int32_t {
     SchemaType_Default = 0,

@@ -1,0 +1,84 @@
+#include <KzXmlLib10/object/CXmlSerializationContext.h>
+
+#include <KzXmlLib10/object/CKzException.h>
+
+#include <gtest/gtest.h>
+
+using namespace KzXmlLib10;
+
+namespace {
+
+TEST(CXmlSerializationContext, Defaults) {
+    const CXmlSerializationContext context;
+    EXPECT_TRUE(context.GetWriteTypeAttribute());
+    EXPECT_TRUE(context.GetStripCDATA());
+    EXPECT_FALSE(context.GetIgnoreInvalidCollectionCounts() || context.GetIgnoreMissingChoice() ||
+                 context.GetIgnoreMissingMandatoryElements() || context.GetIgnoreUnknownElements() ||
+                 context.GetIgnoreUnknownAttributes() || context.GetIgnoreNamespaces() ||
+                 context.GetNoOptionalAttributeDefaultOutput());
+}
+
+TEST(CXmlSerializationContext, SchemaTypeWithoutNamespacesIgnoresThemWhateverTheFlag) {
+    CXmlSerializationContext context;
+    context.SetSchemaType(SchemaType_NoNamespaces);
+    context.SetIgnoreNamespaces(false);
+    EXPECT_TRUE(context.GetIgnoreNamespaces());
+    context.SetSchemaType(static_cast<SchemaType>(1));
+    EXPECT_FALSE(context.GetIgnoreNamespaces());
+}
+
+TEST(CXmlSerializationContext, UnknownAndMissingElementsAreNotIgnoredTogether) {
+    CXmlSerializationContext context;
+    context.SetIgnoreUnknownElements(true);
+    context.SetIgnoreUnknownElements(true);
+    try {
+        context.SetIgnoreMissingMandatoryElements(true);
+        FAIL();
+    } catch (const CKzInvalidStateException& e) {
+        EXPECT_TRUE(
+            e.GetMessageW().ends_with(u"can not ignore both\nSet IgnoreUnknownElements to false before "
+                                      u"setting IgnoreMissingMandatoryElements to true"));
+    }
+    EXPECT_FALSE(context.GetIgnoreMissingMandatoryElements());
+    context.SetIgnoreUnknownElements(false);
+    context.SetIgnoreMissingMandatoryElements(true);
+    try {
+        context.SetIgnoreUnknownElements(true);
+        FAIL();
+    } catch (const CKzInvalidStateException& e) {
+        EXPECT_TRUE(
+            e.GetMessageW().ends_with(u"can not ignore both\nSet IgnoreMissingMandatoryElements to false "
+                                      u"before setting IgnoreUnknownElements to true"));
+    }
+}
+
+TEST(CNamespaceAliasMap, KeepsTheOrderOfUris) {
+    CNamespaceAliasMap map;
+    map.Add(u"b", u"urn:b");
+    map.Add(u"x", u"urn:a");
+    map.Add(u"a", u"urn:a");
+    map.Add(u"b", u"urn:c");
+    EXPECT_EQ(map.GetNamespaceCount(), 3);
+    EXPECT_EQ(map.GetNamespaceAt(-5), u"urn:a");
+    EXPECT_EQ(map.GetNamespaceAt(2), u"urn:c");
+    EXPECT_THROW(map.GetNamespaceAt(3), CKzInvalidParamException);
+    EXPECT_EQ(map.GetAliasFromNamespace(u"urn:a"), u"a");
+    EXPECT_EQ(map.GetNamespaceFromAlias(u"b"), u"urn:b"); // the smaller URI of two
+    EXPECT_FALSE(map.DoesAliasExist(u"x"));
+    map.RemoveNamespace(u"urn:none");
+    try {
+        map.GetNamespaceFromAlias(u"none");
+        FAIL();
+    } catch (const CKzException& e) {
+        EXPECT_EQ(e.GetMessageW(), u"Namespace alias [none] not found");
+    }
+}
+
+TEST(CNamespaceAliasMap, AskingForAnUnknownNamespaceEntersIt) {
+    const CNamespaceAliasMap map;
+    EXPECT_EQ(map.GetAliasFromNamespace(u"urn:new"), u"");
+    EXPECT_TRUE(map.DoesNamespaceExist(u"urn:new"));
+    EXPECT_EQ(map.GetNamespaceCount(), 1);
+}
+
+} // namespace
