@@ -1,0 +1,68 @@
+#include <KzXmlLib10/conversions/CWhitespaceUtils.h>
+
+#include <KzXmlLib10/object/CKzException.h>
+
+#include <gtest/gtest.h>
+
+#include <typeinfo>
+
+using namespace KzXmlLib10;
+using namespace std::literals;
+
+namespace {
+
+TEST(CWhitespaceUtils, RulesTransformText) {
+    struct Row {
+        std::u16string text, preserve, replace, collapse;
+    };
+    const Row rows[] = {
+        {u"", u"", u"", u""},
+        {u"abc", u"abc", u"abc", u"abc"},
+        {u"   ", u"   ", u"   ", u""},
+        {u"a\r\nb\rc\n", u"a\nb\nc\n", u"a b c ", u"a b c"},
+        {u"a\r", u"a\n", u"a ", u"a"},
+        {u"a\r\nb\tc\nd\re", u"a\nb\tc\nd\ne", u"a b c d e", u"a b c d e"},
+        {u"a\n\rb", u"a\n\nb", u"a  b", u"a b"},
+        {u"\r\r\n\n", u"\n\n\n", u"   ", u""},
+        {u"a  b", u"a  b", u"a  b", u"a b"},
+        {u"  a \r\n\t b  ", u"  a \n\t b  ", u"  a    b  ", u"a b"},
+        {u"\u00A0\u2003\u0085 \xD83D", u"\u00A0\u2003\u0085 \xD83D", u"\u00A0\u2003\u0085 \xD83D",
+         u"\u00A0\u2003\u0085 \xD83D"},
+        // A NUL survives where nothing is changed, and ends the result otherwise.
+        {u"a\0b"s, u"a\0b"s, u"a\0b"s, u"a"},
+        {u"a\0b\r"s, u"a", u"a", u"a"},
+        {u"a \0b "s, u"a \0b "s, u"a \0b "s, u"a "},
+    };
+    for (const Row& row : rows) {
+        EXPECT_EQ(CWhitespaceUtils::ApplyRule(CWhitespaceUtils::WhitespaceRule_None, row.text), row.text);
+        EXPECT_EQ(CWhitespaceUtils::ApplyRule(CWhitespaceUtils::WhitespaceRule_Preserve, row.text),
+                  row.preserve);
+        EXPECT_EQ(CWhitespaceUtils::ApplyRule(CWhitespaceUtils::WhitespaceRule_Replace, row.text),
+                  row.replace);
+        EXPECT_EQ(CWhitespaceUtils::ApplyRule(CWhitespaceUtils::WhitespaceRule_Collapse, row.text),
+                  row.collapse);
+    }
+}
+
+TEST(CWhitespaceUtils, PreserveOfUnterminatedCharactersStaysInside) {
+    const char16_t units[] = {u'a', u'\r', u'\n', u'b'};
+    EXPECT_EQ(CWhitespaceUtils::Preserve(units, 2), u"a\n");
+    EXPECT_EQ(CWhitespaceUtils::Preserve(units, 4), u"a\nb");
+    EXPECT_EQ(CWhitespaceUtils::Preserve(u"a\0b", 3), u"a");
+    EXPECT_EQ(CWhitespaceUtils::Preserve(units, 0), u"");
+    EXPECT_EQ(CWhitespaceUtils::Preserve(units, -1), u"");
+}
+
+TEST(CWhitespaceUtils, UnknownRuleThrowsTheRootException) {
+    for (const int rule : {4, -1}) {
+        try {
+            CWhitespaceUtils::ApplyRule(static_cast<CWhitespaceUtils::WhitespaceRule>(rule), u"a");
+            ADD_FAILURE();
+        } catch (const CKzException& e) {
+            EXPECT_EQ(typeid(e), typeid(CKzException));
+            EXPECT_EQ(e.GetFullMessage(), u"Unknown WhitespaceRule");
+        }
+    }
+}
+
+} // namespace
