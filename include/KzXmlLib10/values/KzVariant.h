@@ -1,0 +1,126 @@
+#pragma once
+
+#include <KzXmlLib10/conversions/CWhitespaceUtils.h>
+#include <KzXmlLib10/object/CSmartPtr.h>
+#include <KzXmlLib10/object/Export.h>
+#include <KzXmlLib10/object/Fwd.h>
+#include <KzXmlLib10/object/ItemType.h>
+
+#include <cstdint>
+#include <string>
+
+namespace KzXmlLib10 {
+
+/// One value of any ItemType, or a nil, on its way between generated classes, descriptors and facet checks.
+///
+///     KzVariant value;
+///     value.FromString(u" 7 ", ItemType_i4, CWhitespaceUtils::WhitespaceRule_Collapse);
+///     value.GetI4();       // 7
+///     value.ToString(u""); // u"7"
+///
+/// A plain record with typed setters and getters. It owns its payload: a text is a copy of its own, an object
+/// is the caller's with one reference added. A variant belongs to one thread at a time.
+///
+/// Getters of scalars trust the caller: they read the low bits of the cell, whatever the kind, so that kinds
+/// of one width share their value. Getters of payloads throw CKzInvalidStateException if the variant holds no
+/// payload of their kind.
+///
+/// Deliberate: setters leave the nil flag alone. It goes with the next Clear that finds a kind set, so it
+/// survives SetNil followed by a setter on a variant that was empty.
+class QUILLON_EXPORT KzVariant {
+public:
+    KzVariant() = default;
+    KzVariant(const KzVariant& other);
+    KzVariant(KzVariant&& other) noexcept;
+    virtual ~KzVariant();
+
+    /// Takes a deep copy of a text, one more reference of an object. A nil brings its kind and no payload.
+    /// Throws CKzException if the kind of `other` is none of ItemType.
+    ///
+    /// Deliberate: a variant assigned to itself is empty afterwards.
+    KzVariant& operator=(const KzVariant& other);
+    /// Takes the payload over and leaves `other` empty.
+    KzVariant& operator=(KzVariant&& other) noexcept;
+
+    /// Lets the payload go and resets kind and nil flag.
+    ///
+    /// Deliberate: without a kind it does nothing, and the nil flag stays.
+    void Clear();
+    /// True if a kind is set, or nil.
+    bool IsValid() const;
+    void SetInvalid();
+    /// Drops the value, keeps its kind.
+    void SetNil();
+    bool IsNil() const;
+    ItemType GetTypeAsEnum() const;
+    /// The name of the kind, which is the enumerator without `ItemType_`. Throws CKzException for no kind and
+    /// for the object kinds.
+    std::u16string GetType() const;
+
+    /// The value as XML text. `format` is a printf format with one floating-point conversion, heeded by r4
+    /// and r8 alone; null and empty mean the usual text. The nil flag is not looked at: a nil text has no
+    /// payload and throws. Throws CKzException for a kind without a text.
+    std::u16string ToString(const char16_t* format) const;
+    /// Takes the value of an XML text of the given kind under the given rule. Throws
+    /// CKzInvalidValueException for a text of another form, CKzException for a kind that cannot come from
+    /// text; the variant is unchanged then.
+    void FromString(const std::u16string& text, ItemType type, CWhitespaceUtils::WhitespaceRule rule);
+
+    void SetI1(std::int8_t value);
+    void SetI2(std::int16_t value);
+    void SetI4(std::int32_t value);
+    void SetI8(long long value);
+    void SetUI1(std::uint8_t value);
+    void SetUI2(std::uint16_t value);
+    void SetUI4(std::uint32_t value);
+    void SetUI8(unsigned long long value);
+    void SetR4(float value);
+    void SetR8(double value);
+    void SetYear(std::uint16_t value);
+    void SetMonth(std::uint8_t value);
+    void SetDay(std::uint8_t value);
+    void SetChar(char16_t value);
+    void SetBoolean(bool value);
+
+    std::int8_t GetI1() const;
+    std::int16_t GetI2() const;
+    std::int32_t GetI4() const;
+    long long GetI8() const;
+    std::uint8_t GetUI1() const;
+    std::uint16_t GetUI2() const;
+    std::uint32_t GetUI4() const;
+    unsigned long long GetUI8() const;
+    float GetR4() const;
+    double GetR8() const;
+    std::uint16_t GetYear() const;
+    std::uint8_t GetMonth() const;
+    std::uint8_t GetDay() const;
+    char16_t GetChar() const;
+    bool GetBoolean() const;
+
+    /// Moves the text in; pass an rvalue to spare the copy.
+    void SetString(std::u16string value);
+    std::u16string GetString() const;
+    /// The text itself, valid until the variant changes.
+    const std::u16string& GetStringRef() const;
+
+    /// Adds a reference to the object, which may be null.
+    void SetXmlObject(CXmlObjectBase* object);
+    CSmartPtr<CXmlObjectBase> GetXmlObject() const;
+
+    /// A scalar in its low bits, or an owning pointer; zero in all other bits.
+    union Cell {
+        std::uint64_t bits = 0;
+        void* payload;
+    };
+
+    bool m_isNil = false;
+    ItemType m_type = ItemType_Invalid;
+    Cell m_value;
+
+private:
+    void SetBits(ItemType type, std::uint64_t bits);
+    void* GetPayload(ItemType type) const;
+};
+
+} // namespace KzXmlLib10

@@ -1,0 +1,164 @@
+#include <KzXmlLib10/values/KzVariant.h>
+
+#include "object/Throw.h"
+#include "values/Messages.h"
+#include "values/Payload.h"
+
+#include <bit>
+#include <utility>
+
+namespace KzXmlLib10 {
+
+// The cell holds
+//     i4 -1        bits 0x00000000FFFFFFFF
+//     r4 1.5       bits 0x000000003FC00000
+//     boolean      bits 0 or 1
+//     string       payload -> std::u16string, of the variant's own
+//     xmlObject    payload -> CXmlObjectBase, one reference of which is the variant's; or null
+//     nil, empty   bits 0
+
+namespace {
+
+constexpr const char16_t* typeNames[] = {
+    nullptr,      u"hexBinary", u"base64Binary", u"i1",      u"i2",      u"i4",      u"i8",
+    u"ui1",       u"ui2",       u"ui4",          u"ui8",     u"r4",      u"r8",      u"duration",
+    u"yearMonth", u"monthDay",  u"year",         u"month",   u"day",     u"date",    u"datetime",
+    u"time",      u"char",      u"string",       u"boolean", u"decimal", u"integer",
+};
+
+/// How the kind owns its payload; null for kinds that have none.
+const PayloadKind* FindPayloadKind(ItemType type) {
+    switch (type) {
+    case ItemType_string:
+        return &HeapValue<std::u16string>;
+    default:
+        return nullptr;
+    }
+}
+
+} // namespace
+
+KzVariant::KzVariant(const KzVariant& other) : KzVariant() { *this = other; }
+
+KzVariant::KzVariant(KzVariant&& other) noexcept
+    : m_isNil(std::exchange(other.m_isNil, false)), m_type(std::exchange(other.m_type, ItemType_Invalid)),
+      m_value(std::exchange(other.m_value, Cell())) {}
+
+KzVariant::~KzVariant() { Clear(); }
+
+KzVariant& KzVariant::operator=(const KzVariant& other) {
+    if (this == &other) {
+        Clear(); // Deliberate: self-assignment empties.
+        return *this;
+    }
+    // The old payload goes last: it may be the object that `other` lives in.
+    const KzVariant old(std::move(*this));
+    m_type = other.m_type;
+    m_isNil = other.m_isNil;
+    if (m_isNil)
+        return *this;
+    if (m_type < ItemType_Invalid || m_type > ItemType_xmlCollection)
+        Throw<CKzException>(messages::UnknownType);
+    const PayloadKind* kind = FindPayloadKind(m_type);
+    if (!kind)
+        m_value = other.m_value;
+    else if (other.m_value.payload)
+        m_value.payload = kind->copy(other.m_value.payload);
+    return *this;
+}
+
+KzVariant& KzVariant::operator=(KzVariant&& other) noexcept {
+    KzVariant taken(std::move(other));
+    std::swap(m_isNil, taken.m_isNil);
+    std::swap(m_type, taken.m_type);
+    std::swap(m_value, taken.m_value);
+    return *this;
+}
+
+void KzVariant::Clear() {
+    if (m_type == ItemType_Invalid)
+        return;
+    m_isNil = false;
+    const ItemType type = std::exchange(m_type, ItemType_Invalid);
+    const Cell cell = std::exchange(m_value, Cell());
+    if (const PayloadKind* kind = FindPayloadKind(type); kind && cell.payload)
+        kind->letGo(cell.payload);
+}
+
+bool KzVariant::IsValid() const { return m_type != ItemType_Invalid || m_isNil; }
+
+void KzVariant::SetInvalid() { Clear(); }
+
+void KzVariant::SetNil() {
+    const ItemType type = m_type;
+    Clear();
+    m_type = type;
+    m_isNil = true;
+}
+
+bool KzVariant::IsNil() const { return m_isNil; }
+ItemType KzVariant::GetTypeAsEnum() const { return m_type; }
+
+std::u16string KzVariant::GetType() const {
+    if (m_type < ItemType_hexBinary || m_type > ItemType_integer)
+        Throw<CKzException>(messages::InvalidType, m_type);
+    return typeNames[m_type];
+}
+
+void KzVariant::SetBits(ItemType type, std::uint64_t bits) {
+    Clear();
+    m_type = type;
+    m_value.bits = bits;
+}
+
+void* KzVariant::GetPayload(ItemType type) const {
+    if (m_type != type || !m_value.payload)
+        Throw<CKzInvalidStateException>(messages::NoSuchPayload, m_type, type);
+    return m_value.payload;
+}
+
+void KzVariant::SetI1(std::int8_t value) { SetBits(ItemType_i1, static_cast<std::uint8_t>(value)); }
+void KzVariant::SetI2(std::int16_t value) { SetBits(ItemType_i2, static_cast<std::uint16_t>(value)); }
+void KzVariant::SetI4(std::int32_t value) { SetBits(ItemType_i4, static_cast<std::uint32_t>(value)); }
+void KzVariant::SetI8(long long value) { SetBits(ItemType_i8, static_cast<std::uint64_t>(value)); }
+void KzVariant::SetUI1(std::uint8_t value) { SetBits(ItemType_ui1, value); }
+void KzVariant::SetUI2(std::uint16_t value) { SetBits(ItemType_ui2, value); }
+void KzVariant::SetUI4(std::uint32_t value) { SetBits(ItemType_ui4, value); }
+void KzVariant::SetUI8(unsigned long long value) { SetBits(ItemType_ui8, value); }
+void KzVariant::SetR4(float value) { SetBits(ItemType_r4, std::bit_cast<std::uint32_t>(value)); }
+void KzVariant::SetR8(double value) { SetBits(ItemType_r8, std::bit_cast<std::uint64_t>(value)); }
+void KzVariant::SetYear(std::uint16_t value) { SetBits(ItemType_year, value); }
+void KzVariant::SetMonth(std::uint8_t value) { SetBits(ItemType_month, value); }
+void KzVariant::SetDay(std::uint8_t value) { SetBits(ItemType_day, value); }
+void KzVariant::SetChar(char16_t value) { SetBits(ItemType_char, value); }
+void KzVariant::SetBoolean(bool value) { SetBits(ItemType_boolean, value); }
+
+std::int8_t KzVariant::GetI1() const { return static_cast<std::int8_t>(m_value.bits); }
+std::int16_t KzVariant::GetI2() const { return static_cast<std::int16_t>(m_value.bits); }
+std::int32_t KzVariant::GetI4() const { return static_cast<std::int32_t>(m_value.bits); }
+long long KzVariant::GetI8() const { return static_cast<long long>(m_value.bits); }
+std::uint8_t KzVariant::GetUI1() const { return static_cast<std::uint8_t>(m_value.bits); }
+std::uint16_t KzVariant::GetUI2() const { return static_cast<std::uint16_t>(m_value.bits); }
+std::uint32_t KzVariant::GetUI4() const { return static_cast<std::uint32_t>(m_value.bits); }
+unsigned long long KzVariant::GetUI8() const { return m_value.bits; }
+float KzVariant::GetR4() const { return std::bit_cast<float>(GetUI4()); }
+double KzVariant::GetR8() const { return std::bit_cast<double>(m_value.bits); }
+std::uint16_t KzVariant::GetYear() const { return GetUI2(); }
+std::uint8_t KzVariant::GetMonth() const { return GetUI1(); }
+std::uint8_t KzVariant::GetDay() const { return GetUI1(); }
+char16_t KzVariant::GetChar() const { return GetUI2(); }
+bool KzVariant::GetBoolean() const { return GetUI1() != 0; }
+
+void KzVariant::SetString(std::u16string value) {
+    Clear();
+    m_type = ItemType_string;
+    m_value.payload = new std::u16string(std::move(value));
+}
+
+std::u16string KzVariant::GetString() const { return GetStringRef(); }
+
+const std::u16string& KzVariant::GetStringRef() const {
+    return *static_cast<const std::u16string*>(GetPayload(ItemType_string));
+}
+
+} // namespace KzXmlLib10
