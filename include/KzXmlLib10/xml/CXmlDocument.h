@@ -1,0 +1,95 @@
+#pragma once
+
+#include <KzXmlLib10/object/CInstanceMonitor.h>
+#include <KzXmlLib10/object/Enumerations.h>
+#include <KzXmlLib10/object/Export.h>
+#include <KzXmlLib10/object/Fwd.h>
+#include <KzXmlLib10/xml/CXmlElement.h>
+
+#include <cstddef>
+#include <cstdint>
+#include <functional>
+#include <map>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace KzXmlLib10 {
+
+/// A small read-only tree of elements: the form in which every input reaches the objects.
+///
+///     CXmlDocument document;
+///     document.LoadXml(u"<order xmlns='urn:o'><id>7</id></order>");
+///     document.GetDocumentElement()->GetFirstElement()->GetText(); // u"7"
+///
+/// A callback, given at construction, is called for each element as it ends; where it returns true the
+/// element is dropped, so that documents of any size can be read a record at a time. What it throws ends the
+/// load and reaches the caller.
+///
+/// A document owns its tree and may be loaded repeatedly; each load lets the tree before it go. It keeps a
+/// pointer to the context, which the caller keeps alive. It belongs to one thread.
+///
+/// All failures of loading are CKzException with the words of the parser and the line, such as "mismatched
+/// tag at line 3". After a failure the tree may be there in part.
+class QUILLON_EXPORT CXmlDocument : public CInstanceMonitor {
+public:
+    /// Uses the default context of the process.
+    CXmlDocument();
+    explicit CXmlDocument(const CXmlSerializationContext& context);
+    /// Deliberate: an answer of true for the root is passed over; there is no parent to remove it from.
+    explicit CXmlDocument(bool (*elementCallback)(CXmlElement*));
+    CXmlDocument(bool (*elementCallback)(CXmlElement*), const CXmlSerializationContext& context);
+    CXmlDocument(const CXmlDocument&) = delete;
+    CXmlDocument& operator=(const CXmlDocument&) = delete;
+    ~CXmlDocument() override;
+
+    /// Lets the tree, the input and the declarations of namespaces go.
+    virtual void Cleanup();
+
+    /// Reads zero-terminated text in the encoding that it declares, UTF-8 if it declares none.
+    /// Empty text fails with "XML String is empty!", null with CKzInvalidParamException.
+    void LoadXml(const char* text);
+    /// Reads zero-terminated UTF-16 text, whatever encoding it declares.
+    ///
+    /// Deliberate: empty text fails in the parser, with "no element found at line 1".
+    void LoadXml(const char16_t* text);
+
+    /// The root, or null.
+    CXmlElement* GetDocumentElement() const { return m_documentElement.get(); }
+
+    /// The namespace that the document declared last for a prefix, or an empty string. The empty prefix
+    /// stands for the default namespace. Null throws CKzInvalidParamException.
+    ///
+    /// Deliberate: declarations have no scope here; the last one of a prefix in the document holds for all.
+    std::u16string LookupNamespaceFromAlias(const char16_t* alias) const;
+
+private:
+    friend class CExpatReader;
+    friend class CFastInfosetReader;
+
+    void Init();
+    void ParseText(const char16_t* protocolEncoding = nullptr);
+    unsigned char* AllocateBuffer(std::uint64_t size);
+
+    CXmlElement* AddDocElement(std::u16string_view namespaceUri, std::u16string_view localName);
+    CXmlElement* AddChildElement(std::u16string_view namespaceUri, std::u16string_view localName);
+    void EndElement();
+    void AddElementAttribute(CXmlElement* element, std::u16string_view localName, std::u16string_view value,
+                             std::u16string_view namespaceUri);
+    void AppendTextExcludingCR(CXmlElement* element, const char16_t* text);
+    void AppendTextExcludingCR(CXmlElement* element, const char16_t* text, unsigned long length);
+
+    std::unique_ptr<CXmlElement> m_documentElement;
+    std::vector<CXmlElement*> m_elementStack;
+    std::map<std::u16string, std::u16string, std::less<>> m_namespaceAliases;
+    std::unique_ptr<unsigned char[]> m_buffer;
+    std::uint32_t m_bufferSize = 0;
+    SchemaType m_schemaType;
+    bool (*m_elementCallback)(CXmlElement*);
+    const CXmlSerializationContext* m_context;
+    /// For each open element the sibling before it, so that dropping a child needs no walk.
+    std::vector<CXmlElement*> m_previousSiblings;
+};
+
+} // namespace KzXmlLib10

@@ -1,0 +1,64 @@
+#pragma once
+
+#include "xml/Expat.h"
+
+#include <KzXmlLib10/object/CInstanceMonitor.h>
+#include <KzXmlLib10/object/Fwd.h>
+
+#include <cstdint>
+#include <exception>
+#include <memory>
+#include <string_view>
+
+namespace KzXmlLib10 {
+
+/// Feeds the buffer of a CXmlDocument to expat and builds the document's tree from what expat reports.
+///
+///     CExpatReader reader(&document);
+///     reader.Initialize();
+///     reader.ParseChunk(true);
+///
+/// Lives on the stack of the load. Encodings are expat's business. No handler is set for comments, processing
+/// instructions, document types and external entities: the first three leave no trace, the last are never
+/// opened.
+///
+/// No exception crosses expat, which is C: what a handler throws is kept, ends the parse and leaves
+/// ParseChunk.
+class CExpatReader : public CInstanceMonitor {
+public:
+    explicit CExpatReader(CXmlDocument* document);
+    CExpatReader(const CExpatReader&) = delete;
+    CExpatReader& operator=(const CExpatReader&) = delete;
+    ~CExpatReader() override;
+
+    /// Creates the parser. A protocol encoding overrules what the document declares; null leaves it to expat.
+    void Initialize(const char16_t* protocolEncoding = nullptr);
+
+    /// Parses the document's buffer; `isFinal` says that nothing follows.
+    void ParseChunk(bool isFinal);
+
+private:
+    static void XMLCALL StartElementHandler(void* reader, const XML_Char* name, const XML_Char** attributes);
+    static void XMLCALL EndElementHandler(void* reader, const XML_Char* name);
+    static void XMLCALL StartNamespaceDeclHandler(void* reader, const XML_Char* prefix, const XML_Char* uri);
+    static void XMLCALL EndNamespaceDeclHandler(void* reader, const XML_Char* prefix);
+    static void XMLCALL CharacterDataHandler(void* reader, const XML_Char* text, int length);
+    static void XMLCALL StartCdataHandler(void* reader);
+    static void XMLCALL EndCdataHandler(void* reader);
+
+    /// Runs a handler's work at expat's border.
+    template <class Action>
+    static void Handle(void* reader, Action action) noexcept;
+
+    void StartElement(const char16_t* name, const XML_Char** attributes);
+    void AppendText(std::u16string_view text);
+    [[noreturn]] void Fail();
+
+    CXmlDocument* m_document;
+    std::unique_ptr<unsigned char[]> m_buffer;
+    std::uint32_t m_bufferSize = 1024;
+    expat::Parser m_parser;
+    std::exception_ptr m_failure;
+};
+
+} // namespace KzXmlLib10

@@ -1,0 +1,31 @@
+#include <KzXmlLib10/xml/CXmlAttribute.h>
+
+namespace KzXmlLib10 {
+
+namespace {
+
+/// The schema-instance or the xmlns namespace.
+bool IsReservedNamespace(std::u16string_view uri) {
+    return uri == u"http://www.w3.org/2001/XMLSchema-instance" || uri == u"http://www.w3.org/2000/xmlns/";
+}
+
+} // namespace
+
+CXmlAttribute::CXmlAttribute(std::u16string_view localName, std::u16string_view value,
+                             std::u16string_view namespaceUri)
+    : CInstanceMonitor(u"CXmlAttribute"), m_localName(localName), m_value(value),
+      m_namespaceUri(namespaceUri) {}
+
+CXmlAttribute::~CXmlAttribute() = default;
+
+bool CXmlAttribute::IsNamespaceAttribute() const {
+    return IsReservedNamespace(m_namespaceUri) &&
+           (m_localName == u"xmlns" || m_localName == u"type" || m_localName == u"schemaLocation" ||
+            m_localName == u"noNamespaceSchemaLocation");
+}
+
+bool CXmlAttribute::IsNilAttribute() const {
+    return m_localName == u"nil" && IsReservedNamespace(m_namespaceUri);
+}
+
+} // namespace KzXmlLib10

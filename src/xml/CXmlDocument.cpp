@@ -1,0 +1,154 @@
+#include <KzXmlLib10/xml/CXmlDocument.h>
+
+#include "object/Throw.h"
+#include "xml/CExpatReader.h"
+#include "xml/Messages.h"
+
+#include <KzXmlLib10/object/CXmlSerializationContext.h>
+
+#include <cstring>
+#include <limits>
+
+namespace KzXmlLib10 {
+
+namespace {
+
+template <class C>
+void RequireText(const C* text) {
+    if (!text)
+        Throw<CKzInvalidParamException>(messages::TextIsNull);
+}
+
+} // namespace
+
+CXmlDocument::CXmlDocument() : CXmlDocument(nullptr, CXmlSerializationContext::GetDefaultContext()) {}
+
+CXmlDocument::CXmlDocument(const CXmlSerializationContext& context) : CXmlDocument(nullptr, context) {}
+
+CXmlDocument::CXmlDocument(bool (*elementCallback)(CXmlElement*))
+    : CXmlDocument(elementCallback, CXmlSerializationContext::GetDefaultContext()) {}
+
+CXmlDocument::CXmlDocument(bool (*elementCallback)(CXmlElement*), const CXmlSerializationContext& context)
+    : CInstanceMonitor(u"CXmlDocument"), m_schemaType(context.GetSchemaType()),
+      m_elementCallback(elementCallback), m_context(&context) {}
+
+CXmlDocument::~CXmlDocument() = default;
+
+void CXmlDocument::Cleanup() {
+    m_documentElement.reset();
+    m_buffer.reset();
+    m_bufferSize = 0;
+    m_elementStack.clear();
+    m_previousSiblings.clear();
+    m_namespaceAliases.clear();
+}
+
+void CXmlDocument::Init() {
+    m_documentElement.reset();
+    m_buffer.reset();
+    m_bufferSize = 0;
+    m_schemaType = m_context->GetSchemaType();
+}
+
+void CXmlDocument::LoadXml(const char* text) {
+    RequireText(text);
+    Cleanup();
+    const std::size_t size = std::strlen(text);
+    if (size == 0)
+        Throw<CKzException>(messages::XmlStringIsEmpty);
+    std::memcpy(AllocateBuffer(size), text, size);
+    ParseText();
+}
+
+void CXmlDocument::LoadXml(const char16_t* text) {
+    RequireText(text);
+    Cleanup();
+    constexpr char16_t byteOrderMark = 0xFEFF;
+    const std::uint64_t textSize = std::uint64_t{sizeof *text} * std::char_traits<char16_t>::length(text);
+    unsigned char* buffer = AllocateBuffer(sizeof byteOrderMark + textSize);
+    std::memcpy(buffer, &byteOrderMark, sizeof byteOrderMark);
+    std::memcpy(buffer + sizeof byteOrderMark, text, textSize);
+    // The parser would refuse a declaration of another encoding, had it only the mark to go by.
+    ParseText(u"UTF-16");
+}
+
+/// Makes the buffer for an input of `size` bytes.
+unsigned char* CXmlDocument::AllocateBuffer(std::uint64_t size) {
+    if (size > std::numeric_limits<std::uint32_t>::max())
+        Throw<CKzException>(messages::InputTooLarge, size);
+    m_buffer = std::make_unique_for_overwrite<unsigned char[]>(size);
+    m_bufferSize = static_cast<std::uint32_t>(size);
+    return m_buffer.get();
+}
+
+void CXmlDocument::ParseText(const char16_t* protocolEncoding) {
+    CExpatReader reader(this);
+    reader.Initialize(protocolEncoding);
+    reader.ParseChunk(true);
+}
+
+std::u16string CXmlDocument::LookupNamespaceFromAlias(const char16_t* alias) const {
+    RequireText(alias);
+    const auto found = m_namespaceAliases.find(std::u16string_view(alias));
+    return found == m_namespaceAliases.end() ? std::u16string() : found->second;
+}
+
+CXmlElement* CXmlDocument::AddDocElement(std::u16string_view namespaceUri, std::u16string_view localName) {
+    m_documentElement.reset(new CXmlElement(this));
+    CXmlElement* root = m_documentElement.get();
+    root->SetNamespace(namespaceUri);
+    root->SetElementName(localName);
+    m_previousSiblings.push_back(nullptr);
+    m_elementStack.push_back(root);
+    return root;
+}
+
+CXmlElement* CXmlDocument::AddChildElement(std::u16string_view namespaceUri, std::u16string_view localName) {
+    CXmlElement* parent = m_elementStack.back();
+    CXmlElement* previous = parent->m_lastChild;
+    CXmlElement* child = parent->CreateNewChildElement();
+    child->SetNamespace(namespaceUri);
+    child->SetElementName(localName);
+    m_previousSiblings.push_back(previous);
+    m_elementStack.push_back(child);
+    return child;
+}
+
+void CXmlDocument::EndElement() {
+    CXmlElement* element = m_elementStack.back();
+    CXmlElement* previous = m_previousSiblings.back();
+    m_elementStack.pop_back();
+    m_previousSiblings.pop_back();
+    if (m_elementCallback && m_elementCallback(element) && !m_elementStack.empty())
+        m_elementStack.back()->RemoveLastChildElement(previous);
+}
+
+void CXmlDocument::AddElementAttribute(CXmlElement* element, std::u16string_view localName,
+                                       std::u16string_view value, std::u16string_view namespaceUri) {
+    element->AddAttribute(localName, value, namespaceUri);
+}
+
+void CXmlDocument::AppendTextExcludingCR(CXmlElement* element, const char16_t* text) {
+    AppendTextExcludingCR(element, text, std::numeric_limits<unsigned long>::max());
+}
+
+/// Appends up to `length` code units, or up to the first zero; the greatest length stands for zero-terminated
+/// text.
+///
+/// Deliberate: all carriage returns are left out. The parser has normalised line ends already, so what goes
+/// here came from character references.
+void CXmlDocument::AppendTextExcludingCR(CXmlElement* element, const char16_t* text, unsigned long length) {
+    unsigned long runStart = 0;
+    for (unsigned long i = 0;; ++i) {
+        const bool atEnd = i == length || text[i] == u'\0';
+        if (!atEnd && text[i] != u'\r')
+            continue;
+        if (i > runStart)
+            element->AppendText(text + runStart, i - runStart);
+        if (atEnd)
+            return;
+        runStart = i + 1;
+    }
+}
+
+} // namespace KzXmlLib10

@@ -1,0 +1,310 @@
+#include <KzXmlLib10/xml/CXmlDocument.h>
+
+#include "support/DumpTree.h"
+#include "support/Failure.h"
+
+#include <KzXmlLib10/object/CXmlSerializationContext.h>
+
+#include <gtest/gtest.h>
+
+#include <chrono>
+#include <stdexcept>
+#include <string>
+
+namespace KzXmlLib10 {
+namespace {
+
+using support::DumpTree;
+using support::Failure;
+
+template <class Text>
+std::string Tree(const Text& xml, const CXmlSerializationContext& context = CXmlSerializationContext()) {
+    CXmlDocument document(context);
+    document.LoadXml(xml);
+    return DumpTree(document.GetDocumentElement());
+}
+
+std::string Repeat(const std::string& text, int count) {
+    std::string result;
+    for (int i = 0; i < count; ++i)
+        result += text;
+    return result;
+}
+
+CXmlSerializationContext NoNamespaces() {
+    CXmlSerializationContext context;
+    context.SetSchemaType(SchemaType_NoNamespaces);
+    return context;
+}
+
+CXmlSerializationContext KeepCData() {
+    CXmlSerializationContext context;
+    context.SetStripCDATA(false);
+    return context;
+}
+
+// What the callbacks of the tests below have seen.
+std::string g_seen;
+int g_calls;
+
+TEST(CXmlDocument, BuildsTheTreeOfADocument) {
+    const struct {
+        const char* xml;
+        const char* tree;
+    } rows[] = {
+        {"<a/>", "a"},
+        {"<a b='1' d='3' c='2'/>", "a[@b=1 @d=3 @c=2]"},
+        {"<a>\n\t<b>1</b>\n\t<c>2</c>\n</a>", R"(a["\n\t\n\t\n" b["1"] c["2"]])"},
+        {"<a>x<b/>y<c><d/></c>z</a>", R"(a["xyz" b c[d]])"},
+        {"<?pi x?><!--c--><!DOCTYPE a [<!ENTITY e 'E'>]><a><!--c-->&e;<?pi?>&lt;</a><!--c-->", R"(a["E<"])"},
+        // Line ends are normalised by the parser; what is written as a reference is dropped here.
+        {"<a>1\r\n2&#13;3&#13;&#13;4&#13;</a>", R"(a["1\n234"])"},
+        {"<a>&#13;</a>", "a"},
+        {"<a b='1&#13;2'/>", R"(a[@b=1\r2])"},
+        {"<a>x<![CDATA[<y>]]>z<![CDATA[]]></a>", R"(a["x<y>z"])"},
+        // Names keep their namespace and lose their prefix.
+        {"<a xmlns='urn:d' b='1'><c/></a>", "{urn:d}a[@b=1 {urn:d}c]"},
+        {"<p:a xmlns:p='urn:p' p:b='1' b='2'><c/></p:a>", "{urn:p}a[@{urn:p}b=1 @b=2 c]"},
+        {"<a xmlns='urn:d'><b xmlns=''/></a>", "{urn:d}a[b]"},
+        {"<a xml:lang='en'/>", "a[@{http://www.w3.org/XML/1998/namespace}lang=en]"},
+    };
+    for (const auto& [xml, tree] : rows)
+        EXPECT_EQ(Tree(xml), tree) << xml;
+}
+
+TEST(CXmlDocument, KeepsTheDelimitersOfCDataIfAsked) {
+    EXPECT_EQ(Tree("<a>x<![CDATA[<y>\n]]>z<b><![CDATA[]]></b></a>", KeepCData()),
+              R"(a["x<![CDATA[<y>\n]]>z" b["<![CDATA[]]>"]])");
+}
+
+TEST(CXmlDocument, TakesNamesWholeWithoutNamespaces) {
+    EXPECT_EQ(Tree("<p:a xmlns:p='u' xmlns='v' q:b='1'/>", NoNamespaces()),
+              "p:a[@xmlns:p=u @xmlns=v @q:b=1]");
+    CXmlSerializationContext context = NoNamespaces();
+    CXmlDocument document(context);
+    document.LoadXml("<a xmlns='v'/>");
+    EXPECT_EQ(document.LookupNamespaceFromAlias(u""), u"");
+}
+
+TEST(CXmlDocument, ReadsTheEncodingsOfTheParser) {
+    const std::string expected = "a[@b=\xC3\xA4 \"\xE2\x82\xAC\xF0\x9F\x98\x80\"]";
+    EXPECT_EQ(Tree("<a b='\xC3\xA4'>\xE2\x82\xAC\xF0\x9F\x98\x80</a>"), expected);
+    EXPECT_EQ(Tree("\xEF\xBB\xBF<?xml version='1.0' encoding='UTF-8'?><a b='\xC3\xA4'>&#x20AC;&#x1F600;</a>"),
+              expected);
+    EXPECT_EQ(Tree("<?xml version='1.0' encoding='ISO-8859-1'?><a b='\xE4'>&#x20AC;&#x1F600;</a>"), expected);
+    EXPECT_EQ(Tree("<?xml version='1.0' encoding='US-ASCII'?><a b='&#xE4;'>&#x20AC;&#x1F600;</a>"), expected);
+    EXPECT_EQ(Failure([] { Tree("<?xml version='1.0' encoding='windows-1252'?><a/>"); }),
+              "unknown encoding at line 1");
+}
+
+TEST(CXmlDocument, ReadsWideTextWhateverItDeclares) {
+    for (const char16_t* encoding :
+         {u"UTF-8", u"UTF-16", u"UTF-16BE", u"UTF-16LE", u"ISO-8859-1", u"windows-1252", u"none-such"}) {
+        const std::u16string xml = u"<?xml version='1.0' encoding='" + std::u16string(encoding) +
+                                   u"'?>\n<a b='\u00E4'>\u20AC\U0001F600</a>";
+        EXPECT_EQ(Tree(xml.c_str()), "a[@b=\xC3\xA4 \"\xE2\x82\xAC\xF0\x9F\x98\x80\"]");
+    }
+    EXPECT_EQ(Tree(u"<a xmlns='urn:d'/>"), "{urn:d}a");
+}
+
+TEST(CXmlDocument, FailsWithTheWordsOfTheParserAndTheLine) {
+    const struct {
+        const char* xml;
+        const char* message;
+    } rows[] = {
+        {"", "XML String is empty!"},
+        {" ", "no element found at line 1"},
+        {"<a>\n<b>\n</a>", "mismatched tag at line 3"},
+        {"<a>\n", "no element found at line 2"},
+        {"<a>\n\n<b", "unclosed token at line 3"},
+        {"<a/>\n<b/>", "junk after document element at line 2"},
+        {"<a>&x;</a>", "undefined entity at line 1"},
+        {"<p:a/>", "unbound prefix at line 1"},
+        {"<a b='1' b='2'/>", "duplicate attribute at line 1"},
+        {"\x1F\x8B\x08", "not well-formed (invalid token) at line 1"},
+        {"<a>\xC3(</a>", "not well-formed (invalid token) at line 1"},
+        // The character that separates namespace and name inside the parser.
+        {"<a xmlns='urn:a|b'/>", "syntax error at line 1"},
+    };
+    for (const auto& [xml, message] : rows)
+        EXPECT_EQ(Failure([&] { Tree(xml); }), message) << xml;
+    EXPECT_EQ(Failure([] { Tree(u""); }), "no element found at line 1");
+    EXPECT_EQ(Failure<CKzInvalidParamException>([] { Tree(static_cast<const char*>(nullptr)); }),
+              "The text is null");
+    EXPECT_EQ(Failure<CKzInvalidParamException>([] { CXmlDocument().LookupNamespaceFromAlias(nullptr); }),
+              "The text is null");
+}
+
+TEST(CXmlDocument, LeavesExternalEntitiesAlone) {
+    EXPECT_EQ(Tree("<!DOCTYPE a SYSTEM 'file:///dev/null' [<!ENTITY e SYSTEM 'file:///etc/hostname'>]>"
+                   "<a>1&e;2</a>"),
+              R"(a["12"])");
+}
+
+TEST(CXmlDocument, StopsEntitiesThatGrowWithoutBounds) {
+    std::string xml = "<!DOCTYPE a [<!ENTITY e0 '0123456789'>";
+    for (int i = 1; i < 20; ++i) {
+        const std::string inner = "&e" + std::to_string(i - 1) + ";";
+        xml += "<!ENTITY e" + std::to_string(i) + " '" + Repeat(inner, 10) + "'>";
+    }
+    EXPECT_EQ(Failure([&] { Tree((xml + "]><a>&e19;</a>").c_str()); }),
+              "limit on input amplification factor (from DTD and entities) breached at line 1");
+}
+
+TEST(CXmlDocument, LooksUpTheLastDeclarationOfAPrefix) {
+    CXmlDocument document;
+    document.LoadXml("<a xmlns='urn:1' xmlns:p='urn:2'><p:b xmlns:p='urn:3'/><p:c xmlns='urn:4'/></a>");
+    EXPECT_EQ(document.LookupNamespaceFromAlias(u""), u"urn:4");
+    EXPECT_EQ(document.LookupNamespaceFromAlias(u"p"), u"urn:3");
+    EXPECT_EQ(document.LookupNamespaceFromAlias(u"q"), u"");
+    document.LoadXml("<a xmlns='urn:5'><b xmlns=''/></a>");
+    EXPECT_EQ(document.LookupNamespaceFromAlias(u""), u"");
+    EXPECT_EQ(document.LookupNamespaceFromAlias(u"p"), u"");
+}
+
+TEST(CXmlDocument, LoadsRepeatedlyAlsoAfterAFailure) {
+    CXmlDocument document;
+    EXPECT_EQ(DumpTree(document.GetDocumentElement()), "null");
+    document.LoadXml("<a/>");
+    EXPECT_EQ(Failure([&] { document.LoadXml("<b><c>"); }), "no element found at line 1");
+    EXPECT_EQ(DumpTree(document.GetDocumentElement()), "b[c]");
+    EXPECT_EQ(Failure([&] { document.LoadXml(""); }), "XML String is empty!");
+    EXPECT_EQ(DumpTree(document.GetDocumentElement()), "null");
+    document.LoadXml(u"<d>1</d>");
+    EXPECT_EQ(DumpTree(document.GetDocumentElement()), R"(d["1"])");
+    EXPECT_EQ(document.GetDocumentElement()->GetDocument(), &document);
+    document.Cleanup();
+    EXPECT_EQ(document.GetDocumentElement(), nullptr);
+}
+
+TEST(CXmlDocument, TakesTheSchemaTypeAtConstructionAndCDataAtEachLoad) {
+    CXmlSerializationContext context;
+    CXmlDocument document(context);
+    context.SetSchemaType(SchemaType_NoNamespaces);
+    context.SetStripCDATA(false);
+    document.LoadXml("<a xmlns='u'><![CDATA[x]]></a>");
+    EXPECT_EQ(DumpTree(document.GetDocumentElement()), R"({u}a["<![CDATA[x]]>"])");
+}
+
+TEST(CXmlDocument, FindsAttributesByExactNameAndNamespace) {
+    CXmlDocument document;
+    document.LoadXml("<a xmlns:p='urn:p' p:x='1' x='2' y=''/>");
+    const CXmlElement* root = document.GetDocumentElement();
+    EXPECT_EQ(root->GetAttribute(u"x", u""), u"2");
+    EXPECT_EQ(root->GetAttribute(u"x", u"urn:p"), u"1");
+    const std::u16string& absent = root->GetAttribute(u"X", u"");
+    EXPECT_EQ(absent, u"");
+    EXPECT_EQ(&absent, &root->GetAttribute(u"x", u"urn:q"));
+    EXPECT_NE(&absent, &root->GetAttribute(u"y", u""));
+}
+
+TEST(CXmlDocument, TellsAttributesThatSteerReading) {
+    const struct {
+        const char* attribute;
+        bool isNamespace;
+        bool isNil;
+    } rows[] = {
+        {"i:type='t'", true, false},
+        {"i:schemaLocation=''", true, false},
+        {"i:noNamespaceSchemaLocation=''", true, false},
+        {"i:xmlns=''", true, false},
+        {"i:nil='false'", false, true},
+        {"i:Type=''", false, false},
+        {"type=''", false, false},
+        {"nil='true'", false, false},
+        {"xml:type=''", false, false},
+    };
+    for (const auto& [text, isNamespace, isNil] : rows) {
+        CXmlDocument document;
+        document.LoadXml(
+            ("<a xmlns:i='http://www.w3.org/2001/XMLSchema-instance' " + std::string(text) + "/>").c_str());
+        const CXmlAttribute* attribute = document.GetDocumentElement()->GetAttributes().at(0);
+        EXPECT_EQ(attribute->IsNamespaceAttribute(), isNamespace) << text;
+        EXPECT_EQ(attribute->IsNilAttribute(), isNil) << text;
+    }
+}
+
+TEST(CXmlDocument, DropsElementsForWhichTheCallbackReturnsTrue) {
+    const auto drop = [](CXmlElement* element) {
+        g_seen += DumpTree(element) + ";";
+        return element->GetLocalName() == u"d" || element->GetLocalName() == u"r";
+    };
+    const struct {
+        const char* xml;
+        const char* seen;
+        const char* tree;
+    } rows[] = {
+        {"<r><d>1</d><d>2</d></r>", R"(d["1"];d["2"];r;)", "r"},
+        {"<r><k/><d/><k/><d/><d/><k/></r>", "k;d;k;d;d;k;r[k k k];", "r[k k k]"},
+        {"<r><d/><k><d/><k/><d/></k><d/></r>", "d;d;k;d;k[k];d;r[k[k]];", "r[k[k]]"},
+        {"<r><d><d/><k/></d></r>", "d;k;d[k];r;", "r"},
+    };
+    for (const auto& [xml, seen, tree] : rows) {
+        g_seen.clear();
+        CXmlDocument document(drop);
+        document.LoadXml(xml);
+        EXPECT_EQ(g_seen, seen);
+        EXPECT_EQ(DumpTree(document.GetDocumentElement()), tree) << "the root stays whatever the answer";
+    }
+}
+
+TEST(CXmlDocument, PassesOnWhatTheCallbackThrows) {
+    const auto fail = [](CXmlElement* element) -> bool {
+        ++g_calls;
+        if (element->GetLocalName() == u"library")
+            throw CKzInvalidStateException(u"enough");
+        if (element->GetLocalName() == u"foreign")
+            throw std::out_of_range("enough");
+        return false;
+    };
+    g_calls = 0;
+    CXmlDocument document(fail);
+    EXPECT_EQ(Failure<CKzInvalidStateException>([&] { document.LoadXml("<r><a/><library/><b/><c/></r>"); }),
+              "enough");
+    EXPECT_EQ(g_calls, 2) << "no callback after the one that threw";
+    EXPECT_THROW(document.LoadXml(u"<r><a/><foreign/><!-- not <even> well-formed"), std::out_of_range);
+    EXPECT_THROW(document.LoadXml(u"<foreign/>"), std::out_of_range) << "at the last tag";
+    document.LoadXml("<r><a/></r>");
+    EXPECT_EQ(DumpTree(document.GetDocumentElement()), "r[a]");
+}
+
+TEST(CXmlDocument, LoadsAndDestroysAMillionLevels) {
+    constexpr int depth = 1'000'000;
+    const std::string open = Repeat("<a>", depth);
+    CXmlDocument document;
+    document.LoadXml((open + Repeat("</a>", depth)).c_str());
+    int levels = 0;
+    for (const CXmlElement* at = document.GetDocumentElement(); at; at = at->GetFirstElement())
+        ++levels;
+    EXPECT_EQ(levels, depth);
+    EXPECT_EQ(Failure([&] { document.LoadXml(open.c_str()); }), "no element found at line 1");
+}
+
+TEST(CXmlDocument, DropsADeepRecordWithoutRecursion) {
+    const auto dropRecord = [](CXmlElement* element) { return element->GetLocalName() == u"record"; };
+    const std::string record = "<record>" + Repeat("<a>", 200'000) + Repeat("</a>", 200'000) + "</record>";
+    CXmlDocument document(dropRecord);
+    document.LoadXml(("<r>" + record + "</r>").c_str());
+    EXPECT_EQ(DumpTree(document.GetDocumentElement()), "r");
+}
+
+// Each shape takes minutes where a walk or a copy stands inside the loop.
+TEST(CXmlDocument, TakesLinearTime) {
+    const auto start = std::chrono::steady_clock::now();
+    const auto dropOdd = [](CXmlElement* element) { return element->GetLocalName() == u"d"; };
+    CXmlDocument records(dropOdd);
+    records.LoadXml(("<r>" + Repeat("<k/><d/>", 100'000) + "</r>").c_str());
+
+    CXmlDocument document;
+    document.LoadXml(("<r>" + Repeat("&lt;&#13;", 500'000) + "</r>").c_str());
+    EXPECT_EQ(document.GetDocumentElement()->GetText().size(), 500'000u);
+    std::string attributes;
+    for (int i = 0; i < 50'000; ++i)
+        attributes += " a" + std::to_string(i) + "=''";
+    document.LoadXml(("<r" + attributes + "/>").c_str());
+    EXPECT_EQ(document.GetDocumentElement()->GetAttributes().size(), 50'000u);
+    EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(10));
+}
+
+} // namespace
+} // namespace KzXmlLib10
