@@ -12,4 +12,14 @@ inline constexpr char16_t InputTooLarge[] =
     u"The XML input has %I64u bytes; the parser takes at most 4294967295";
 inline constexpr char16_t ParserCharactersDiffer[] = u"The expat library at hand has no 16-bit characters";
 
+// Writing
+inline constexpr char16_t InvalidEolType[] = u"Invalid EOL type.";
+inline constexpr char16_t AttributeAfterContent[] = u"Attributes must be added before elements";
+inline constexpr char16_t ElementNotClosed[] = u"An Element has not been closed.";
+inline constexpr char16_t NoOpenElement[] = u"There is no open element to write to";
+inline constexpr char16_t NoPrefixLeft[] = u"There is no namespace prefix left to generate";
+inline constexpr char16_t ZeroChunkSize[] = u"The chunk size of a text buffer must not be 0";
+inline constexpr char16_t OutputTooLarge[] =
+    u"The text is too large; a buffer takes at most 4294967295 characters";
+
 } // namespace KzXmlLib10::messages

@@ -1,0 +1,70 @@
+#include <KzXmlLib10/xml/CStringBuffer.h>
+
+#include <KzXmlLib10/object/CKzException.h>
+#include <KzXmlLib10/xml/CTextStream.h>
+
+#include <gtest/gtest.h>
+
+using namespace KzXmlLib10;
+
+namespace {
+
+std::u16string TextOf(CStringBuffer& buffer) {
+    const char16_t* text = buffer.GetString();
+    EXPECT_EQ(std::u16string_view(text).size(), buffer.GetLength());
+    return text;
+}
+
+TEST(CStringBuffer, GathersTextAcrossChunks) {
+    for (const std::uint32_t chunkSize : {1u, 2u, 3u, 7u, 4095u}) {
+        CStringBuffer buffer(chunkSize);
+        std::u16string expected;
+        EXPECT_EQ(TextOf(buffer), u"");
+        for (int i = 0; i < 40; ++i) {
+            const std::u16string piece(static_cast<std::size_t>(i % 9), static_cast<char16_t>(u'a' + i % 26));
+            buffer.Append(piece);
+            buffer.AppendChar(u'-');
+            buffer.Append(u"xy");
+            expected += piece + u"-xy";
+            if (i % 10 == 3)
+                buffer.AddChunk(); // closes a chunk that is not full
+            if (i % 13 == 5) {
+                EXPECT_EQ(TextOf(buffer), expected); // joins; appending goes on behind
+            }
+        }
+        EXPECT_EQ(TextOf(buffer), expected);
+        buffer.Append(buffer.GetString());
+        EXPECT_EQ(TextOf(buffer), expected + expected);
+    }
+}
+
+TEST(CStringBuffer, StreamOpenEmptiesAndReusesASingleChunk) {
+    CTextStream stream(XmlEncoding_None);
+    CStringBuffer& buffer = stream.GetBuffer();
+    buffer.Append(u"first");
+    const char16_t* chunk = buffer.GetString();
+    stream.Open();
+    EXPECT_EQ(TextOf(buffer), u"");
+    buffer.Append(u"2nd");
+    EXPECT_EQ(TextOf(buffer), u"2nd");
+    EXPECT_EQ(buffer.GetString(), chunk);
+
+    buffer.Append(std::u16string(10'000, u'x'));
+    stream.Open();
+    EXPECT_EQ(TextOf(buffer), u"");
+    buffer.AppendChar(u'y');
+    EXPECT_EQ(TextOf(buffer), u"y");
+}
+
+TEST(CStringBuffer, RefusesMoreCharactersThanItsLengthCounts) {
+    CStringBuffer buffer;
+    buffer.Append(u"abc");
+    // Refused by its length alone, so that nothing is read.
+    const std::u16string_view tooLong(buffer.GetString(), 0xFFFF'FFFFu - 2);
+    EXPECT_THROW(buffer.Append(tooLong), CKzException);
+    EXPECT_EQ(TextOf(buffer), u"abc");
+    EXPECT_THROW(buffer.Append(static_cast<const char16_t*>(nullptr)), CKzInvalidParamException);
+    EXPECT_THROW(CStringBuffer(0), CKzInvalidParamException);
+}
+
+} // namespace
