@@ -127,7 +127,7 @@ TEST(CXmlDocument, FailsWithTheWordsOfTheParserAndTheLine) {
         {"<a xmlns='urn:a|b'/>", "syntax error at line 1"},
     };
     for (const auto& [xml, message] : rows)
-        EXPECT_EQ(Failure([text = xml] { Tree(text); }), message) << xml;
+        EXPECT_EQ(Failure([&] { Tree(xml); }), message) << xml;
     EXPECT_EQ(Failure([] { Tree(u""); }), "no element found at line 1");
     EXPECT_EQ(Failure<CKzInvalidParamException>([] { Tree(static_cast<const char*>(nullptr)); }),
               "The text is null");
@@ -270,15 +270,14 @@ TEST(CXmlDocument, PassesOnWhatTheCallbackThrows) {
 
 TEST(CXmlDocument, LoadsAndDestroysAMillionLevels) {
     constexpr int depth = 1'000'000;
+    const std::string open = Repeat("<a>", depth);
     CXmlDocument document;
-    document.LoadXml((Repeat("<a>", depth) + Repeat("</a>", depth)).c_str());
+    document.LoadXml((open + Repeat("</a>", depth)).c_str());
     int levels = 0;
     for (const CXmlElement* at = document.GetDocumentElement(); at; at = at->GetFirstElement())
         ++levels;
     EXPECT_EQ(levels, depth);
-    EXPECT_EQ(Failure([&] { document.LoadXml(Repeat("<a>", depth / 4).c_str()); }),
-              "no element found at line 1")
-        << "a tree in part goes away likewise";
+    EXPECT_EQ(Failure([&] { document.LoadXml(open.c_str()); }), "no element found at line 1");
 }
 
 TEST(CXmlDocument, DropsADeepRecordWithoutRecursion) {

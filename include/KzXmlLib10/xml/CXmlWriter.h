@@ -1,0 +1,158 @@
+#pragma once
+
+#include <KzXmlLib10/object/CInstanceMonitor.h>
+#include <KzXmlLib10/object/ItemType.h>
+
+#include <cstdint>
+#include <map>
+#include <memory>
+#include <string>
+
+namespace KzXmlLib10 {
+
+class NamespaceMap;
+
+/// The sink that objects write themselves into: a sequence of calls in document order, whatever the format.
+///
+///     writer.AddNamespace(u"p", u"urn:p");
+///     writer.StartElement(u"order", u"urn:p");
+///     writer.WriteAttribute(u"id", u"", u"7", ItemType_i4);
+///     writer.WriteText(u"text", ItemType_string);
+///     writer.EndElement();
+///
+/// Attributes come directly behind the start of their element. Names, prefixes, namespaces and characters
+/// are not checked: what XML forbids is passed on. A writer serves one document and one thread, and keeps
+/// one context for each open element. Texts end at their first zero.
+///
+/// Failures are CKzException. Operations that need an open element throw CKzInvalidStateException where
+/// there is none. An exception leaves the output as it stands.
+class QUILLON_EXPORT CXmlWriter : public CInstanceMonitor {
+public:
+    CXmlWriter(const CXmlWriter&) = delete;
+    CXmlWriter& operator=(const CXmlWriter&) = delete;
+    ~CXmlWriter() override;
+
+    /// Prepares the sink. Does nothing here.
+    virtual void Open();
+    /// Ends the document. Throws if an element is still open.
+    virtual void Close();
+
+    /// Sets the default namespace: of the document before its root starts, else silently, with no
+    /// declaration in the output, of the open element and what it will contain. Empty means none.
+    virtual void SetDefaultNamespace(const std::u16string& uri);
+    /// Maps a namespace to a prefix. Scope and silence as in SetDefaultNamespace.
+    virtual void AddNamespace(const std::u16string& alias, const std::u16string& uri);
+
+    virtual void WriteComment(const std::u16string& text) = 0;
+    /// `text` is the whole instruction with its delimiters.
+    virtual void WriteProcessingInstruction(const std::u16string& text) = 0;
+    /// `text` is a whole schema, which goes behind the attributes of the root.
+    virtual void WriteInlineSchema(const std::u16string& text) = 0;
+
+    /// Starts an element. An empty namespace is written without a prefix even below a default namespace.
+    virtual void StartElement(const std::u16string& name, const std::u16string& namespaceUri) = 0;
+    /// Writes character content. An empty text writes nothing. `type` is the kind of value the text stands
+    /// for, for formats that encode values by kind.
+    virtual void WriteText(const std::u16string& text, ItemType type) = 0;
+    /// Ends the innermost open element.
+    virtual void EndElement() = 0;
+
+    /// Writes an attribute of the element just started. Throws once its start tag is closed.
+    virtual void WriteAttribute(const std::u16string& name, const std::u16string& namespaceUri,
+                                const std::u16string& value, ItemType type) = 0;
+    /// Writes xsi:type with a qualified name as its value. Fails as WriteAttribute does.
+    virtual void WriteXsiType(const std::u16string& namespaceUri, const std::u16string& typeName,
+                              ItemType type) = 0;
+    /// Writes xsi:nil="true". Fails as WriteAttribute does.
+    virtual void WriteXsiNil() = 0;
+
+protected:
+    CXmlWriter();
+
+    /// The state of one open element.
+    ///
+    /// A context either has a namespace state of its own or inherits that of the nearest ancestor that has
+    /// one: the default namespace and the map from namespace to prefix.
+    class QUILLON_EXPORT CXmlWriterContext : public CInstanceMonitor {
+    public:
+        /// The context of a root element, with its own copy of the namespaces of the writer.
+        CXmlWriterContext(const std::u16string& name, const std::u16string& namespaceUri,
+                          const std::u16string& defaultNamespace,
+                          const std::map<std::u16string, std::u16string>& namespaces);
+        /// The context of an element inside that of `parent`, which must outlive it. It shares the map of
+        /// its parent.
+        CXmlWriterContext(const std::u16string& name, const std::u16string& namespaceUri,
+                          const CXmlWriterContext& parent);
+        CXmlWriterContext(const CXmlWriterContext&) = delete;
+        CXmlWriterContext& operator=(const CXmlWriterContext&) = delete;
+        /// Destroys the whole chain of parents, in a loop.
+        ~CXmlWriterContext() override;
+
+        /// The default namespace in force.
+        const std::u16string& GetDefaultNamespace() const;
+        /// The map in force.
+        NamespaceMap& GetNamespaceMap() const { return *m_namespaces; }
+        /// The prefix of a namespace in the map in force.
+        /// Deliberate: a namespace that has none enters that map with an empty prefix.
+        const std::u16string& GetAlias(const std::u16string& uri);
+        /// Maps a namespace to a prefix for this element and what it will contain.
+        void AddContextNamespace(const std::u16string& uri, const std::u16string& alias);
+        /// Sets the default namespace of this element and what it will contain.
+        void SetContextDefaultNamespace(const std::u16string& uri);
+
+        /// Whether names in the namespace are written with a prefix here.
+        bool NeedsPrefix(const std::u16string& uri) const {
+            return !uri.empty() && uri != GetDefaultNamespace();
+        }
+        /// Counts one more child element.
+        void CountChild();
+
+        std::int32_t m_childCount = 0;
+        bool m_startTagOpen = true;
+        std::int32_t m_depth = 0;
+        std::u16string m_namespaceUri;
+        std::u16string m_name;
+        std::unique_ptr<CXmlWriterContext> m_parent;
+        bool m_hasAttributes = false;
+
+    private:
+        void OwnNamespaces();
+
+        std::u16string m_defaultNamespace;
+        NamespaceMap* m_namespaces = nullptr;
+        bool m_inherits = false;
+        bool m_ownsMap = false;
+    };
+
+    /// A prefix, and whether it was made just now and so has no declaration yet.
+    struct BoundPrefix {
+        const std::u16string& prefix;
+        bool isNew;
+    };
+
+    /// The prefix of a namespace in a context; generates and adds one if there is none.
+    static BoundPrefix BindPrefix(CXmlWriterContext& context, const std::u16string& uri);
+    /// The first of AA, AB, ... AZ, BA, ... that is no prefix in the map. Throws as MakeAlias does.
+    static std::u16string GenerateAlias(const NamespaceMap& namespaces);
+    /// The n-th generated prefix, from 0. Deliberate: from 676 on the first character leaves the alphabet.
+    /// Throws CKzException where it would reach the surrogates.
+    static std::u16string MakeAlias(std::uint32_t n);
+
+    /// A context for an element that starts inside the current one. EnterContext makes it current.
+    std::unique_ptr<CXmlWriterContext> CreateContext(const std::u16string& name,
+                                                     const std::u16string& namespaceUri) const;
+    void EnterContext(std::unique_ptr<CXmlWriterContext> context);
+    /// Destroys the current context and makes its parent current.
+    void LeaveContext();
+
+    /// The innermost open element. Throws CKzInvalidStateException if there is none.
+    CXmlWriterContext& OpenElement() const;
+    /// Throws unless the start tag of the innermost open element can still take attributes.
+    void RequireOpenStartTag() const;
+
+    std::u16string m_defaultNamespace;
+    std::unique_ptr<CXmlWriterContext> m_context;
+    std::map<std::u16string, std::u16string> m_namespaces;
+};
+
+} // namespace KzXmlLib10
