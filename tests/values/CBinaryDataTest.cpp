@@ -1,0 +1,276 @@
+#include <KzXmlLib10/values/CBinaryData.h>
+
+#include <KzXmlLib10/object/CKzException.h>
+#include <KzXmlLib10/object/Text.h>
+
+#include <gtest/gtest.h>
+
+#include <functional>
+#include <memory>
+#include <string>
+#include <thread>
+#include <vector>
+
+using namespace KzXmlLib10;
+
+namespace {
+
+CBinaryData Bytes(const std::string& bytes) {
+    CBinaryData data;
+    data.SetBuffer(reinterpret_cast<const unsigned char*>(bytes.data()), bytes.size());
+    return data;
+}
+
+std::string Text(const CBinaryData& data) {
+    return std::string(reinterpret_cast<const char*>(data.GetData()), data.GetLength());
+}
+
+std::u16string MessageOf(const std::function<void()>& action) {
+    try {
+        action();
+    } catch (const CKzException& e) {
+        return e.GetMessageW();
+    }
+    return u"(no failure)";
+}
+
+TEST(CBinaryData, NoArrayAndAnEmptyArrayAreDifferent) {
+    CBinaryData none, alsoNone;
+    EXPECT_EQ(none.GetData(), nullptr);
+    EXPECT_EQ(none.GetLength(), 0u);
+    EXPECT_EQ(none.GetAsBase64(), u"");
+    EXPECT_EQ(none.GetAsHexString(), u"");
+    EXPECT_EQ(none.ReleaseData(), nullptr);
+    EXPECT_TRUE(none == alsoNone);
+    for (const CBinaryData& empty : {Bytes(""), CBinaryData(u""), CBinaryData(nullptr, 0, true)}) {
+        EXPECT_TRUE(none != empty);
+        EXPECT_TRUE(empty == Bytes(""));
+        EXPECT_EQ(empty.GetAsHexString(), u"");
+    }
+    none.Append(alsoNone);
+    EXPECT_TRUE(none == Bytes(""));
+}
+
+TEST(CBinaryData, ChangesOfACopyLeaveTheSource) {
+    CBinaryData source = Bytes("abc");
+    CBinaryData copy = source;
+    EXPECT_EQ(copy.GetData(), source.GetData());
+    copy.Append(static_cast<unsigned char>('d'));
+    EXPECT_NE(copy.GetData(), source.GetData());
+
+    CBinaryData indexed = source;
+    indexed[1] = 'X';
+    CBinaryData assigned;
+    assigned = source;
+    std::unique_ptr<unsigned char[]> released(assigned.ReleaseData());
+    released[0] = 'Y';
+
+    EXPECT_EQ(Text(source), "abc");
+    EXPECT_EQ(Text(copy), "abcd");
+    EXPECT_EQ(Text(indexed), "aXc");
+    EXPECT_EQ(assigned.GetData(), nullptr);
+}
+
+TEST(CBinaryData, ReleaseOfAnUnsharedArrayDoesNotCopy) {
+    CBinaryData data = Bytes("abc");
+    unsigned char* array = data.GetData();
+    std::unique_ptr<unsigned char[]> released(data.ReleaseData());
+    EXPECT_EQ(released.get(), array);
+}
+
+TEST(CBinaryData, AnAdoptedArrayGoesWithTheLastHandle) {
+    auto* array = new unsigned char[3]{1, 2, 3};
+    CBinaryData last;
+    {
+        const CBinaryData first(array, 3, true);
+        last = first;
+    }
+    EXPECT_EQ(last.GetData(), array);
+    EXPECT_EQ(last.GetAsHexString(), u"010203");
+}
+
+TEST(CBinaryData, AssigningToItselfChangesNothing) {
+    CBinaryData data = Bytes("abc");
+    CBinaryData& self = data;
+    data = self;
+    EXPECT_EQ(Text(data), "abc");
+    data = std::move(self);
+    EXPECT_EQ(Text(data), "abc");
+}
+
+TEST(CBinaryData, AppendsItselfAndPiecesOfItself) {
+    CBinaryData adopted(new unsigned char[3]{'a', 'b', 'c'}, 3, true); // full, so that each step moves it
+    adopted.Append(adopted);
+    EXPECT_EQ(Text(adopted), "abcabc");
+    adopted.Append(adopted.GetData() + 4, 2);
+    EXPECT_EQ(Text(adopted), "abcabcbc");
+    const CBinaryData shared = adopted;
+    adopted.Append(adopted.GetData(), 1);
+    EXPECT_EQ(Text(adopted), "abcabcbca");
+    adopted.Append(shared);
+    EXPECT_EQ(Text(adopted), "abcabcbcaabcabcbc");
+    adopted.SetBuffer(adopted.GetData() + 1, 2);
+    EXPECT_EQ(Text(adopted), "bc");
+    EXPECT_EQ(Text(shared), "abcabcbc");
+}
+
+TEST(CBinaryData, AppendsTextAsLittleEndianUnitsWithoutTerminator) {
+    CBinaryData data(u"A");
+    data.Append(u'\u20ac');
+    data.Append(u"B\0C");
+    data.Append(std::u16string(u"\0D", 2));
+    EXPECT_EQ(data.GetAsHexString(), u"4100AC20420000004400");
+    data.SetBuffer(u"Z");
+    EXPECT_EQ(data.GetAsHexString(), u"5A00");
+}
+
+TEST(CBinaryData, GrowsByteByByteAcrossItsCapacity) {
+    CBinaryData data;
+    std::string expected;
+    for (int i = 0; i < 40000; ++i) {
+        data.Append(static_cast<unsigned char>(i * 7));
+        expected += static_cast<char>(i * 7);
+    }
+    EXPECT_TRUE(data == Bytes(expected));
+    EXPECT_TRUE(data != Bytes(expected + "x"));
+    expected[20000] ^= 1;
+    EXPECT_TRUE(data != Bytes(expected));
+}
+
+TEST(CBinaryData, IndexEqualToTheLengthIsASpareByte) {
+    CBinaryData data(new unsigned char[2]{1, 2}, 2, true);
+    const CBinaryData& view = data;
+    EXPECT_EQ(view[1], 2);
+    EXPECT_EQ(view[2], view[2]);
+    data[2] = 9;
+    EXPECT_EQ(data.GetAsHexString(), u"0102");
+    EXPECT_EQ(&data[2], &data[0] + 2);
+    EXPECT_EQ(MessageOf([&] { data[3] = 0; }), u"Index Out of range [3]");
+    EXPECT_EQ(MessageOf([&] { (void)view[3]; }), u"Index Out of range [3]");
+    EXPECT_EQ(MessageOf([] { (void)CBinaryData()[0]; }), u"Index Out of range [0]");
+}
+
+TEST(CBinaryData, HexadecimalText) {
+    CBinaryData data;
+    data.SetAsHexString(u"0aFF");
+    EXPECT_TRUE(data == Bytes("\x0a\xff"));
+    EXPECT_EQ(data.GetAsHexString(), u"0AFF");
+    data.SetAsHexString(u"0123456789abcdefABCDEF");
+    EXPECT_EQ(data.GetAsHexString(), u"0123456789ABCDEFABCDEF");
+    data.SetAsHexString(u"");
+    EXPECT_TRUE(data == Bytes(""));
+    EXPECT_EQ(CBinaryData::GetAsHexString(nullptr, 5), u"");
+}
+
+TEST(CBinaryData, BadHexadecimalTextThrowsAndLeavesTheObjectEmpty) {
+    const struct {
+        const char16_t* text;
+        const char16_t* message;
+    } rows[] = {
+        {u"0", u"Invalid length in hex string"},
+        {u"zzz", u"Invalid length in hex string"},
+        {u"00 1", u"Invalid char in hex string [ ]"},
+        {u"0G", u"Invalid char in hex string [G]"},
+        {u"g0", u"Invalid char in hex string [g]"},
+        {u"@`", u"Invalid char in hex string [@]"},
+        {u"0/", u"Invalid char in hex string [/]"},
+        {u":0", u"Invalid char in hex string [:]"},
+        {u"0\u0141", u"Invalid char in hex string [\u0141]"},
+    };
+    for (const auto& row : rows) {
+        CBinaryData data = Bytes("x");
+        EXPECT_EQ(MessageOf([&] { data.SetAsHexString(row.text); }), row.message);
+        EXPECT_EQ(data.GetData(), nullptr);
+        unsigned char* array = data.GetData();
+        EXPECT_EQ(MessageOf([&] { CBinaryData::ConvertToHexData(row.text, &array); }), row.message);
+        EXPECT_EQ(array, nullptr);
+    }
+}
+
+TEST(CBinaryData, Base64BothWays) {
+    const struct {
+        const char* bytes;
+        const char16_t* text;
+    } rows[] = {{"", u""},
+                {"f", u"Zg=="},
+                {"fo", u"Zm8="},
+                {"foo", u"Zm9v"},
+                {"foob", u"Zm9vYg=="},
+                {"fooba", u"Zm9vYmE="},
+                {"foobar", u"Zm9vYmFy"},
+                {"\xfb\xff\xbf\xfe", u"+/+//g=="}};
+    for (const auto& row : rows) {
+        CBinaryData data;
+        data.SetAsBase64(row.text);
+        EXPECT_TRUE(data == Bytes(row.bytes)) << row.bytes;
+        EXPECT_EQ(Bytes(row.bytes).GetAsBase64(), row.text);
+    }
+    const std::string longBytes(1000, '\xa5');
+    const std::u16string longText = Bytes(longBytes).GetAsBase64();
+    EXPECT_EQ(longText.size(), 1336u);
+    EXPECT_EQ(longText.find_first_of(u"\r\n "), std::u16string::npos);
+    CBinaryData back;
+    back.SetAsBase64(longText);
+    EXPECT_EQ(Text(back), longBytes);
+}
+
+TEST(CBinaryData, LooseBase64IsAcceptedSilently) {
+    const struct {
+        std::u16string text;
+        const char* bytes;
+    } rows[] = {
+        {u" Zm\r\n9v\tYmFy ", "foobar"},
+        {u"Zg==Zg==", "f\x06`"},
+        {u"Zm9vYg", "foob"},
+        {u"=Z=m=9=v=", "foo"},
+        {u"Z", ""},
+        {u"Zm9v*", ""},
+        {u"*", ""},
+        {std::u16string(u"Zm\0v", 4), ""},
+        {u"\u015a\u016d\u20b9\u0176", "foo"}, // low seven bits: Z m 9 v
+    };
+    for (const auto& row : rows) {
+        CBinaryData data = Bytes("old");
+        data.SetAsBase64(row.text);
+        EXPECT_TRUE(data == Bytes(row.bytes)) << ToUtf8(row.text);
+    }
+}
+
+TEST(CBinaryData, RefusesNullAndWhatDoesNotFit32Bits) {
+    unsigned char byte = 1;
+    CBinaryData data = Bytes("abc");
+    const std::u16string tooLong = u"Binary data cannot hold more than 4294967295 bytes";
+    EXPECT_EQ(MessageOf([&] { data.Append(&byte, 1ul << 32); }), tooLong);
+    EXPECT_EQ(MessageOf([&] { data.Append(&byte, (1ul << 32) - 3); }), tooLong);
+    EXPECT_EQ(MessageOf([&] { data.Append(&byte, ~0ul); }), tooLong);
+    EXPECT_EQ(MessageOf([&] { data.SetBuffer(&byte, 1ul << 32); }), tooLong);
+    EXPECT_EQ(MessageOf([&] { CBinaryData(&byte, 1ul << 32, true); }), tooLong);
+    EXPECT_THROW(data.Append(static_cast<const char16_t*>(nullptr)), CKzInvalidParamException);
+    EXPECT_THROW(data.Append(nullptr, 1), CKzInvalidParamException);
+    EXPECT_THROW(data.SetBuffer(nullptr, 1), CKzInvalidParamException);
+    EXPECT_THROW(CBinaryData(nullptr, 1, true), CKzInvalidParamException);
+    EXPECT_EQ(Text(data), "abc");
+}
+
+TEST(CBinaryData, ThreadsChangeTheirOwnHandlesOnOneArray) {
+    const CBinaryData shared = Bytes("shared");
+    std::vector<std::thread> threads;
+    std::vector<std::string> results(4);
+    for (std::string& result : results)
+        threads.emplace_back([&result, handle = shared]() mutable {
+            for (int i = 0; i < 1000; ++i) {
+                CBinaryData copy = handle;
+                copy.Append(static_cast<unsigned char>('!'));
+                copy[0] = 'S';
+                if (Text(handle) != "shared" || Text(copy) != "Shared!")
+                    return;
+            }
+            result = "done";
+        });
+    for (std::thread& thread : threads)
+        thread.join();
+    EXPECT_EQ(results, std::vector<std::string>(4, "done"));
+    EXPECT_EQ(Text(shared), "shared");
+}
+
+} // namespace
