@@ -1,0 +1,27 @@
+# Installs the library, its headers, the CMake package `Quillon` and the pkg-config module `quillon`.
+# All files are found relative to each other, so that an installed tree can be moved.
+include(CMakePackageConfigHelpers)
+
+set(package_dir "${CMAKE_INSTALL_LIBDIR}/cmake/Quillon")
+
+install(TARGETS quillon EXPORT QuillonTargets
+    LIBRARY DESTINATION "${CMAKE_INSTALL_LIBDIR}"
+    FILE_SET HEADERS DESTINATION "${CMAKE_INSTALL_INCLUDEDIR}"
+    INCLUDES DESTINATION "${CMAKE_INSTALL_INCLUDEDIR}") # for users whose CMake knows no file sets
+install(EXPORT QuillonTargets NAMESPACE Quillon:: DESTINATION "${package_dir}")
+
+configure_package_config_file(
+    "${CMAKE_CURRENT_LIST_DIR}/QuillonConfig.cmake.in" "${PROJECT_BINARY_DIR}/QuillonConfig.cmake"
+    INSTALL_DESTINATION "${package_dir}"
+    NO_SET_AND_CHECK_MACRO)
+write_basic_package_version_file("${PROJECT_BINARY_DIR}/QuillonConfigVersion.cmake" COMPATIBILITY SameMajorVersion)
+install(FILES
+    "${PROJECT_BINARY_DIR}/QuillonConfig.cmake" "${PROJECT_BINARY_DIR}/QuillonConfigVersion.cmake"
+    DESTINATION "${package_dir}")
+
+cmake_path(SET pkgconfig_dir "${CMAKE_INSTALL_FULL_LIBDIR}/pkgconfig")
+cmake_path(RELATIVE_PATH CMAKE_INSTALL_PREFIX BASE_DIRECTORY "${pkgconfig_dir}" OUTPUT_VARIABLE prefix_from_pkgconfig)
+configure_file("${CMAKE_CURRENT_LIST_DIR}/quillon.pc.in" "${PROJECT_BINARY_DIR}/quillon.pc" @ONLY)
+install(FILES "${PROJECT_BINARY_DIR}/quillon.pc" DESTINATION "${CMAKE_INSTALL_LIBDIR}/pkgconfig")
+
+install(FILES "${PROJECT_SOURCE_DIR}/LICENSE" "${PROJECT_SOURCE_DIR}/CHANGELOG.md" DESTINATION "${CMAKE_INSTALL_DOCDIR}")
