@@ -1,5 +1,7 @@
 #include <KzXmlLib10/values/KzVariant.h>
 
+#include <KzXmlLib10/conversions/CConversions.h>
+
 #include "object/Throw.h"
 #include "values/Messages.h"
 #include "values/Payload.h"
@@ -35,6 +37,8 @@ const PayloadKind* FindPayloadKind(ItemType type) {
         return nullptr;
     }
 }
+
+std::u16string TextOrEmpty(const char16_t* text) { return text ? text : u""; }
 
 } // namespace
 
@@ -103,6 +107,80 @@ std::u16string KzVariant::GetType() const {
     if (m_type < ItemType_hexBinary || m_type > ItemType_integer)
         Throw<CKzException>(messages::InvalidType, m_type);
     return typeNames[m_type];
+}
+
+std::u16string KzVariant::ToString(const char16_t* format) const {
+    switch (m_type) {
+    case ItemType_i1:
+        return CConversions::i1ToString(GetI1());
+    case ItemType_i2:
+        return CConversions::i2ToString(GetI2());
+    case ItemType_i4:
+        return CConversions::i4ToString(GetI4());
+    case ItemType_i8:
+        return CConversions::i8ToString(GetI8());
+    case ItemType_ui1:
+        return CConversions::ui1ToString(GetUI1());
+    case ItemType_ui2:
+        return CConversions::ui2ToString(GetUI2());
+    case ItemType_ui4:
+        return CConversions::ui4ToString(GetUI4());
+    case ItemType_ui8:
+        return CConversions::ui8ToString(GetUI8());
+    case ItemType_r4:
+        return CConversions::r4ToString(GetR4(), TextOrEmpty(format));
+    case ItemType_r8:
+        return CConversions::r8ToString(GetR8(), TextOrEmpty(format));
+    case ItemType_year:
+        return CConversions::yearToString(GetYear());
+    case ItemType_month:
+        return CConversions::monthToString(GetMonth());
+    case ItemType_day:
+        return CConversions::dayToString(GetDay());
+    case ItemType_char:
+        return CConversions::charToString(GetChar());
+    case ItemType_string:
+        return CConversions::stringToString(GetStringRef());
+    case ItemType_boolean:
+        return CConversions::booleanToString(GetBoolean());
+    default:
+        Throw<CKzException>(messages::InvalidTypeToConvert, m_type);
+    }
+}
+
+// Each conversion runs before its setter, so that a bad text leaves the old value in place.
+void KzVariant::FromString(const std::u16string& text, ItemType type, CWhitespaceUtils::WhitespaceRule rule) {
+    switch (type) {
+    case ItemType_i1:
+        return SetI1(CConversions::i1FromString(text, rule));
+    case ItemType_i2:
+        return SetI2(CConversions::i2FromString(text, rule));
+    case ItemType_i4:
+        return SetI4(CConversions::i4FromString(text, rule));
+    case ItemType_i8:
+        return SetI8(CConversions::i8FromString(text, rule));
+    case ItemType_ui1:
+        return SetUI1(CConversions::ui1FromString(text, rule));
+    case ItemType_ui2:
+        return SetUI2(CConversions::ui2FromString(text, rule));
+    case ItemType_ui4:
+        return SetUI4(CConversions::ui4FromString(text, rule));
+    case ItemType_ui8:
+        return SetUI8(CConversions::ui8FromString(text, rule));
+    case ItemType_r4:
+        return SetR4(CConversions::r4FromString(text, rule));
+    case ItemType_r8:
+        return SetR8(CConversions::r8FromString(text, rule));
+    case ItemType_char:
+        return SetChar(CConversions::charFromString(text, rule));
+    case ItemType_string:
+        return SetString(CConversions::stringFromString(text, rule));
+    case ItemType_boolean:
+        return SetBoolean(CConversions::booleanFromString(text, rule));
+    default:
+        // Deliberate: the number is that of the kind held, not of the one asked for.
+        Throw<CKzException>(messages::InvalidTypeToConvert, m_type);
+    }
 }
 
 void KzVariant::SetBits(ItemType type, std::uint64_t bits) {

@@ -141,6 +141,59 @@ TEST(KzVariant, CopiesAreDeepAndMovesEmptyTheirSource) {
     EXPECT_EQ(copy.m_value.bits, 0u);
 }
 
+TEST(KzVariant, TextsGoInAndOutByKind) {
+    struct Row {
+        ItemType type;
+        const char16_t *in, *out;
+    };
+    const Row rows[] = {
+        {ItemType_i1, u" -128 ", u"-128"},
+        {ItemType_i2, u" -32768 ", u"-32768"},
+        {ItemType_i4, u"-2147483648", u"-2147483648"},
+        {ItemType_i8, u"-9223372036854775808", u"-9223372036854775808"},
+        {ItemType_ui1, u"255", u"255"},
+        {ItemType_ui2, u"65535", u"65535"},
+        {ItemType_ui4, u"4294967295", u"4294967295"},
+        {ItemType_ui8, u"18446744073709551615", u"18446744073709551615"},
+        {ItemType_r4, u"0.1", u"0.1"},
+        {ItemType_r8, u"1e300", u"1e+300"},
+        {ItemType_char, u" x ", u"x"},
+        {ItemType_string, u" a  b ", u"a b"},
+        {ItemType_boolean, u"TRUE", u"true"},
+    };
+    KzVariant v;
+    for (const Row& row : rows) {
+        v.FromString(row.in, row.type, CWhitespaceUtils::WhitespaceRule_Collapse);
+        EXPECT_EQ(v.GetTypeAsEnum(), row.type);
+        EXPECT_EQ(v.ToString(nullptr), row.out);
+    }
+    v.SetYear(1);
+    EXPECT_EQ(v.ToString(u""), u"1");
+    v.SetMonth(2);
+    EXPECT_EQ(v.ToString(u""), u"--02");
+    v.SetDay(3);
+    EXPECT_EQ(v.ToString(u""), u"---03");
+    v.SetR4(0.5f);
+    EXPECT_EQ(v.ToString(u"%.3f"), u"0.500");
+    v.SetI4(5);
+    EXPECT_EQ(v.ToString(u"%.3f"), u"5");
+}
+
+TEST(KzVariant, FailedConversionLeavesTheOldValue) {
+    constexpr auto rule = CWhitespaceUtils::WhitespaceRule_None;
+    KzVariant v = TextVariant(u"text");
+    EXPECT_THROW(v.FromString(u"x", ItemType_i4, rule), CKzInvalidValueException);
+    EXPECT_EQ(v.GetString(), u"text");
+    // The number is that of the kind held, not of the one asked for.
+    v.SetI4(7);
+    for (const int type : {-1, 0, 27, 28})
+        EXPECT_EQ(MessageOf([&] { v.FromString(u"1", static_cast<ItemType>(type), rule); }),
+                  u"Invalid Type 5 to convert to string");
+    EXPECT_EQ(v.GetI4(), 7);
+    v.Clear();
+    EXPECT_EQ(MessageOf([&] { v.ToString(u""); }), u"Invalid Type 0 to convert to string");
+}
+
 TEST(KzVariant, SelfAssignmentEmpties) {
     KzVariant v = TextVariant(u"text");
     const KzVariant& self = v;

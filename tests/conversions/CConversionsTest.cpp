@@ -1,0 +1,257 @@
+#include <KzXmlLib10/conversions/CConversions.h>
+
+#include <KzXmlLib10/object/CKzException.h>
+
+#include <gtest/gtest.h>
+
+#include <bit>
+#include <cmath>
+#include <limits>
+
+using namespace KzXmlLib10;
+using namespace std::literals;
+
+namespace {
+
+constexpr auto none = CWhitespaceUtils::WhitespaceRule_None;
+constexpr auto collapse = CWhitespaceUtils::WhitespaceRule_Collapse;
+constexpr double infinity = std::numeric_limits<double>::infinity();
+
+/// What a reader makes of a text: the value as text, or the message of the failure.
+template <class Reader>
+std::u16string Outcome(Reader reader, const std::u16string& text, CConversions::WhitespaceRule rule = none) {
+    try {
+        const auto value = reader(text, rule);
+        if constexpr (std::is_signed_v<decltype(value)>)
+            return CConversions::i8ToString(value);
+        else
+            return CConversions::ui8ToString(value);
+    } catch (const CKzInvalidValueException& e) {
+        return e.GetFullMessage();
+    }
+}
+
+TEST(CConversions, IntegersAreReadUpToTheirLimits) {
+    using C = CConversions;
+    struct Row {
+        std::u16string (*outcome)(const std::u16string&);
+        const char16_t *lowest, *highest, *tooLow, *tooHigh, *name;
+    };
+    const Row rows[] = {
+        {[](const std::u16string& t) { return Outcome(C::i1FromString, t); }, u"-128", u"127", u"-129",
+         u"128", u"i1"},
+        {[](const std::u16string& t) { return Outcome(C::i2FromString, t); }, u"-32768", u"32767", u"-32769",
+         u"32768", u"i2"},
+        {[](const std::u16string& t) { return Outcome(C::i4FromString, t); }, u"-2147483648", u"2147483647",
+         u"-2147483649", u"2147483648", u"i4"},
+        {[](const std::u16string& t) { return Outcome(C::i8FromString, t); }, u"-9223372036854775808",
+         u"9223372036854775807", u"-9223372036854775809", u"9223372036854775808", u"i8"},
+        {[](const std::u16string& t) { return Outcome(C::ui1FromString, t); }, u"0", u"255", u"-1", u"256",
+         u"ui1"},
+        {[](const std::u16string& t) { return Outcome(C::ui2FromString, t); }, u"0", u"65535", u"-1",
+         u"65536", u"ui2"},
+        {[](const std::u16string& t) { return Outcome(C::ui4FromString, t); }, u"0", u"4294967295",
+         u"-4294967296", u"4294967296", u"ui4"},
+        {[](const std::u16string& t) { return Outcome(C::ui8FromString, t); }, u"0", u"18446744073709551615",
+         u"-18446744073709551616", u"18446744073709551616", u"ui8"},
+    };
+    for (const Row& row : rows) {
+        EXPECT_EQ(row.outcome(row.lowest), row.lowest);
+        EXPECT_EQ(row.outcome(row.highest), row.highest);
+        for (const std::u16string text : {row.tooLow, row.tooHigh})
+            EXPECT_EQ(row.outcome(text), u"The value [" + text + u"] is to large to fit in a " + row.name);
+    }
+}
+
+TEST(CConversions, IntegerFormIsThatOfStrtol) {
+    struct Row {
+        std::u16string text;
+        const char16_t* outcome;
+    };
+    const Row rows[] = {
+        {u"+5", u"5"},
+        {u"-0", u"0"},
+        {u" \t\n\v\f\r7", u"7"},
+        {u"0000000000000000000000000000000012", u"12"},
+        {u"12\0rest"s, u"12"},
+        {u"\0"s, u"0"},
+        {u"", u"0"},
+        {u" ", u"The value [ ] can not be converted to a i4"},
+        {u"7 ", u"The value [7 ] can not be converted to a i4"},
+        {u"\u00A07", u"The value [\u00A07] can not be converted to a i4"},
+        {u"+", u"The value [+] can not be converted to a i4"},
+        {u"+-5", u"The value [+-5] can not be converted to a i4"},
+        {u"0x10", u"The value [0x10] can not be converted to a i4"},
+        {u"1\u0661", u"The value [1\u0661] can not be converted to a i4"},
+        // The range is looked at before the form.
+        {u"99999999999x", u"The value [99999999999x] is to large to fit in a i4"},
+        {u"999999999999999999999x", u"The value [999999999999999999999x] is to large to fit in a i4"},
+    };
+    for (const Row& row : rows)
+        EXPECT_EQ(Outcome(CConversions::i4FromString, row.text), row.outcome);
+    EXPECT_EQ(Outcome(CConversions::i4FromString, u"  ", collapse), u"0");
+    EXPECT_EQ(Outcome(CConversions::i4FromString, u" 7 ", collapse), u"7");
+}
+
+TEST(CConversions, UnsignedReadersNegateInTheirOwnWidth) {
+    EXPECT_EQ(Outcome(CConversions::ui4FromString, u"-1"), u"4294967295");
+    EXPECT_EQ(Outcome(CConversions::ui4FromString, u"-4294967295"), u"1");
+    EXPECT_EQ(Outcome(CConversions::ui8FromString, u"-1"), u"18446744073709551615");
+    EXPECT_EQ(Outcome(CConversions::ui1FromString, u"-4294967295"), u"1");
+}
+
+TEST(CConversions, NarrowReadersShowTheirInputAndPassTheWideFailureOn) {
+    EXPECT_EQ(Outcome(CConversions::i1FromString, u" 128 ", collapse),
+              u"The value [ 128 ] is to large to fit in a i1");
+    EXPECT_EQ(Outcome(CConversions::i1FromString, u"99999999999"),
+              u"The value [99999999999] is to large to fit in a i4");
+    EXPECT_EQ(Outcome(CConversions::i2FromString, u" abc ", collapse),
+              u"The value [abc] can not be converted to a i4");
+    EXPECT_EQ(Outcome(CConversions::ui1FromString, u"x"), u"The value [x] can not be converted to a ui4");
+    EXPECT_EQ(Outcome(CConversions::ui8FromString, u"x"), u"The value [x] can not be converted to a ui8");
+    EXPECT_EQ(Outcome(CConversions::i8FromString, u"x"), u"The value [x] can not be converted to a i8");
+}
+
+TEST(CConversions, RealsAreReadInDecimalNotation) {
+    const std::pair<std::u16string, double> rows[] = {
+        {u"INF", infinity},
+        {u"-INF", -infinity},
+        {u"1.5", 1.5},
+        {u"+.5e1", 5},
+        {u" \v-5.E-1", -0.5},
+        {u"1.7976931348623157e308", 1.7976931348623157e308},
+        {u"1e309", infinity},
+        {u"-1e999999999999999999999", -infinity},
+        {u"1e-400", 0},
+        {u"4.9406564584124654e-324", 4.9406564584124654e-324},
+        {u"0e999999999999999999999", 0},
+        {u"1" + std::u16string(400, u'0') + u"e-400", 1},
+        {u"0." + std::u16string(400, u'0') + u"1e401", 1},
+        {u"0." + std::u16string(400, u'0') + u"1e1000", infinity},
+        {u"1" + std::u16string(400, u'0') + u"e-1000", 0},
+        {u"1.5\0x"s, 1.5},
+        {u"\0"s, 0},
+    };
+    for (const auto& [text, value] : rows)
+        EXPECT_EQ(CConversions::r8FromString(text, none), value) << CConversions::r8ToString(value).size();
+    EXPECT_TRUE(std::signbit(CConversions::r8FromString(u"-0", none)));
+    EXPECT_TRUE(std::signbit(CConversions::r8FromString(u"-1e-400", none)));
+    for (const char16_t* text : {u"", u"  ", u"NaN", u"1.#QNAN", u" -NAN "}) {
+        EXPECT_TRUE(std::isnan(CConversions::r8FromString(text, collapse)));
+        EXPECT_TRUE(std::isnan(CConversions::r4FromString(text, collapse)));
+    }
+}
+
+TEST(CConversions, RealsOfAnotherFormAreRefused) {
+    const std::u16string texts[] = {u"+INF", u"inf", u"INFINITY", u"nan",   u"-NaN", u"0x1p3",
+                                    u"1e",   u"1e+", u".",        u"-",     u" ",    u"1.5 ",
+                                    u"1,5",  u"1d5", u"1.5.2",    u"INF\0"s};
+    for (const std::u16string& text : texts) {
+        try {
+            CConversions::r8FromString(text, none);
+            ADD_FAILURE();
+        } catch (const CKzInvalidValueException& e) {
+            const std::u16string shown = text.c_str();
+            EXPECT_EQ(e.GetFullMessage(), u"The value [" + shown + u"] can not be converted to a r8");
+        }
+        EXPECT_THROW(CConversions::r4FromString(text, none), CKzInvalidValueException);
+    }
+}
+
+TEST(CConversions, R4IsRoundedFromTheDouble) {
+    EXPECT_EQ(CConversions::r4FromString(u"1e39", none), std::numeric_limits<float>::infinity());
+    // Just above the middle of 1 and the next float, by less than a double can show.
+    EXPECT_EQ(CConversions::r4FromString(u"1.00000005960464477540000000000000001", none), 1.0f);
+}
+
+TEST(CConversions, MillionsOfDigitsAreReadInOnePass) {
+    const std::u16string digits(5'000'000, u'7');
+    EXPECT_EQ(CConversions::r8FromString(digits + u"e-4999999", none), 7.777777777777778);
+    EXPECT_EQ(Outcome(CConversions::i4FromString, digits).size(), digits.size() + 39);
+}
+
+TEST(CConversions, RealsAreWrittenInGeneralNotation) {
+    const std::pair<double, const char16_t*> rows[] = {
+        {0.1, u"0.1"},
+        {-0.0, u"-0"},
+        {1.0 / 3, u"0.3333333333333333"},
+        {1e15, u"1000000000000000"},
+        {1e16, u"1e+16"},
+        {1e-4, u"0.0001"},
+        {1e-5, u"1e-05"},
+        {-1.7976931348623157e308, u"-1.797693134862316e+308"},
+        {infinity, u"INF"},
+        {-infinity, u"-INF"},
+        {std::nan(""), u"NaN"},
+    };
+    for (const auto& [value, text] : rows)
+        EXPECT_EQ(CConversions::r8ToString(value), text);
+    EXPECT_EQ(CConversions::r4ToString(0.1f), u"0.1");
+    EXPECT_EQ(CConversions::r4ToString(16777216.0f), u"1.677722e+07");
+    EXPECT_EQ(CConversions::r4ToString(-std::numeric_limits<float>::infinity()), u"-INF");
+}
+
+TEST(CConversions, FormatsAreHeededAndTheirTextIsCut) {
+    EXPECT_EQ(CConversions::r8ToString(1.5, u"%.2f"), u"1.50");
+    EXPECT_EQ(CConversions::r4ToString(0.1f, u"%.9g"), u"0.100000001");
+    EXPECT_EQ(CConversions::r8ToString(2, u"%% %+08.2lf %%"), u"% +0002.00 %");
+    EXPECT_EQ(CConversions::r8ToString(1e300, u"%f"), u"100000000000000005250476025520442024870446858110");
+    EXPECT_EQ(CConversions::r4ToString(1e30f, u"%.40f").size(), 32u);
+    EXPECT_EQ(CConversions::r8ToString(std::nan(""), u"%.2f"), u"NaN");
+    EXPECT_EQ(CConversions::r8ToString(-infinity, u"%.2f"), u"-INF");
+    for (const char16_t* format : {u"x", u"%%", u"%", u"%f%f", u"%d", u"%s", u"%f%n", u"%*f", u"%.*f", u"%f%",
+                                   u"%c%f", u"%I64f", u"%5%f", u"%99999f", u"%.99999f"})
+        EXPECT_THROW(CConversions::r8ToString(1, format), CKzInvalidParamException);
+    EXPECT_THROW(CConversions::r4ToString(1, u"%d"), CKzInvalidParamException);
+}
+
+TEST(CConversions, Booleans) {
+    for (const char16_t* text : {u"true", u"TRUE", u"tRuE", u"1"})
+        EXPECT_TRUE(CConversions::booleanFromString(text, none));
+    for (const std::u16string& text : {u"false"s, u"FALSE"s, u"0"s, u"0\0x"s})
+        EXPECT_FALSE(CConversions::booleanFromString(text, none));
+    for (const std::u16string text : {u"", u"2", u" yes ", u"10", u"truE\u0130"}) {
+        try {
+            CConversions::booleanFromString(text, collapse);
+            ADD_FAILURE();
+        } catch (const CKzInvalidValueException& e) {
+            EXPECT_EQ(e.GetFullMessage(), u"A Boolean Value read from an XML document was invalid [" + text +
+                                              u"]. Valid values are 'true', 'false', '1', or '0'");
+        }
+    }
+    EXPECT_EQ(CConversions::booleanToString(true), u"true");
+    EXPECT_EQ(CConversions::booleanToString(false), u"false");
+}
+
+TEST(CConversions, CharactersAndStrings) {
+    EXPECT_EQ(CConversions::charFromString(u" ", none), u' ');
+    EXPECT_EQ(CConversions::charFromString(u" x ", collapse), u'x');
+    for (const char16_t* text : {u"", u"  ", u"ab", u"\U0001F600"})
+        EXPECT_THROW(CConversions::charFromString(text, collapse), CKzInvalidValueException);
+    try {
+        CConversions::charFromString(u" ab ", collapse);
+        ADD_FAILURE();
+    } catch (const CKzInvalidValueException& e) {
+        EXPECT_EQ(e.GetFullMessage(),
+                  u"The value [ab] can not be a char as it is either empty of greater than 1 char long");
+    }
+    EXPECT_EQ(CConversions::charToString(u'x'), u"x");
+    EXPECT_EQ(CConversions::charToString(u'\0'), u"");
+    EXPECT_EQ(CConversions::stringFromString(u" a  b ", collapse), u"a b");
+    EXPECT_EQ(CConversions::stringFromString(u"a\0b"s, none), u"a\0b"s);
+    EXPECT_THROW(CConversions::i4FromString(u"1", static_cast<CConversions::WhitespaceRule>(4)),
+                 CKzException);
+}
+
+TEST(CConversions, IntegersAndDatePartsAreWritten) {
+    EXPECT_EQ(CConversions::i1ToString(-128), u"-128");
+    EXPECT_EQ(CConversions::ui1ToString(255), u"255");
+    EXPECT_EQ(CConversions::ui4ToString(4294967295u), u"4294967295");
+    EXPECT_EQ(CConversions::yearToString(1), u"1");
+    EXPECT_EQ(CConversions::monthToString(5), u"--05");
+    EXPECT_EQ(CConversions::monthToString(13), u"--13");
+    EXPECT_EQ(CConversions::dayToString(0), u"---00");
+    EXPECT_EQ(CConversions::dayToString(255), u"---255");
+}
+
+} // namespace
