@@ -1,0 +1,235 @@
+#include "xml/AsyncFiles.h"
+
+#include "support/TempDir.h"
+
+#include <gtest/gtest.h>
+
+#include <cerrno>
+#include <cstring>
+#include <fcntl.h>
+#include <string>
+#include <sys/stat.h>
+#include <unistd.h>
+#include <vector>
+
+using namespace KzXmlLib10;
+using namespace KzXmlLib10::support;
+
+namespace {
+
+const unsigned char* Raw(const std::string& bytes) {
+    return reinterpret_cast<const unsigned char*>(bytes.data());
+}
+
+class AsyncFileTest : public testing::Test {
+protected:
+    ~AsyncFileTest() override {
+        systemCalls = m_realCalls;
+        EXPECT_EQ(OpenDescriptors(), m_descriptors);
+    }
+
+    TempDir m_dir;
+
+private:
+    const SystemCalls m_realCalls = systemCalls;
+    const std::ptrdiff_t m_descriptors = OpenDescriptors();
+};
+
+int Write(AsyncFile& file, std::uint64_t offset, const std::string& bytes) {
+    std::size_t count = 0;
+    if (const int error = file.StartWrite(offset, Raw(bytes), bytes.size()))
+        return error;
+    const int error = file.Finish(count);
+    EXPECT_EQ(count, bytes.size());
+    return error;
+}
+
+/// One block read to its end: the bytes, or the error in brackets.
+std::string ReadBlock(AsyncFile& file, std::uint64_t offset, std::size_t length) {
+    std::string buffer(length, '\0');
+    const int started = file.StartRead(offset, reinterpret_cast<unsigned char*>(buffer.data()), length);
+    std::size_t count = 0;
+    const int finished = file.Finish(count);
+    if (started != 0)
+        return '[' + std::to_string(started) + (finished == started ? " twice]" : "]");
+    return buffer.substr(0, count);
+}
+
+TEST_F(AsyncFileTest, ReadsBlocksAndTheWholeFile) {
+    m_dir.Write("f", "0123456789");
+    AsyncFile file;
+    ASSERT_EQ(file.OpenForReading(m_dir.Path16("f")), 0);
+    std::uint64_t size = 0;
+    EXPECT_EQ(file.GetSize(size), 0);
+    EXPECT_EQ(size, 10u);
+    EXPECT_EQ(ReadBlock(file, 0, 5), "01234");
+    EXPECT_EQ(ReadBlock(file, 5, 5), "56789");
+    EXPECT_EQ(ReadBlock(file, 10, 5), "[38 twice]");
+    EXPECT_EQ(ReadBlock(file, 8, 5), "89");
+    std::vector<unsigned char> whole(11);
+    EXPECT_EQ(file.ReadAll(whole.data(), 10), 0);
+    EXPECT_EQ(whole[9], '9');
+    EXPECT_EQ(file.ReadAll(whole.data(), 11), AsyncFile::EndOfFile);
+}
+
+TEST_F(AsyncFileTest, WritesAtOffsetsBeyond32Bits) {
+    AsyncFile file;
+    m_dir.Write("f", "longer than what replaces it");
+    ASSERT_EQ(file.OpenForWriting(m_dir.Path16("f")), 0);
+    EXPECT_EQ(Write(file, 0, "head"), 0);
+    EXPECT_EQ(Write(file, 4, "next"), 0);
+    EXPECT_EQ(file.Close(), 0);
+    EXPECT_EQ(m_dir.Read("f"), "headnext");
+
+    ASSERT_EQ(file.OpenForWriting(m_dir.Path16("f")), 0);
+    EXPECT_EQ(Write(file, 0x100000000, "tail"), 0); // sparse
+    ASSERT_EQ(file.OpenForReading(m_dir.Path16("f")), 0);
+    std::uint64_t size = 0;
+    EXPECT_EQ(file.GetSize(size), 0);
+    EXPECT_EQ(size, 0x100000004u);
+    EXPECT_EQ(ReadBlock(file, 0x100000000, 8), "tail");
+}
+
+TEST_F(AsyncFileTest, NamesThatCannotBeOpened) {
+    const std::u16string lone = m_dir.Path16("a") + u'\xD800';
+    ASSERT_EQ(symlink("loop", m_dir.Path("loop").c_str()), 0);
+    const struct {
+        std::u16string name;
+        int reading, writing;
+    } rows[] = {
+        {m_dir.Path16(""), EISDIR, EISDIR},
+        {m_dir.Path16("no/such"), ENOENT, ENOENT},
+        {m_dir.Path16("loop"), ELOOP, ELOOP},
+        {u"", ENOENT, ENOENT},
+        {lone, EILSEQ, EILSEQ},
+        {lone + u"b", EILSEQ, EILSEQ},
+        {m_dir.Path16("a") + u'\0', EINVAL, EINVAL},
+        {m_dir.Path16(std::string(300, 'x')), ENAMETOOLONG, ENAMETOOLONG},
+    };
+    for (const auto& row : rows) {
+        AsyncFile file;
+        EXPECT_EQ(file.OpenForReading(row.name), row.reading) << ToUtf8(row.name.substr(0, 3));
+        EXPECT_EQ(file.OpenForWriting(row.name), row.writing);
+        EXPECT_FALSE(file.IsOpen());
+    }
+    EXPECT_FALSE(std::filesystem::exists(m_dir.Path("a")));
+    AsyncFile file;
+    EXPECT_EQ(file.OpenForWriting(m_dir.Path16("\xC3\xA5\xF0\x9F\x98\x80")), 0);
+    EXPECT_TRUE(std::filesystem::exists(m_dir.Path("\xC3\xA5\xF0\x9F\x98\x80")));
+}
+
+TEST_F(AsyncFileTest, PipesNeitherHangNorKill) {
+    const std::u16string name = m_dir.Path16("fifo");
+    ASSERT_EQ(mkfifo(m_dir.Path("fifo").c_str(), 0600), 0);
+    AsyncFile in, out;
+    EXPECT_EQ(out.OpenForWriting(name), ENXIO);
+    ASSERT_EQ(in.OpenForReading(name), 0);
+    std::uint64_t size;
+    EXPECT_EQ(in.GetSize(size), ESPIPE);
+    EXPECT_EQ(ReadBlock(in, 0, 5), '[' + std::to_string(ESPIPE) + ']');
+
+    const int reader = open(m_dir.Path("fifo").c_str(), O_RDONLY | O_NONBLOCK);
+    ASSERT_EQ(in.Close(), 0);
+    ASSERT_EQ(out.OpenForWriting(name), 0);
+    EXPECT_EQ(Write(out, 0, "abc"), 0);
+    EXPECT_EQ(Write(out, 3, "def"), 0);
+    char received[8];
+    EXPECT_EQ(std::string(received, static_cast<std::size_t>(read(reader, received, 8))), "abcdef");
+    close(reader);
+    EXPECT_EQ(Write(out, 6, "ghi"), EPIPE);
+}
+
+TEST_F(AsyncFileTest, FullDevice) {
+    AsyncFile file;
+    ASSERT_EQ(file.OpenForWriting(u"/dev/full"), 0);
+    EXPECT_EQ(Write(file, 0, "abc"), ENOSPC);
+    std::size_t count = 1;
+    EXPECT_EQ(file.Finish(count), 0);
+    EXPECT_EQ(count, 0u);
+}
+
+TEST_F(AsyncFileTest, InterruptedAndShortTransfersGoOn) {
+    static int calls;
+    calls = 0;
+    systemCalls.pread = [](int file, void* buffer, std::size_t length, off_t offset) {
+        if (++calls % 2 == 1)
+            return errno = EINTR, ssize_t{-1};
+        return pread(file, buffer, std::min<std::size_t>(length, 3), offset);
+    };
+    systemCalls.pwrite = [](int file, const void* bytes, std::size_t length, off_t offset) {
+        if (++calls % 2 == 1)
+            return errno = EINTR, ssize_t{-1};
+        return pwrite(file, bytes, std::min<std::size_t>(length, 3), offset);
+    };
+    systemCalls.open = [](const char* name, int flags, mode_t mode) {
+        return ++calls % 2 == 1 ? (errno = EINTR, -1) : open(name, flags, mode);
+    };
+    AsyncFile file;
+    ASSERT_EQ(file.OpenForWriting(m_dir.Path16("f")), 0);
+    EXPECT_EQ(Write(file, 0, "01234567"), 0);
+    EXPECT_EQ(Write(file, 8, "89"), 0);
+    EXPECT_EQ(m_dir.Read("f"), "0123456789");
+    ASSERT_EQ(file.OpenForReading(m_dir.Path16("f")), 0);
+    EXPECT_EQ(ReadBlock(file, 1, 7), "1234567");
+    EXPECT_EQ(ReadBlock(file, 8, 7), "89");
+}
+
+TEST_F(AsyncFileTest, ErrorsInTheMiddleAreReportedAtTheStart) {
+    static int calls;
+    calls = 0;
+    systemCalls.pread = [](int file, void* buffer, std::size_t, off_t offset) {
+        return ++calls == 2 ? (errno = EIO, ssize_t{-1}) : pread(file, buffer, 3, offset);
+    };
+    systemCalls.pwrite = [](int, const void*, std::size_t, off_t) { return ssize_t{0}; };
+    m_dir.Write("f", "0123456789");
+    AsyncFile file;
+    ASSERT_EQ(file.OpenForReading(m_dir.Path16("f")), 0);
+    EXPECT_EQ(ReadBlock(file, 0, 10), '[' + std::to_string(EIO) + ']');
+    EXPECT_EQ(ReadBlock(file, 0, 9), "012345678");
+    ASSERT_EQ(file.OpenForWriting(m_dir.Path16("g")), 0);
+    EXPECT_EQ(Write(file, 0, "a"), EIO); // a write that moves nothing must not be tried for ever
+}
+
+TEST_F(AsyncFileTest, AReadAsksForTheNextBlock) {
+    static std::vector<off_t> advised;
+    advised.clear();
+    systemCalls.advise = [](int, off_t offset, off_t length, int advice) {
+        if (advice == POSIX_FADV_WILLNEED)
+            advised.insert(advised.end(), {offset, length});
+        return 0;
+    };
+    m_dir.Write("f", "0123456789");
+    AsyncFile file;
+    ASSERT_EQ(file.OpenForReading(m_dir.Path16("f")), 0);
+    EXPECT_EQ(ReadBlock(file, 4, 4), "4567");
+    EXPECT_EQ(advised, (std::vector<off_t>{8, 4}));
+    EXPECT_EQ(ReadBlock(file, 8, 4), "89");
+    EXPECT_EQ(advised.size(), 2u);
+}
+
+TEST_F(AsyncFileTest, ClosesOnceAndReportsTheFirstClose) {
+    static int closed;
+    static int closeError;
+    systemCalls.close = [](int file) {
+        ++closed;
+        close(file);
+        errno = closeError;
+        return closeError ? -1 : 0;
+    };
+    for (const int error : {0, EIO, EINTR}) {
+        closed = 0;
+        closeError = error;
+        AsyncFile file;
+        ASSERT_EQ(file.OpenForWriting(m_dir.Path16("f")), 0);
+        EXPECT_EQ(file.Close(), error == EINTR ? 0 : error);
+        EXPECT_EQ(file.Close(), 0);
+        EXPECT_EQ(closed, 1);
+    }
+    systemCalls.fstat = [](int, struct stat*) { return errno = EOVERFLOW, -1; };
+    AsyncFile file;
+    EXPECT_EQ(file.OpenForReading(m_dir.Path16("f")), EOVERFLOW);
+    EXPECT_FALSE(file.IsOpen());
+    EXPECT_EQ(closed, 2);
+}
+
+} // namespace
