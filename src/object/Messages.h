@@ -26,6 +26,22 @@ inline constexpr char16_t UnknownElementsAreIgnored[] =
 inline constexpr char16_t PleaseEnsureVersion[] =
     u"Please ensure your generated code is the same version as this library "
     u"(Quillon Runtime: v%d.%d, Generator: v%d.%d).";
+inline constexpr char16_t NotAvailable[] = u"This operation is not available yet";
 inline constexpr char16_t WrongVersion[] = u"Wrong Version (Quillon Runtime: v%d.%d, Generator: v%d.%d)";
+
+inline constexpr char16_t FailedToWriteElement[] = u"Failed to convert the element [%s] to XML";
+inline constexpr char16_t FailedToWriteAttributes[] = u"Failed to convert attributes to XML";
+inline constexpr char16_t UnknownGroupTypeOnWriting[] = u"Unknown XML Group Type";
+inline constexpr char16_t FailedToReadElement[] = u"Failed to process the element [%s]";
+inline constexpr char16_t UnknownGroupTypeOnReading[] = u"Unknow Group Type"; // sic
+inline constexpr char16_t UnexpectedAttribute[] = u"Unexpected Attribute [%s] found.";
+inline constexpr char16_t NilOnNonNillable[] =
+    u"Invalid use of 'nil' attibute in non-nillable element [%s]"; // sic
+inline constexpr char16_t UnexpectedNilValue[] = u"Unexpected Value [%s] for 'nil' Attribute found.";
+inline constexpr char16_t UnprocessedElement[] =
+    u"Failed read all the elements held within the element [%s]. The unexpected element [%s] remains un "
+    u"processed"; // sic
+inline constexpr char16_t NestedTooDeep[] = u"The elements are nested too deep (%d levels)";
+inline constexpr char16_t InvalidOrEmptyDocument[] = u"Invalid or empty XML document";
 
 } // namespace KzXmlLib10::messages

@@ -125,8 +125,9 @@ private:
     friend class KzXmlLib10Data::CAttributeInfo;
     friend class KzXmlLib10Data::CElementInfo;
 
-    /// Reads the object from the root of a loaded document.
-    void FromDocument(const CXmlDocument& document, const CXmlSerializationContext& context);
+    void WriteDocument(CTextStream& stream, bool includeDeclaration, bool formatted, EOLType eol,
+                       const CXmlSerializationContext& context) const;
+    void ReadDocument(const CXmlDocument& document, const CXmlSerializationContext& context);
 
     std::u16string m_elementName;
     std::atomic<std::int32_t> m_refCount{0};

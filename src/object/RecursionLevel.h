@@ -1,0 +1,17 @@
+#pragma once
+
+namespace KzXmlLib10 {
+
+/// Counts one level of nested objects while it lives.
+///
+/// Generated classes recurse by nature. The constructor throws CKzException at 10,000 levels, or when little
+/// of the thread's stack is left, so that a deep document ends in a clear failure.
+class RecursionLevel {
+public:
+    RecursionLevel();
+    ~RecursionLevel();
+    RecursionLevel(const RecursionLevel&) = delete;
+    RecursionLevel& operator=(const RecursionLevel&) = delete;
+};
+
+} // namespace KzXmlLib10
