@@ -51,13 +51,14 @@ const char16_t* CStringBuffer::GetString() {
         return u"";
     if (m_chunks.size() == 1)
         return m_current;
-    auto joined = std::make_unique<char16_t[]>(std::size_t{m_length} + 1);
+    auto joined = std::make_unique_for_overwrite<char16_t[]>(std::size_t{m_length} + 1);
     char16_t* to = joined.get();
     m_chunkLengths.back() = m_used;
     for (std::size_t i = 0; i < m_chunks.size(); ++i) {
         Traits::copy(to, m_chunks[i].get(), m_chunkLengths[i]);
         to += m_chunkLengths[i];
     }
+    std::fill(to, joined.get() + m_length + 1, u'\0'); // the terminator, and what a failed Append left out
     m_chunks.resize(1);
     m_chunkLengths.assign(1, m_length);
     m_chunks.front() = std::move(joined);

@@ -32,7 +32,6 @@ constexpr SpecialUnits specialInAttribute = MakeSpecialUnits(u"\n\r\"&<>"sv);
 } // namespace
 
 CXmlTextWriter::CXmlTextWriter(CTextStream* stream) : m_stream(NotNull(stream, u"stream")) {
-    SetEOLType(EOLType_LF);
     m_stream->Open();
 }
 

@@ -386,8 +386,9 @@ TEST(CXmlTextWriter, AMillionOpenElementsNeedNoStack) {
     out.Attribute(u"n", u"1");
     for (int i = 0; i < 2; ++i)
         out.End();
-    EXPECT_TRUE(out.Text().starts_with("<AA:e xmlns:AA=\"urn:x\"><AA:e><AA:e>"));
-    EXPECT_TRUE(out.Text().ends_with("<AA:e><AA:e n=\"1\"/></AA:e>"));
+    const std::u16string_view text = out.stream.GetBuffer().GetString();
+    EXPECT_TRUE(text.starts_with(u"<AA:e xmlns:AA=\"urn:x\"><AA:e><AA:e>"));
+    EXPECT_TRUE(text.ends_with(u"<AA:e><AA:e n=\"1\"/></AA:e>"));
 }
 
 TEST(CXmlTextWriter, ManyNestedNamespacesStayCheap) {

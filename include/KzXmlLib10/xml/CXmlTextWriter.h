@@ -81,8 +81,8 @@ private:
     void FlushIfFull();
 
 protected:
-    std::u16string m_eol;
-    EOLType m_eolType;
+    std::u16string m_eol = u"\n";
+    EOLType m_eolType = EOLType_LF;
     bool m_formatted = true;
     CTextStream* m_stream;
 };
