@@ -133,6 +133,10 @@ void CXmlWriter::CXmlWriterContext::OwnNamespaces() {
     m_inherits = false;
 }
 
+bool CXmlWriter::CXmlWriterContext::NeedsPrefix(const std::u16string& uri) const {
+    return !uri.empty() && ByLengthThenBytes()(uri, GetDefaultNamespace()) != 0;
+}
+
 void CXmlWriter::CXmlWriterContext::CountChild() {
     m_childCount = static_cast<std::int32_t>(static_cast<std::uint32_t>(m_childCount) + 1);
 }

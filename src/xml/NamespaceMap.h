@@ -3,9 +3,20 @@
 #include "xml/PersistentMap.h"
 
 #include <cstdint>
+#include <cstring>
 #include <string>
 
 namespace KzXmlLib10 {
+
+/// Orders texts by length, then by their bytes: quicker than by units where nobody sees the order, since
+/// namespaces of different lengths often begin alike.
+struct ByLengthThenBytes {
+    int operator()(const std::u16string& a, const std::u16string& b) const {
+        if (a.size() != b.size())
+            return a.size() < b.size() ? -1 : 1;
+        return std::memcmp(a.data(), b.data(), a.size() * sizeof(char16_t));
+    }
+};
 
 /// The namespace state of an element: the map from namespace to prefix, beside the default namespace that is
 /// in force with it.
@@ -38,7 +49,7 @@ private:
     void CountUse(const std::u16string& prefix, int change);
 
     const std::u16string& m_defaultNamespace;
-    PersistentMap<std::u16string, std::u16string> m_prefixes;
+    PersistentMap<std::u16string, std::u16string, ByLengthThenBytes> m_prefixes;
     PersistentMap<std::uint32_t, std::uint32_t> m_uses; // how many namespaces have the n-th generated prefix
     std::uint32_t m_firstFree = 0;
 };

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <algorithm>
+#include <compare>
 #include <memory>
 #include <utility>
 
@@ -9,20 +10,19 @@ namespace KzXmlLib10 {
 /// An ordered map whose copies share what they have in common: copying takes constant time, setting an entry
 /// makes a logarithmic number of new nodes.
 ///
-/// A height-balanced binary tree of immutable nodes. Setting an entry copies the path to it.
-template <class Key, class Value>
+/// A height-balanced binary tree of immutable nodes. Setting an entry copies the path to it. `Order` compares
+/// two keys three ways.
+template <class Key, class Value, class Order = std::compare_three_way>
 class PersistentMap {
 public:
     /// The value of a key, or null. Valid while any copy of the map holds that entry.
     const Value* Find(const Key& key) const {
         const Node* node = m_root.get();
         while (node) {
-            if (key < node->entry->first)
-                node = node->left.get();
-            else if (node->entry->first < key)
-                node = node->right.get();
-            else
+            const auto order = Order()(key, node->entry->first);
+            if (order == 0)
                 return &node->entry->second;
+            node = order < 0 ? node->left.get() : node->right.get();
         }
         return nullptr;
     }
@@ -57,11 +57,12 @@ private:
     static NodePtr Insert(const NodePtr& node, const EntryPtr& entry) {
         if (!node)
             return Make(entry, nullptr, nullptr);
-        if (entry->first < node->entry->first)
+        const auto order = Order()(entry->first, node->entry->first);
+        if (order == 0)
+            return Make(entry, node->left, node->right);
+        if (order < 0)
             return Balance(node->entry, Insert(node->left, entry), node->right);
-        if (node->entry->first < entry->first)
-            return Balance(node->entry, node->left, Insert(node->right, entry));
-        return Make(entry, node->left, node->right);
+        return Balance(node->entry, node->left, Insert(node->right, entry));
     }
 
     /// A node over two trees whose heights differ by two at most.

@@ -101,9 +101,7 @@ protected:
         void SetContextDefaultNamespace(const std::u16string& uri);
 
         /// Whether names in the namespace are written with a prefix here.
-        bool NeedsPrefix(const std::u16string& uri) const {
-            return !uri.empty() && uri != GetDefaultNamespace();
-        }
+        bool NeedsPrefix(const std::u16string& uri) const;
         /// Counts one more child element.
         void CountChild();
 
