@@ -22,4 +22,10 @@ inline constexpr char16_t ZeroChunkSize[] = u"The chunk size of a text buffer mu
 inline constexpr char16_t OutputTooLarge[] =
     u"The text is too large; a buffer takes at most 4294967295 characters";
 
+// Compression
+inline constexpr char16_t CompressionFailed[] = u"Failed to compress data. [Error Code: %d]";
+inline constexpr char16_t StreamTooLong[] = u"Streams of more than 4294967295 bytes are not supported";
+inline constexpr char16_t InflatedTooLong[] =
+    u"The content of the compressed stream is larger than the limit of %u bytes";
+
 } // namespace KzXmlLib10::messages

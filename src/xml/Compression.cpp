@@ -1,0 +1,123 @@
+#include <KzXmlLib10/xml/Compression.h>
+
+#include "object/Throw.h"
+#include "xml/Messages.h"
+
+#include <zlib.h>
+
+#include <atomic>
+#include <limits>
+#include <memory>
+#include <new>
+
+namespace KzXmlLib10 {
+
+namespace {
+
+constexpr int level = 1; // speed before size
+constexpr int gzipFormat = 15 + 16;
+constexpr int eitherFormat = 15 + 32; // inflate finds out by the first bytes
+constexpr unsigned long blockSize = 0x10000;
+
+std::atomic<std::uint32_t> maxInflatedSize = 1u << 30;
+
+using ByteArray = std::unique_ptr<unsigned char[]>;
+
+/// A stream of zlib that ends with its owner.
+template <int (*End)(z_stream*)>
+class Stream : public z_stream {
+public:
+    Stream(unsigned char* input, unsigned long size) : z_stream{} {
+        next_in = input;
+        avail_in = static_cast<uInt>(size);
+    }
+    Stream(const Stream&) = delete;
+    Stream& operator=(const Stream&) = delete;
+    ~Stream() { End(this); }
+
+    void SetOutput(unsigned char* output, unsigned long size) {
+        next_out = output;
+        avail_out = static_cast<uInt>(size);
+    }
+};
+
+/// Passes a result of zlib on, but for want of memory.
+int Checked(int result) {
+    if (result == Z_MEM_ERROR)
+        throw std::bad_alloc();
+    return result;
+}
+
+void RequireSize(unsigned long size) {
+    if (size > std::numeric_limits<std::uint32_t>::max())
+        Throw<CKzException>(messages::StreamTooLong);
+}
+
+[[noreturn]] void FailToCompress(int code) { Throw<CKzException>(messages::CompressionFailed, code); }
+
+} // namespace
+
+void Compress(CBinaryData& data, CompressionType type) {
+    if (data.GetLength() == 0)
+        return;
+    unsigned long size = data.GetLength();
+    unsigned char* array = data.ReleaseData();
+    try {
+        CompressBuffer(&array, &size, type);
+        data = CBinaryData(array, size, true);
+    } catch (...) {
+        delete[] array;
+        throw;
+    }
+}
+
+void CompressBuffer(unsigned char** data, unsigned long* size, CompressionType type) {
+    if (type != CompressionType_GZip && type != CompressionType_ZLib)
+        return;
+    RequireSize(*size);
+    ByteArray output(new unsigned char[*size]);
+    Stream<deflateEnd> stream(*data, *size);
+    stream.SetOutput(output.get(), *size);
+    int result = type == CompressionType_GZip
+                     ? deflateInit2(&stream, level, Z_DEFLATED, gzipFormat, 8, Z_DEFAULT_STRATEGY)
+                     : deflateInit(&stream, level);
+    if (Checked(result) != Z_OK)
+        FailToCompress(result);
+    deflate(&stream, Z_NO_FLUSH);
+    result = Checked(deflate(&stream, Z_FINISH));
+    // Deliberate: no room is reported as 0 in all its forms, also where the header alone has filled it.
+    if (result != Z_STREAM_END)
+        FailToCompress(result == Z_BUF_ERROR ? Z_OK : result);
+    delete[] * data;
+    *data = output.release();
+    *size = stream.total_out;
+}
+
+void Decompress(unsigned char** data, unsigned long* size) {
+    RequireSize(*size);
+    const std::uint32_t limit = GetMaxInflatedSize();
+    Stream<inflateEnd> stream(*data, *size);
+    if (Checked(inflateInit2(&stream, eitherFormat)) != Z_OK)
+        return;
+    const ByteArray block(new unsigned char[blockSize]);
+    CBinaryData content;
+    int result;
+    do { // anything but Z_OK ends it: a stream that asks for a dictionary would ask for ever
+        stream.SetOutput(block.get(), blockSize);
+        result = Checked(inflate(&stream, Z_NO_FLUSH));
+        if (stream.total_out > limit)
+            Throw<CKzException>(messages::InflatedTooLong, limit);
+        content.Append(block.get(), blockSize - stream.avail_out);
+    } while (result == Z_OK);
+    if (result != Z_STREAM_END)
+        return;
+    delete[] * data;
+    *data = content.ReleaseData();
+    *size = stream.total_out;
+}
+
+std::uint32_t GetMaxInflatedSize() { return maxInflatedSize; }
+
+void SetMaxInflatedSize(std::uint32_t bytes) { maxInflatedSize = bytes; }
+
+} // namespace KzXmlLib10
