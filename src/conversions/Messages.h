@@ -32,4 +32,11 @@ inline constexpr char16_t InvalidBoolean[] = u"A Boolean Value read from an XML 
 inline constexpr char16_t BadRealFormat[] =
     u"The format [%s] does not hold exactly one conversion of a floating-point number";
 
+inline constexpr char16_t InvalidPattern[] = u"Invalid Regular Expression: %s Error: '%s'";
+inline constexpr char16_t PatternFailed[] = u"%s\nInvalid Value for %s [%s]";
+inline constexpr char16_t InvalidInteger[] = u"Invalid Value for %s [%d]";
+inline constexpr char16_t InvalidText[] = u"Invalid Value for %s [%s]";
+inline constexpr char16_t InvalidReal[] = u"Invalid Value for %s [%f]";
+inline constexpr char16_t UnknownKindToCheck[] = u"unknown type [%s]";
+
 } // namespace KzXmlLib10::messages

@@ -1,0 +1,69 @@
+#include "conversions/LenientPattern.h"
+
+#include <algorithm>
+
+namespace KzXmlLib10 {
+
+namespace {
+
+bool IsOneOf(char c, std::string_view set) { return set.find(c) != std::string_view::npos; }
+
+/// The length of `text` up to and with `end`, or all of it.
+std::size_t LengthWith(std::string_view text, std::string_view end) {
+    const std::size_t at = text.find(end);
+    return at == std::string_view::npos ? text.size() : at + end.size();
+}
+
+/// The length of the item at the head of `rest`, which is not empty: a quotation \Q...\E, a property \p{...},
+/// another escape, the head of a class with a bracket that it starts with, a POSIX class, or one byte.
+std::size_t ItemLength(std::string_view rest, bool inClass) {
+    if (rest.starts_with("\\Q"))
+        return LengthWith(rest, "\\E");
+    if (rest.starts_with("\\p{") || rest.starts_with("\\P{"))
+        return LengthWith(rest, "}");
+    if (rest[0] == '\\')
+        return std::min<std::size_t>(rest.size(), 2);
+    if (rest[0] != '[')
+        return 1;
+    if (inClass)
+        return rest.starts_with("[:") && rest.find(":]") != rest.npos ? LengthWith(rest, ":]") : 1;
+    return rest.starts_with("[^]") ? 3 : rest.starts_with("[^") || rest.starts_with("[]") ? 2 : 1;
+}
+
+bool IsEscape(std::string_view item) { return item.size() > 1 && item[0] == '\\'; }
+
+/// A set of characters inside a class, which cannot be the end of a range.
+bool IsSet(std::string_view item) {
+    return item.starts_with("[:") || (IsEscape(item) && IsOneOf(item[1], "dDwWsShHvVpP"));
+}
+
+bool IsLetterWithoutMeaning(std::string_view item, bool inClass) {
+    return IsEscape(item) && (IsOneOf(item[1], "FIJMOTYijmqy") || (inClass && IsOneOf(item[1], "BNRX")));
+}
+
+} // namespace
+
+std::string MakeLenientPattern(std::string_view pattern) {
+    std::string result;
+    result.reserve(pattern.size());
+    bool inClass = false;
+    bool afterSet = false;
+    while (!pattern.empty()) {
+        const std::string_view item = pattern.substr(0, ItemLength(pattern, inClass));
+        pattern.remove_prefix(item.size());
+        const bool set = inClass && IsSet(item);
+        const bool beforeSet =
+            inClass && !pattern.empty() && IsSet(pattern.substr(0, ItemLength(pattern, true)));
+        if (inClass && item == "-" && (afterSet || beforeSet))
+            result += "\\-";
+        else if (IsLetterWithoutMeaning(item, inClass))
+            result += item[1];
+        else
+            result += item;
+        inClass = inClass ? item != "]" : item[0] == '[';
+        afterSet = set;
+    }
+    return result;
+}
+
+} // namespace KzXmlLib10
