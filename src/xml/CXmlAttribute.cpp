@@ -1,12 +1,14 @@
 #include <KzXmlLib10/xml/CXmlAttribute.h>
 
+#include "xml/XmlNamespaces.h"
+
 namespace KzXmlLib10 {
 
 namespace {
 
 /// The schema-instance or the xmlns namespace.
 bool IsReservedNamespace(std::u16string_view uri) {
-    return uri == u"http://www.w3.org/2001/XMLSchema-instance" || uri == u"http://www.w3.org/2000/xmlns/";
+    return uri == schemaInstanceNamespace || uri == xmlnsNamespace;
 }
 
 } // namespace

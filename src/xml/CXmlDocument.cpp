@@ -1,6 +1,8 @@
 #include <KzXmlLib10/xml/CXmlDocument.h>
 
+#include "object/NotNull.h"
 #include "object/Throw.h"
+#include "xml/AsyncFiles.h"
 #include "xml/CExpatReader.h"
 #include "xml/Messages.h"
 
@@ -10,16 +12,6 @@
 #include <limits>
 
 namespace KzXmlLib10 {
-
-namespace {
-
-template <class C>
-void RequireText(const C* text) {
-    if (!text)
-        Throw<CKzInvalidParamException>(messages::TextIsNull);
-}
-
-} // namespace
 
 CXmlDocument::CXmlDocument() : CXmlDocument(nullptr, CXmlSerializationContext::GetDefaultContext()) {}
 
@@ -44,6 +36,7 @@ void CXmlDocument::Cleanup() {
 }
 
 void CXmlDocument::Init() {
+    m_readOffset = 0;
     m_documentElement.reset();
     m_buffer.reset();
     m_bufferSize = 0;
@@ -51,7 +44,7 @@ void CXmlDocument::Init() {
 }
 
 void CXmlDocument::LoadXml(const char* text) {
-    RequireText(text);
+    NotNull(text, u"text");
     Cleanup();
     const std::size_t size = std::strlen(text);
     if (size == 0)
@@ -61,7 +54,7 @@ void CXmlDocument::LoadXml(const char* text) {
 }
 
 void CXmlDocument::LoadXml(const char16_t* text) {
-    RequireText(text);
+    NotNull(text, u"text");
     Cleanup();
     constexpr char16_t byteOrderMark = 0xFEFF;
     const std::uint64_t textSize = std::uint64_t{sizeof *text} * std::char_traits<char16_t>::length(text);
@@ -88,8 +81,7 @@ void CXmlDocument::ParseText(const char16_t* protocolEncoding) {
 }
 
 std::u16string CXmlDocument::LookupNamespaceFromAlias(const char16_t* alias) const {
-    RequireText(alias);
-    const auto found = m_namespaceAliases.find(std::u16string_view(alias));
+    const auto found = m_namespaceAliases.find(std::u16string_view(NotNull(alias, u"alias")));
     return found == m_namespaceAliases.end() ? std::u16string() : found->second;
 }
 

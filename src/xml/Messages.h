@@ -7,10 +7,15 @@ namespace KzXmlLib10::messages {
 // Reading
 inline constexpr char16_t XmlStringIsEmpty[] = u"XML String is empty!";
 inline constexpr char16_t ParserFailed[] = u"%s at line %d";
-inline constexpr char16_t TextIsNull[] = u"The text is null";
 inline constexpr char16_t InputTooLarge[] =
     u"The XML input has %I64u bytes; the parser takes at most 4294967295";
 inline constexpr char16_t ParserCharactersDiffer[] = u"The expat library at hand has no 16-bit characters";
+inline constexpr char16_t XmlStreamIsEmpty[] = u"XML Stream is empty!";
+inline constexpr char16_t NoRootElement[] = u"Invalid or empty XML document";
+inline constexpr char16_t FileNotOpened[] = u"Failed to open the file [%s] Error [0x%08x]";
+inline constexpr char16_t FileSizeUnknown[] = u"Failed to get the size of the file [%s] Error [0x%08x]";
+inline constexpr char16_t FileNotRead[] = u"Failed to read the contents of the file [%s] Error [0x%08x]";
+inline constexpr char16_t FileBlockNotRead[] = u"Failed to read the contents of the file. Error [0x%08x]";
 
 // Writing
 inline constexpr char16_t InvalidEolType[] = u"Invalid EOL type.";

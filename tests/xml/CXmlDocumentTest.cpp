@@ -130,9 +130,9 @@ TEST(CXmlDocument, FailsWithTheWordsOfTheParserAndTheLine) {
         EXPECT_EQ(Failure([&] { Tree(xml); }), message) << xml;
     EXPECT_EQ(Failure([] { Tree(u""); }), "no element found at line 1");
     EXPECT_EQ(Failure<CKzInvalidParamException>([] { Tree(static_cast<const char*>(nullptr)); }),
-              "The text is null");
+              "The argument text may not be null");
     EXPECT_EQ(Failure<CKzInvalidParamException>([] { CXmlDocument().LookupNamespaceFromAlias(nullptr); }),
-              "The text is null");
+              "The argument alias may not be null");
 }
 
 TEST(CXmlDocument, LeavesExternalEntitiesAlone) {

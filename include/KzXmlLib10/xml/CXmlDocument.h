@@ -17,6 +17,8 @@
 
 namespace KzXmlLib10 {
 
+class AsyncFile;
+
 /// A small read-only tree of elements: the form in which every input reaches the objects.
 ///
 ///     CXmlDocument document;
@@ -30,8 +32,10 @@ namespace KzXmlLib10 {
 /// A document owns its tree and may be loaded repeatedly; each load lets the tree before it go. It keeps a
 /// pointer to the context, which the caller keeps alive. It belongs to one thread.
 ///
-/// All failures of loading are CKzException with the words of the parser and the line, such as "mismatched
-/// tag at line 3". After a failure the tree may be there in part.
+/// All failures of loading are CKzException: malformed XML in the words of the parser, with the line, such as
+/// "mismatched tag at line 3"; files with their name and the error number of the system. A null argument
+/// throws CKzInvalidParamException. After a failure the tree may be there in part. An input may have up to
+/// 2^32 - 1 bytes, except on the road of AsyncFromXmlFile.
 class QUILLON_EXPORT CXmlDocument : public CInstanceMonitor {
 public:
     /// Uses the default context of the process.
@@ -48,18 +52,26 @@ public:
     virtual void Cleanup();
 
     /// Reads zero-terminated text in the encoding that it declares, UTF-8 if it declares none.
-    /// Empty text fails with "XML String is empty!", null with CKzInvalidParamException.
+    /// Empty text fails with "XML String is empty!".
     void LoadXml(const char* text);
     /// Reads zero-terminated UTF-16 text, whatever encoding it declares.
     ///
     /// Deliberate: empty text fails in the parser, with "no element found at line 1".
     void LoadXml(const char16_t* text);
 
+    /// Reads a file: whole, or block by block as AsyncFromXmlFile has set it.
+    ///
+    /// A whole file may be in any form that LoadXmlStream takes.
+    void Load(const char16_t* fileName);
+    /// Reads a copy of `size` bytes: text, in the encoding that its mark or its declaration tells, or a gzip
+    /// or zlib stream of it, which is found out by trying. No bytes fail with "XML Stream is empty!".
+    void LoadXmlStream(const unsigned char* data, unsigned long size);
+
     /// The root, or null.
     CXmlElement* GetDocumentElement() const { return m_documentElement.get(); }
 
     /// The namespace that the document declared last for a prefix, or an empty string. The empty prefix
-    /// stands for the default namespace. Null throws CKzInvalidParamException.
+    /// stands for the default namespace.
     ///
     /// Deliberate: declarations have no scope here; the last one of a prefix in the document holds for all.
     std::u16string LookupNamespaceFromAlias(const char16_t* alias) const;
@@ -70,6 +82,11 @@ private:
 
     void Init();
     void ParseText(const char16_t* protocolEncoding = nullptr);
+    void Parse();
+    void LoadWhole(const char16_t* fileName);
+    void LoadInBlocks(const char16_t* fileName);
+    void ReadChunkFromFile(unsigned char* block);
+    void AsyncParse(bool isLast);
     unsigned char* AllocateBuffer(std::uint64_t size);
 
     CXmlElement* AddDocElement(std::u16string_view namespaceUri, std::u16string_view localName);
@@ -80,6 +97,10 @@ private:
     void AppendTextExcludingCR(CXmlElement* element, const char16_t* text);
     void AppendTextExcludingCR(CXmlElement* element, const char16_t* text, unsigned long length);
 
+    /// Where the next block of a file starts. Outlives the load.
+    std::uint64_t m_readOffset = 0;
+    /// The file, with its read in flight, while it is read in blocks.
+    std::unique_ptr<AsyncFile> m_file;
     std::unique_ptr<CXmlElement> m_documentElement;
     std::vector<CXmlElement*> m_elementStack;
     std::map<std::u16string, std::u16string, std::less<>> m_namespaceAliases;

@@ -1,0 +1,137 @@
+// How files and byte buffers reach a CXmlDocument.
+
+#include <KzXmlLib10/xml/CXmlDocument.h>
+
+#include "object/NotNull.h"
+#include "object/Throw.h"
+#include "xml/AsyncFiles.h"
+#include "xml/CExpatReader.h"
+#include "xml/Messages.h"
+
+#include <KzXmlLib10/xml/AsyncFiles.h>
+
+#include <cerrno>
+#include <cstring>
+#include <limits>
+#include <utility>
+
+namespace KzXmlLib10 {
+
+namespace {
+
+bool asyncFromXmlFile = false;
+
+constexpr std::uint32_t BlockSize = 0x20000;
+
+std::unique_ptr<unsigned char[]> NewBlock() {
+    return std::make_unique_for_overwrite<unsigned char[]>(BlockSize);
+}
+
+void OpenForReading(AsyncFile& file, const char16_t* fileName) {
+    if (const int error = file.OpenForReading(fileName))
+        Throw<CKzException>(messages::FileNotOpened, fileName, error);
+}
+
+/// The size of a file that can be read whole.
+std::uint32_t GetSize(const AsyncFile& file, const char16_t* fileName) {
+    std::uint64_t size = 0;
+    int error = file.GetSize(size);
+    if (error == 0 && size > std::numeric_limits<std::uint32_t>::max())
+        error = EFBIG;
+    if (error != 0)
+        Throw<CKzException>(messages::FileSizeUnknown, fileName, error);
+    return static_cast<std::uint32_t>(size);
+}
+
+} // namespace
+
+void AsyncFromXmlFile(bool async) { asyncFromXmlFile = async; }
+
+void CXmlDocument::LoadXmlStream(const unsigned char* data, unsigned long size) {
+    Cleanup();
+    if (size == 0)
+        Throw<CKzException>(messages::XmlStreamIsEmpty);
+    NotNull(data, u"data");
+    std::memcpy(AllocateBuffer(size), data, size);
+    Parse();
+}
+
+void CXmlDocument::Load(const char16_t* fileName) {
+    NotNull(fileName, u"fileName");
+    Cleanup();
+    if (asyncFromXmlFile)
+        LoadInBlocks(fileName);
+    else
+        LoadWhole(fileName);
+}
+
+void CXmlDocument::LoadWhole(const char16_t* fileName) {
+    AsyncFile file;
+    OpenForReading(file, fileName);
+    const std::uint32_t size = GetSize(file, fileName);
+    if (const int error = file.ReadAll(AllocateBuffer(size), size))
+        Throw<CKzException>(messages::FileNotRead, fileName, error);
+    (void)file.Close();
+    Parse();
+}
+
+/// Reads the form that the buffer turns out to have; text is what is nothing else.
+void CXmlDocument::Parse() { ParseText(); }
+
+void CXmlDocument::LoadInBlocks(const char16_t* fileName) {
+    m_file = std::make_unique<AsyncFile>();
+    OpenForReading(*m_file, fileName);
+    m_buffer = NewBlock();
+    ReadChunkFromFile(m_buffer.get());
+    std::size_t count = 0;
+    if (const int error = m_file->Finish(count)) {
+        m_file.reset();
+        Throw<CKzException>(messages::FileNotRead, fileName, error);
+    }
+    m_readOffset += count;
+    m_bufferSize = static_cast<std::uint32_t>(count);
+    AsyncParse(count < BlockSize);
+}
+
+/// Starts to read the next block. The end of the file is reported by Finish.
+void CXmlDocument::ReadChunkFromFile(unsigned char* block) {
+    const int error = m_file->StartRead(m_readOffset, block, BlockSize);
+    if (error == 0 || error == AsyncFile::EndOfFile)
+        return;
+    m_file.reset();
+    Throw<CKzException>(messages::FileBlockNotRead, error);
+}
+
+/// Parses the block in the buffer, and all that follow unless it is the last. While one is parsed the next is
+/// on its way into the spare block.
+void CXmlDocument::AsyncParse(bool isLast) {
+    std::unique_ptr<unsigned char[]> spare = NewBlock();
+    try {
+        CExpatReader reader(this);
+        reader.Initialize();
+        while (!isLast) {
+            ReadChunkFromFile(spare.get());
+            reader.ParseChunk(false);
+            std::size_t count = 0;
+            // Deliberate: a file that ends with a full block fails here, since only a short one is the last.
+            if (const int error = m_file->Finish(count))
+                Throw<CKzException>(messages::FileBlockNotRead, error);
+            std::swap(m_buffer, spare);
+            m_readOffset += count;
+            m_bufferSize = static_cast<std::uint32_t>(count);
+            isLast = count < BlockSize;
+        }
+        reader.ParseChunk(true);
+        if (!m_documentElement)
+            Throw<CKzException>(messages::NoRootElement);
+    } catch (...) {
+        m_file.reset(); // waits for the read in flight, whose block goes next
+        Cleanup();
+        throw;
+    }
+    m_file.reset();
+    m_buffer.reset();
+    m_bufferSize = 0;
+}
+
+} // namespace KzXmlLib10

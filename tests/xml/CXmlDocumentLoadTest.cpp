@@ -1,0 +1,213 @@
+#include <KzXmlLib10/xml/CXmlDocument.h>
+
+#include "support/DumpTree.h"
+#include "support/Failure.h"
+#include "support/TempDir.h"
+#include "xml/AsyncFiles.h"
+
+#include <KzXmlLib10/xml/AsyncFiles.h>
+
+#include <gtest/gtest.h>
+
+#include <cerrno>
+#include <stdexcept>
+#include <string>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace KzXmlLib10 {
+namespace {
+
+using namespace support;
+
+constexpr std::size_t blockSize = 131072;
+
+void LoadStream(CXmlDocument& document, const std::string& bytes) {
+    document.LoadXmlStream(reinterpret_cast<const unsigned char*>(bytes.data()), bytes.size());
+}
+
+const std::string record = "<r a='\xC3\xA4'>\xE2\x82\xAC\xF0\x9F\x98\x80</r>\n";
+
+/// A document of exactly `size` bytes, with records at both ends.
+std::string DocumentOfSize(std::size_t size) {
+    const std::string start = "<doc>" + record + "<!--";
+    const std::string end = "-->" + record + record + "</doc>";
+    return start + std::string(size - start.size() - end.size(), '.') + end;
+}
+
+/// Loads through files, on the road that a test selects, and looks after descriptors.
+class CXmlDocumentLoad : public testing::Test {
+protected:
+    ~CXmlDocumentLoad() override {
+        AsyncFromXmlFile(false);
+        systemCalls = m_realCalls;
+        EXPECT_EQ(OpenDescriptors(), m_descriptors);
+    }
+
+    std::string TreeOfFile(const std::string& bytes, bool async) {
+        m_dir.Write("f.xml", bytes);
+        AsyncFromXmlFile(async);
+        CXmlDocument document;
+        document.Load(m_dir.Path16("f.xml").c_str());
+        return DumpTree(document.GetDocumentElement());
+    }
+
+    /// The failure of loading a file, with its path as "NAME".
+    std::string FailureOf(const std::string& name, bool async) {
+        AsyncFromXmlFile(async);
+        CXmlDocument document;
+        std::string message = Failure([&] { document.Load(m_dir.Path16(name).c_str()); });
+        const std::size_t at = message.find(m_dir.Path(name));
+        return at == message.npos ? message : message.replace(at, m_dir.Path(name).size(), "NAME");
+    }
+
+    TempDir m_dir;
+
+private:
+    const SystemCalls m_realCalls = systemCalls;
+    const std::ptrdiff_t m_descriptors = OpenDescriptors();
+};
+
+TEST_F(CXmlDocumentLoad, GivesTheSameTreeOnEveryRoad) {
+    const std::string tree = "{urn:a}a[@b=\xC3\xA4 \"\\nx\\n\" {urn:a}c]";
+    const std::string xml = "<a xmlns='urn:a' b='\xC3\xA4'>\r\nx<c/>\n</a>";
+    const std::string marked = "\xEF\xBB\xBF" + xml;
+    const std::string latin =
+        "<?xml version='1.0' encoding='iso-8859-1'?><a xmlns='urn:a' b='\xE4'>\r\nx<c/>\n</a>";
+    std::string wide = "\xFF\xFE";
+    for (const char16_t unit : FromUtf8(xml))
+        wide.append({static_cast<char>(unit & 0xFF), static_cast<char>(unit >> 8)});
+
+    for (const std::string& bytes : {xml, marked, latin, wide}) {
+        CXmlDocument document;
+        LoadStream(document, bytes);
+        EXPECT_EQ(DumpTree(document.GetDocumentElement()), tree);
+        EXPECT_EQ(TreeOfFile(bytes, false), tree);
+        EXPECT_EQ(TreeOfFile(bytes, true), tree);
+    }
+}
+
+TEST_F(CXmlDocumentLoad, ReadsBlocksWhateverFallsOnTheirEdges) {
+    const std::string r = "r[@a=\xC3\xA4 \"\xE2\x82\xAC\xF0\x9F\x98\x80\"]";
+    const std::string tree = "doc[\"\\n\\n\\n\" " + r + " " + r + " " + r + "]";
+    for (int beyond = -2; beyond <= static_cast<int>(2 * record.size()); ++beyond) {
+        if (beyond != 0) {
+            EXPECT_EQ(TreeOfFile(DocumentOfSize(blockSize + beyond), true), tree) << beyond;
+        }
+    }
+    EXPECT_EQ(TreeOfFile(DocumentOfSize(3 * blockSize + 1), true), tree);
+}
+
+TEST_F(CXmlDocumentLoad, FailsInBlocksOnAFileOfWholeBlocks) {
+    for (const std::size_t blocks : {1, 2}) {
+        m_dir.Write("f.xml", DocumentOfSize(blocks * blockSize));
+        EXPECT_EQ(FailureOf("f.xml", false), "no failure");
+        EXPECT_EQ(FailureOf("f.xml", true), "Failed to read the contents of the file. Error [0x00000026]");
+    }
+}
+
+TEST_F(CXmlDocumentLoad, ReportsWhatIsWrongWithAFile) {
+    m_dir.Write("empty", "");
+    m_dir.Write("broken", "<a>\n</b>");
+    m_dir.Write("huge", "");
+    ASSERT_EQ(truncate(m_dir.Path("huge").c_str(), off_t{1} << 32), 0);
+    ASSERT_EQ(mkfifo(m_dir.Path("fifo").c_str(), 0600), 0);
+    ASSERT_EQ(mkdir(m_dir.Path("directory").c_str(), 0700), 0);
+    ASSERT_EQ(symlink(m_dir.Path("loop").c_str(), m_dir.Path("loop").c_str()), 0);
+    const struct {
+        const char* name;
+        const char* whole;
+        const char* inBlocks;
+    } rows[] = {
+        {"none", "Failed to open the file [NAME] Error [0x00000002]", nullptr},
+        {"empty/none", "Failed to open the file [NAME] Error [0x00000014]", nullptr},
+        {"loop", "Failed to open the file [NAME] Error [0x00000028]", nullptr},
+        {"directory", "Failed to open the file [NAME] Error [0x00000015]", nullptr},
+        {"fifo", "Failed to get the size of the file [NAME] Error [0x0000001d]",
+         "Failed to read the contents of the file. Error [0x0000001d]"},
+        {"huge", "Failed to get the size of the file [NAME] Error [0x0000001b]",
+         "not well-formed (invalid token) at line 1"},
+        {"empty", "no element found at line 1",
+         "Failed to read the contents of the file [NAME] Error [0x00000026]"},
+        {"broken", "mismatched tag at line 2", nullptr},
+    };
+    for (const auto& [name, whole, inBlocks] : rows) {
+        EXPECT_EQ(FailureOf(name, false), whole);
+        EXPECT_EQ(FailureOf(name, true), inBlocks ? inBlocks : whole);
+    }
+    CXmlDocument document;
+    EXPECT_EQ(Failure([&] { document.LoadXmlStream(nullptr, 0); }), "XML Stream is empty!");
+    EXPECT_EQ(Failure<CKzInvalidParamException>([&] { document.LoadXmlStream(nullptr, 1); }),
+              "The argument data may not be null");
+    EXPECT_EQ(Failure<CKzInvalidParamException>([&] { document.Load(nullptr); }),
+              "The argument fileName may not be null");
+}
+
+TEST_F(CXmlDocumentLoad, RefusesANameWithALoneSurrogate) {
+    m_dir.Write("f", "<a/>");
+    const std::u16string name = m_dir.Path16("f") + u'\xD800';
+    CXmlDocument document;
+    try {
+        document.Load(name.c_str());
+        FAIL() << "the file f was read instead";
+    } catch (const CKzException& failure) {
+        EXPECT_EQ(failure.GetMessageW(), u"Failed to open the file [" + name + u"] Error [0x00000054]");
+    }
+}
+
+TEST_F(CXmlDocumentLoad, ReportsFaultsOfReading) {
+    m_dir.Write("f.xml", DocumentOfSize(3 * blockSize + 1));
+    systemCalls.pread = [](int, void*, std::size_t, off_t) -> ssize_t { return 0; };
+    EXPECT_EQ(FailureOf("f.xml", false), "Failed to read the contents of the file [NAME] Error [0x00000026]")
+        << "the file has shrunk";
+    systemCalls.pread = [](int, void*, std::size_t, off_t) -> ssize_t { return errno = EIO, -1; };
+    EXPECT_EQ(FailureOf("f.xml", false), "Failed to read the contents of the file [NAME] Error [0x00000005]");
+    EXPECT_EQ(FailureOf("f.xml", true), "Failed to read the contents of the file. Error [0x00000005]");
+    // A root that ends with its block does not hide that the rest is unreadable.
+    m_dir.Write("f.xml", DocumentOfSize(blockSize) + " ");
+    systemCalls.pread = [](int file, void* buffer, std::size_t length, off_t offset) -> ssize_t {
+        return offset == 0 ? pread(file, buffer, length, offset) : (errno = EIO, -1);
+    };
+    EXPECT_EQ(FailureOf("f.xml", true), "Failed to read the contents of the file. Error [0x00000005]");
+}
+
+TEST_F(CXmlDocumentLoad, EmptiesTheTreeWhenABlockFails) {
+    AsyncFromXmlFile(true);
+    const std::string xml = DocumentOfSize(2 * blockSize);
+    m_dir.Write("broken.xml", xml.substr(0, blockSize / 2) + "--" + xml.substr(blockSize / 2));
+    CXmlDocument broken;
+    EXPECT_NE(Failure([&] { broken.Load(m_dir.Path16("broken.xml").c_str()); }).find("at line"),
+              std::string::npos);
+    EXPECT_EQ(broken.GetDocumentElement(), nullptr);
+
+    m_dir.Write("f.xml", xml + " ");
+    CXmlDocument document([](CXmlElement*) -> bool { throw std::out_of_range("enough"); });
+    EXPECT_THROW(document.Load(m_dir.Path16("f.xml").c_str()), std::out_of_range);
+    EXPECT_EQ(document.GetDocumentElement(), nullptr);
+}
+
+TEST_F(CXmlDocumentLoad, GoesOnWhereTheLastLoadInBlocksEnded) {
+    AsyncFromXmlFile(true);
+    m_dir.Write("4.xml", "<a/>");
+    m_dir.Write("9.xml", "____<b/>\n");
+    CXmlDocument document;
+    document.Load(m_dir.Path16("4.xml").c_str());
+    document.Load(m_dir.Path16("9.xml").c_str());
+    EXPECT_EQ(DumpTree(document.GetDocumentElement()), "b");
+    EXPECT_EQ(Failure([&] { document.Load(m_dir.Path16("9.xml").c_str()); }),
+              "Failed to read the contents of the file [" + m_dir.Path("9.xml") + "] Error [0x00000026]");
+    AsyncFromXmlFile(false);
+    document.Load(m_dir.Path16("4.xml").c_str());
+    EXPECT_EQ(DumpTree(document.GetDocumentElement()), "a");
+}
+
+TEST_F(CXmlDocumentLoad, DropsRecordsOfAFileReadInBlocks) {
+    AsyncFromXmlFile(true);
+    m_dir.Write("f.xml", DocumentOfSize(5 * blockSize + 7));
+    CXmlDocument document([](CXmlElement* element) { return element->GetLocalName() == u"r"; });
+    document.Load(m_dir.Path16("f.xml").c_str());
+    EXPECT_EQ(document.GetDocumentElement()->GetFirstElement(), nullptr);
+}
+
+} // namespace
+} // namespace KzXmlLib10
