@@ -33,6 +33,9 @@ const PayloadKind* FindPayloadKind(ItemType type) {
     switch (type) {
     case ItemType_string:
         return &HeapValue<std::u16string>;
+    case ItemType_xmlObject:
+    case ItemType_xmlCollection:
+        return &CountedObject;
     default:
         return nullptr;
     }

@@ -1,6 +1,7 @@
 #include <KzXmlLib10/values/KzVariant.h>
 
 #include <KzXmlLib10/object/CKzException.h>
+#include <KzXmlLib10/object/CXmlObjectBase.h>
 
 #include <gtest/gtest.h>
 
@@ -209,6 +210,75 @@ TEST(KzVariant, UnknownKindCannotBeAssigned) {
         KzVariant target = TextVariant(u"text");
         EXPECT_EQ(MessageOf([&] { target = source; }), u"Unknown Type");
     }
+}
+
+/// An object that owns a variant, and counts how many of its class live.
+class CHolder : public CXmlObjectBase {
+public:
+    CHolder() { ++living; }
+    ~CHolder() override { --living; }
+
+    using CXmlObjectBase::GetBase;
+    CXmlObjectBase* GetBase() override { return this; }
+    std::u16string GetTargetNamespace() const override { return u""; }
+    std::u16string GetNamespace() const override { return u""; }
+
+    KzVariant m_value;
+    static inline int living = 0;
+
+protected:
+    void ToXml_Int(CXmlWriter*, bool, const char16_t*, const CXmlSerializationContext&, bool) const override {
+    }
+    CXmlElement* FromXml_Int(CXmlElement*, CXmlElement* current, const CXmlSerializationContext&,
+                             bool) override {
+        return current;
+    }
+};
+
+TEST(KzVariant, ObjectsAreSharedAndCounted) {
+    auto* object = new CHolder;
+    KzVariant v;
+    v.SetXmlObject(object);
+    EXPECT_EQ(v.GetTypeAsEnum(), ItemType_xmlObject);
+    EXPECT_EQ(static_cast<CXmlObjectBase*>(v.GetXmlObject()), object);
+    {
+        const KzVariant copy(v);
+        v.SetNil();
+        EXPECT_EQ(static_cast<CXmlObjectBase*>(v.GetXmlObject()), nullptr);
+        EXPECT_EQ(static_cast<CXmlObjectBase*>(copy.GetXmlObject()), object);
+        v = copy;
+    }
+    EXPECT_EQ(CHolder::living, 1);
+    v.SetXmlObject(object); // the variant held the only reference
+    EXPECT_EQ(CHolder::living, 1);
+    KzVariant moved(std::move(v));
+    EXPECT_EQ(object->AddRef(), 2);
+    EXPECT_EQ(object->Release(), 1);
+    moved.SetI4(1);
+    EXPECT_EQ(CHolder::living, 0);
+    EXPECT_THROW(moved.GetXmlObject(), CKzInvalidStateException);
+
+    v.SetXmlObject(nullptr);
+    EXPECT_TRUE(v.IsValid());
+    EXPECT_EQ(static_cast<CXmlObjectBase*>(v.GetXmlObject()), nullptr);
+    moved = v;
+    EXPECT_EQ(moved.GetTypeAsEnum(), ItemType_xmlObject);
+}
+
+TEST(KzVariant, AssignmentFromInsideTheOwnObjectKeepsTheSourceAlive) {
+    auto* object = new CHolder;
+    object->m_value.SetString(u"inside");
+    KzVariant v;
+    v.SetXmlObject(object);
+    v = static_cast<const KzVariant&>(object->m_value);
+    EXPECT_EQ(v.GetString(), u"inside");
+
+    object = new CHolder;
+    object->m_value.SetString(u"moved");
+    v.SetXmlObject(object);
+    v = std::move(object->m_value);
+    EXPECT_EQ(v.GetString(), u"moved");
+    EXPECT_EQ(CHolder::living, 0);
 }
 
 TEST(KzVariant, TextOfAnotherKindIsRefused) {
