@@ -1,0 +1,85 @@
+#include <KzXmlLib10/values/CDateTime.h>
+
+#include "object/Throw.h"
+#include "values/DateTimeKinds.h"
+#include "values/DateTimeText.h"
+#include "values/Messages.h"
+
+#include <cstdlib>
+
+namespace KzXmlLib10 {
+
+std::u16string CDateTime::ToString() const { return ToString(u"s"); }
+
+std::u16string CDateTime::ToString(const char16_t* format) const {
+    if (IsBlank())
+        Throw<CKzInvalidValueException>(messages::DateNotSet);
+    const std::u16string_view name = format ? format : u"";
+    if (name.empty() || name == u"G")
+        return {};
+    if (name != u"s")
+        return std::u16string(u"Unknown Format: ").append(name);
+
+    std::u16string text;
+    text.reserve(36); // -9999-12-31T23:59:59.123456789+23:59
+    AppendDate(text);
+    if (m_dtType == DTType_dateTime)
+        text += u'T';
+    if (HasTimeOfDay(m_dtType))
+        AppendTime(text);
+    AppendZone(text);
+    return text;
+}
+
+/// Whether there is nothing to write. A midnight is a time, but a date of zeros is no date.
+bool CDateTime::IsBlank() const {
+    return m_dtType == DTType_yearZero ||
+           (m_dtType != DTType_time && m_year == 0 && m_month == 0 && m_day == 0 && m_hour == 0 &&
+            m_minute == 0 && m_second == 0 && m_milliSecond == 0 && m_microSecond == 0 && m_nanoSecond == 0);
+}
+
+/// Appends what the kind has of year, month and day. A minus sign stands for each part that is missing in
+/// front of another one.
+void CDateTime::AppendDate(std::u16string& out) const {
+    if (HasYear(m_dtType)) {
+        if (m_year < 0)
+            out += u'-';
+        AppendNumber(out, static_cast<unsigned>(std::abs(m_year)), 4);
+    } else if (HasMonth(m_dtType) || HasDay(m_dtType)) {
+        out += u'-';
+    }
+    if (HasMonth(m_dtType)) {
+        out += u'-';
+        AppendNumber(out, m_month, 2);
+    } else if (HasDay(m_dtType)) {
+        out += u'-';
+    }
+    if (HasDay(m_dtType)) {
+        out += u'-';
+        AppendNumber(out, m_day, 2);
+    }
+}
+
+void CDateTime::AppendTime(std::u16string& out) const {
+    AppendNumber(out, m_hour, 2);
+    out += u':';
+    AppendNumber(out, m_minute, 2);
+    out += u':';
+    AppendNumber(out, m_second, 2);
+    AppendFraction(out, m_milliSecond, m_microSecond, m_nanoSecond);
+}
+
+void CDateTime::AppendZone(std::u16string& out) const {
+    if (!m_isUTC)
+        return;
+    if (!m_hasTimeZone) {
+        out += u'Z';
+        return;
+    }
+    out += m_zoneHour < 0 ? u'-' : u'+';
+    AppendNumber(out, static_cast<unsigned>(std::abs(m_zoneHour)), 2);
+    out += u':';
+    AppendNumber(out, m_zoneMinute, 2);
+}
+
+} // namespace KzXmlLib10

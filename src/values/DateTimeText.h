@@ -1,0 +1,36 @@
+#pragma once
+
+#include <charconv>
+#include <cstddef>
+#include <iterator>
+#include <string>
+
+namespace KzXmlLib10 {
+
+constexpr bool IsDigit(char16_t c) { return c >= u'0' && c <= u'9'; }
+
+/// Appends a number in decimal, with zeros in front up to `width` digits.
+inline void AppendNumber(std::u16string& out, unsigned long long number, std::size_t width = 1) {
+    char digits[20];
+    char* const end = std::to_chars(digits, std::end(digits), number).ptr;
+    const std::size_t length = static_cast<std::size_t>(end - digits);
+    if (length < width)
+        out.append(width - length, u'0');
+    out.append(std::begin(digits), end);
+}
+
+/// Appends the fraction of a second: nothing if it is zero, otherwise a point and the groups of three digits,
+/// without the zeros at the end.
+inline void AppendFraction(std::u16string& out, unsigned milli, unsigned micro, unsigned nano) {
+    if (milli == 0 && micro == 0 && nano == 0)
+        return;
+    out += u'.';
+    AppendNumber(out, milli, 3);
+    if (micro != 0 || nano != 0)
+        AppendNumber(out, micro, 3);
+    if (nano != 0)
+        AppendNumber(out, nano, 3);
+    out.erase(out.find_last_not_of(u'0') + 1);
+}
+
+} // namespace KzXmlLib10
