@@ -91,5 +91,25 @@ inline constexpr char16_t EmptyDuration[] = u"Invalid XSD Duration (Empty String
 inline constexpr char16_t MalformedDuration[] =
     u"Invalid XSD Duration [%s] expected [-]P[nY][nM][nD][T[nH][nM][nS.ff]]";
 inline constexpr char16_t DurationFractionTooLong[] = u"Invalid XSD Duration [%s] Fraction part too long";
+inline constexpr char16_t OutOfBoundOfInt[] = u"ERROR: Value out of bound of int.";
+inline constexpr char16_t OutOfBoundOfLongLong[] = u"ERROR: Value out of bound of LONGLONG.";
+inline constexpr char16_t OverflowInDivide[] = u"ERROR: Overflow in operator/.";
+inline constexpr char16_t OverflowInModulo[] = u"ERROR: Overflow in operator%.";
+inline constexpr char16_t OverflowInDivideAssign[] = u"ERROR: Overflow in operator /=."; // sic
+inline constexpr char16_t OverflowInModuloAssign[] = u"ERROR: Overflow in operator%=.";
+inline constexpr char16_t NegativeSquareRoot[] = u"ERROR: Negative Number in function SquareRoot().";
+inline constexpr char16_t InfiniteInteger[] = u"ERROR: Infinity is not an integer.";
+inline constexpr char16_t PowerOfTenTooLarge[] = u"ERROR: The power of ten %u is above the limit of %u.";
+
+inline constexpr char16_t InvalidCharInDecimal[] =
+    u"The string representing a Decimal, contained an invalid char at position %d [%s]"; // sic
+inline constexpr char16_t ExponentOfDecimalTooLarge[] =
+    u"The string representing a Decimal, contained an exponent above %d [%s]";
+inline constexpr char16_t DecimalTooLargeForLong[] =
+    u"The Decimal value if to large to fit into a LONG"; // sic
+inline constexpr char16_t DecimalTooLargeForLongLong[] =
+    u"The Decimal value if to large to fit into a LONGLONG"; // sic
+inline constexpr char16_t DecimalTooLargeForDouble[] =
+    u"The Decimal value if to large to fit into a Double"; // sic
 
 } // namespace KzXmlLib10::messages

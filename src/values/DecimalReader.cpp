@@ -1,0 +1,73 @@
+#include "values/DecimalReader.h"
+
+#include "object/Throw.h"
+#include "values/Messages.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace KzXmlLib10 {
+
+namespace {
+
+constexpr long long largestExponentRead = 1'000'000'000'000;
+
+bool IsDigit(char16_t unit) { return unit >= u'0' && unit <= u'9'; }
+
+bool IsSign(char16_t unit) { return unit == u'-' || unit == u'+'; }
+
+bool IsWhitespace(char16_t unit) { return unit == u' ' || unit == u'\t' || unit == u'\r' || unit == u'\n'; }
+
+bool StartsExponent(char16_t unit) { return unit == u'e' || unit == u'E'; }
+
+} // namespace
+
+DecimalText DecimalReader::Read() {
+    ReadInteger();
+    if (*m_at == u'.') {
+        ++m_at;
+        ReadFraction();
+    }
+    if (StartsExponent(*m_at)) {
+        ++m_at;
+        ReadExponent();
+    }
+    if (*m_at)
+        Refuse();
+    return std::move(m_parts);
+}
+
+void DecimalReader::ReadInteger() {
+    for (; *m_at && *m_at != u'.' && !StartsExponent(*m_at); ++m_at) {
+        if (IsDigit(*m_at))
+            m_parts.integerDigits += *m_at;
+        else if (IsSign(*m_at))
+            m_parts.negative = *m_at == u'-'; // Deliberate: wherever it stands, the last one counting
+        else if (!IsWhitespace(*m_at))
+            Refuse();
+    }
+}
+
+void DecimalReader::ReadFraction() {
+    for (; IsDigit(*m_at) || IsWhitespace(*m_at); ++m_at) {
+        if (IsDigit(*m_at))
+            m_parts.fractionDigits += *m_at;
+    }
+}
+
+void DecimalReader::ReadExponent() {
+    for (; IsSign(*m_at) || IsWhitespace(*m_at); ++m_at) {
+        if (IsSign(*m_at))
+            m_parts.exponentNegative = *m_at == u'-';
+    }
+    for (; IsDigit(*m_at); ++m_at) {
+        m_parts.hasExponent = true;
+        m_parts.exponent = std::min(m_parts.exponent * 10 + (*m_at - u'0'), largestExponentRead);
+    }
+}
+
+void DecimalReader::Refuse() const {
+    Throw<CKzInvalidValueException>(messages::InvalidCharInDecimal, static_cast<int>(m_at - m_text), m_text);
+}
+
+} // namespace KzXmlLib10
