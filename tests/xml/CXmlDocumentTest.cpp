@@ -127,7 +127,7 @@ TEST(CXmlDocument, FailsWithTheWordsOfTheParserAndTheLine) {
         {"<a xmlns='urn:a|b'/>", "syntax error at line 1"},
     };
     for (const auto& [xml, message] : rows)
-        EXPECT_EQ(Failure([&] { Tree(xml); }), message) << xml;
+        EXPECT_EQ(Failure([&text = xml] { Tree(text); }), message) << xml;
     EXPECT_EQ(Failure([] { Tree(u""); }), "no element found at line 1");
     EXPECT_EQ(Failure<CKzInvalidParamException>([] { Tree(static_cast<const char*>(nullptr)); }),
               "The argument text may not be null");
