@@ -67,29 +67,55 @@ std::size_t ReadUtf8(std::string_view text, std::size_t at, char32_t& point) {
     return overlong || point > 0x10FFFF || (point >= 0xD800 && point <= 0xDFFF) ? 0 : length;
 }
 
-bool IsAscii(char16_t unit) { return unit < 0x80; }
+std::size_t CountLeadingAscii(std::u16string_view text) {
+    std::size_t count = 0;
+    for (; text.size() - count >= 16; count += 16) { // sixteen at a time, which the compiler can do at once
+        unsigned bits = 0;
+        for (std::size_t i = 0; i < 16; ++i)
+            bits |= text[count + i];
+        if (bits >= 0x80)
+            break;
+    }
+    while (count < text.size() && text[count] < 0x80)
+        ++count;
+    return count;
+}
 
 } // namespace
 
-std::size_t AppendUtf8(std::string& out, std::u16string_view text) {
-    const std::size_t start = out.size();
-    if (std::ranges::all_of(text, IsAscii)) {
-        out.append(text.begin(), text.end());
-        return text.size();
-    }
-    out.resize(start + text.size() * 3);
-    char* to = out.data() + start;
-    std::size_t at = 0;
-    while (at < text.size()) {
+Utf8Extent MeasureUtf8(std::u16string_view text) {
+    const std::size_t ascii = CountLeadingAscii(text);
+    Utf8Extent extent{ascii, ascii};
+    while (extent.units < text.size()) {
         char32_t point;
-        const std::size_t units = ReadUtf16(text, at, point);
+        const std::size_t units = ReadUtf16(text, extent.units, point);
         if (units == 0)
             break;
-        to = PutUtf8(to, point);
-        at += units;
+        extent.units += units;
+        extent.bytes += point < 0x80 ? 1 : point < 0x800 ? 2 : point < 0x10000 ? 3 : 4;
     }
-    out.resize(static_cast<std::size_t>(to - out.data()));
-    return at;
+    return extent;
+}
+
+void WriteUtf8(char* to, std::u16string_view text, Utf8Extent extent) {
+    text = text.substr(0, extent.units);
+    if (extent.bytes == extent.units) {
+        std::ranges::transform(text, to, [](char16_t unit) { return static_cast<char>(unit); });
+        return;
+    }
+    for (std::size_t at = 0; at < text.size();) {
+        char32_t point;
+        at += ReadUtf16(text, at, point);
+        to = PutUtf8(to, point);
+    }
+}
+
+std::size_t AppendUtf8(std::string& out, std::u16string_view text) {
+    const Utf8Extent extent = MeasureUtf8(text);
+    const std::size_t start = out.size();
+    out.resize(start + extent.bytes);
+    WriteUtf8(out.data() + start, text, extent);
+    return extent.units;
 }
 
 std::size_t AppendUtf16(std::u16string& out, std::string_view text) {
