@@ -27,6 +27,13 @@ inline constexpr char16_t ZeroChunkSize[] = u"The chunk size of a text buffer mu
 inline constexpr char16_t OutputTooLarge[] =
     u"The text is too large; a buffer takes at most 4294967295 characters";
 
+// Bytes and files
+inline constexpr char16_t UnknownEncoding[] =
+    u"Unknown Encoding, select UTF-8 (contact the Quillon Runtime maintainers for support)";
+inline constexpr char16_t EncodedTextTooLong[] = u"The text needs more than 4294967295 bytes";
+inline constexpr char16_t FileNotWritten[] = u"Failed to write data to the file [%s] error [0x%08X]";
+inline constexpr char16_t FileBlockNotWritten[] = u"Failed to write data to the file. Error [0x%08X]";
+
 // Compression
 inline constexpr char16_t CompressionFailed[] = u"Failed to compress data. [Error Code: %d]";
 inline constexpr char16_t StreamTooLong[] = u"Streams of more than 4294967295 bytes are not supported";

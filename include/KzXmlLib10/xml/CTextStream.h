@@ -2,6 +2,7 @@
 
 #include <KzXmlLib10/object/CInstanceMonitor.h>
 #include <KzXmlLib10/object/Enumerations.h>
+#include <KzXmlLib10/values/CBinaryData.h>
 #include <KzXmlLib10/xml/CStringBuffer.h>
 
 namespace KzXmlLib10 {
@@ -26,6 +27,12 @@ public:
     /// Does nothing here: an in-memory stream keeps everything. The writer calls it whenever an operation
     /// leaves 4096 characters or more in the buffer.
     virtual void Flush();
+
+    /// The whole text in the bytes of its encoding, without a byte order mark. XmlEncoding_None, and what is
+    /// no encoding, throws CKzException.
+    ///
+    /// Deliberate: UTF-8 ends, silently, before the first surrogate without its partner; UTF-16 keeps it.
+    CBinaryData GetBytes();
 
     CStringBuffer& GetBuffer() { return m_buffer; }
     XmlEncoding GetEncoding() const { return m_encoding; }

@@ -1,0 +1,200 @@
+// The two roads of text into a file: whole, by CFileBinaryStream, and block by block, by CFileTextStream.
+
+#include <KzXmlLib10/xml/CFileBinaryStream.h>
+#include <KzXmlLib10/xml/CFileTextStream.h>
+
+#include "support/Failure.h"
+#include "support/TempDir.h"
+#include "xml/AsyncFiles.h"
+
+#include <gtest/gtest.h>
+
+#include <cerrno>
+#include <string>
+#include <sys/stat.h>
+#include <unistd.h>
+#include <vector>
+
+using namespace KzXmlLib10;
+using namespace KzXmlLib10::support;
+
+namespace {
+
+/// Text as the writer hands it over: a flush after each piece.
+using Pieces = std::vector<std::u16string>;
+
+constexpr XmlEncoding byteEncodings[] = {XmlEncoding_UTF8, XmlEncoding_UTF16, XmlEncoding_UTF16NoDecl};
+
+void WriteInBlocks(const Pieces& pieces, XmlEncoding encoding, const std::u16string& name) {
+    CFileTextStream stream(name.c_str(), encoding);
+    stream.Open();
+    for (const std::u16string& piece : pieces) {
+        stream.GetBuffer().Append(piece);
+        stream.Flush();
+    }
+    stream.Close();
+}
+
+void WriteWhole(const Pieces& pieces, XmlEncoding encoding, const std::u16string& name) {
+    CTextStream text(encoding);
+    for (const std::u16string& piece : pieces)
+        text.GetBuffer().Append(piece);
+    CFileBinaryStream stream(name.c_str(), encoding);
+    stream.m_data = text.GetBytes();
+    stream.SaveToFile();
+}
+
+class FileStreams : public testing::Test {
+protected:
+    ~FileStreams() override {
+        systemCalls = m_realCalls;
+        EXPECT_EQ(OpenDescriptors(), m_descriptors);
+    }
+
+    /// The bytes of the file by the one road; those of the other have to be the same.
+    std::string BothRoads(const Pieces& pieces, XmlEncoding encoding) {
+        WriteInBlocks(pieces, encoding, m_dir.Path16("blocks"));
+        WriteWhole(pieces, encoding, m_dir.Path16("whole"));
+        const std::string bytes = m_dir.Read("whole");
+        EXPECT_TRUE(m_dir.Read("blocks") == bytes) << "encoding " << encoding;
+        return bytes;
+    }
+
+    TempDir m_dir;
+
+private:
+    const SystemCalls m_realCalls = systemCalls;
+    const std::ptrdiff_t m_descriptors = OpenDescriptors();
+};
+
+TEST_F(FileStreams, Utf8HasNoMarkAndUtf16Has) {
+    const Pieces pieces = {u"<a>\u20AC", u"", u"\U0001F600"};
+    EXPECT_EQ(BothRoads(pieces, XmlEncoding_UTF8), "<a>\xE2\x82\xAC\xF0\x9F\x98\x80");
+    const std::string utf16("\xFF\xFE<\0a\0>\0\xAC\x20\x3D\xD8\x00\xDE", 14);
+    EXPECT_EQ(BothRoads(pieces, XmlEncoding_UTF16), utf16);
+    EXPECT_EQ(BothRoads(pieces, XmlEncoding_UTF16NoDecl), utf16);
+    EXPECT_EQ(BothRoads({}, XmlEncoding_UTF8), "");
+    EXPECT_EQ(BothRoads({}, XmlEncoding_UTF16), "\xFF\xFE");
+}
+
+TEST_F(FileStreams, LoneSurrogatesEndUtf8ForGoodWhereverBlocksEnd) {
+    const struct {
+        Pieces pieces;
+        const char* utf8;
+        std::size_t units;
+    } rows[] = {
+        {{u"a\xD83D", u"\xDE00z"}, "a\xF0\x9F\x98\x80z", 4},
+        {{u"\xD83D", u"", u"\xDE00"}, "\xF0\x9F\x98\x80", 2},
+        {{u"a\xD83D", u"b", u"c"}, "a", 4},
+        {{u"a\xD83D", u"\xD83D", u"\xDE00"}, "a", 4},
+        {{u"a\xDE00", u"c"}, "a", 3},
+        {{u"ab", u"\xDE00", u"c"}, "ab", 4},
+        {{u"a\xD83D"}, "a", 2},
+        {{u"\xD83D"}, "", 1},
+    };
+    for (const auto& row : rows) {
+        EXPECT_EQ(BothRoads(row.pieces, XmlEncoding_UTF8), row.utf8);
+        EXPECT_EQ(BothRoads(row.pieces, XmlEncoding_UTF16).size(), 2 + 2 * row.units);
+    }
+}
+
+TEST_F(FileStreams, LongTextIsTheSameOnBothRoads) {
+    Pieces pieces;
+    for (int i = 0; i < 300; ++i)
+        pieces.push_back(std::u16string(4090 + i % 13, static_cast<char16_t>(u'!' + i * 7)) + u"\U0001F600");
+    for (const XmlEncoding encoding : byteEncodings)
+        EXPECT_GT(BothRoads(pieces, encoding).size(), 300u * 4096);
+}
+
+TEST_F(FileStreams, BytesOfNoEncoding) {
+    const std::string words =
+        "Unknown Encoding, select UTF-8 (contact the Quillon Runtime maintainers for support)";
+    for (const XmlEncoding encoding : {XmlEncoding_None, static_cast<XmlEncoding>(4)}) {
+        CTextStream text(encoding);
+        EXPECT_EQ(Failure([&] { text.GetBytes(); }), words);
+        EXPECT_EQ(Failure([&] { WriteInBlocks({u"a"}, encoding, m_dir.Path16("f")); }), words);
+    }
+}
+
+TEST_F(FileStreams, FilesThatCannotBeCreated) {
+    ASSERT_EQ(mkfifo(m_dir.Path("fifo").c_str(), 0600), 0);
+    const struct {
+        std::u16string name;
+        const char* code;
+    } rows[] = {
+        {m_dir.Path16("no/such"), "0x00000002"},
+        {m_dir.Path16(""), "0x00000015"},     // a directory
+        {m_dir.Path16("fifo"), "0x00000006"}, // without a reader
+        {m_dir.Path16("f") + u'\xD800', "0x00000054"},
+    };
+    for (const auto& row : rows) {
+        const auto failure = [&](auto write) {
+            try {
+                write({u"a"}, XmlEncoding_UTF8, row.name);
+            } catch (const CKzException& e) {
+                return e.GetMessageW();
+            }
+            return std::u16string(u"no failure");
+        };
+        const std::u16string expected =
+            u"Failed to write data to the file [" + row.name + u"] error [" + FromUtf8(row.code) + u"]";
+        EXPECT_EQ(failure(WriteInBlocks), expected);
+        EXPECT_EQ(failure(WriteWhole), expected);
+    }
+    EXPECT_FALSE(std::filesystem::exists(m_dir.Path("f")));
+    EXPECT_THROW(CFileTextStream(nullptr, XmlEncoding_UTF8), CKzInvalidParamException);
+    EXPECT_THROW(CFileBinaryStream(nullptr, XmlEncoding_UTF8), CKzInvalidParamException);
+}
+
+TEST_F(FileStreams, FullDevice) {
+    const std::string named = "Failed to write data to the file [/dev/full] error [0x0000001C]";
+    const std::string block = "Failed to write data to the file. Error [0x0000001C]";
+    const std::u16string full = u"/dev/full";
+    EXPECT_EQ(Failure([&] { WriteWhole({u"a"}, XmlEncoding_UTF8, full); }), named);
+    EXPECT_EQ(Failure([&] { WriteWhole({}, XmlEncoding_UTF16, full); }), named);
+    EXPECT_EQ(Failure([&] { WriteInBlocks({u"a"}, XmlEncoding_UTF8, full); }), block);
+    EXPECT_EQ(Failure([&] { WriteInBlocks({u"a"}, XmlEncoding_UTF16, full); }), named);
+}
+
+TEST_F(FileStreams, AFailedStreamIsClosedOnce) {
+    CFileTextStream stream(u"/dev/full", XmlEncoding_UTF8);
+    const std::ptrdiff_t before = OpenDescriptors();
+    stream.Open();
+    EXPECT_EQ(OpenDescriptors(), before + 1);
+    stream.GetBuffer().Append(u"a");
+    EXPECT_EQ(Failure([&] { stream.Flush(); }), "Failed to write data to the file. Error [0x0000001C]");
+    EXPECT_EQ(OpenDescriptors(), before);
+    EXPECT_EQ(Failure([&] { stream.Close(); }), "no failure");
+    EXPECT_EQ(Failure([&] { stream.Flush(); }), "Failed to write data to the file. Error [0x00000009]");
+}
+
+TEST_F(FileStreams, AnErrorOfCloseIsReported) {
+    systemCalls.close = [](int file) {
+        close(file);
+        return errno = EIO, -1;
+    };
+    EXPECT_EQ(Failure([&] { WriteInBlocks({u"a"}, XmlEncoding_UTF8, m_dir.Path16("f")); }),
+              "Failed to write data to the file. Error [0x00000005]");
+    EXPECT_EQ(Failure([&] { WriteWhole({u"a"}, XmlEncoding_UTF8, m_dir.Path16("f")); }),
+              "Failed to write data to the file [" + m_dir.Path("f") + "] error [0x00000005]");
+}
+
+TEST_F(FileStreams, WhatWasWrittenBeforeAFailureStays) {
+    {
+        CFileTextStream stream(m_dir.Path16("f").c_str(), XmlEncoding_UTF8);
+        stream.Open();
+        stream.GetBuffer().Append(u"written");
+        stream.Flush();
+        stream.GetBuffer().Append(u"lost");
+    } // as when the serialization throws
+    EXPECT_EQ(m_dir.Read("f"), "written");
+}
+
+TEST_F(FileStreams, TheMarkStandsBeforeAnyData) {
+    CFileBinaryStream stream(m_dir.Path16("f").c_str(), XmlEncoding_UTF16);
+    stream.m_data.SetAsHexString(u"1F8B");
+    stream.SaveToFile();
+    EXPECT_EQ(m_dir.Read("f"), "\xFF\xFE\x1F\x8B");
+}
+
+} // namespace
