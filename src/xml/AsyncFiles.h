@@ -11,6 +11,9 @@ namespace KzXmlLib10 {
 
 static_assert(sizeof(off_t) == 8, "files have 64-bit offsets");
 
+/// What AsyncToXmlFile has set.
+bool IsAsyncToXmlFile();
+
 /// The system calls behind AsyncFile, with the results and errno of the system. Only tests replace them, to
 /// provoke faults.
 struct SystemCalls {

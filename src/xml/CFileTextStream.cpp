@@ -6,11 +6,15 @@
 #include "xml/EncodeText.h"
 #include "xml/Messages.h"
 
+#include <KzXmlLib10/xml/AsyncFiles.h>
+
 #include <cerrno>
 
 namespace KzXmlLib10 {
 
 namespace {
+
+bool asyncToXmlFile = false;
 
 bool IsHighSurrogate(char16_t unit) { return unit >= 0xD800 && unit <= 0xDBFF; }
 
@@ -20,6 +24,10 @@ void CheckBlock(int error) {
 }
 
 } // namespace
+
+void AsyncToXmlFile(bool async) { asyncToXmlFile = async; }
+
+bool IsAsyncToXmlFile() { return asyncToXmlFile; }
 
 CFileTextStream::CFileTextStream(const char16_t* fileName, XmlEncoding encoding)
     : CTextStream(encoding), m_fileName(NotNull(fileName, u"fileName")),

@@ -16,4 +16,13 @@ namespace KzXmlLib10 {
 /// A plain flag without a lock, meant to be set once at start.
 QUILLON_EXPORT void AsyncFromXmlFile(bool async);
 
+/// Selects, for the whole process, how CXmlObjectBase::ToXmlFile writes files without compression; false at
+/// start.
+///
+/// With true the text goes into the file in blocks as it comes, through CFileTextStream, and never stands in
+/// memory as a whole. The bytes of the file are the same.
+///
+/// A plain flag without a lock, meant to be set once at start.
+QUILLON_EXPORT void AsyncToXmlFile(bool async);
+
 } // namespace KzXmlLib10
