@@ -1,0 +1,144 @@
+#pragma once
+
+#include <KzXmlLib10/metadata/Names.h>
+#include <KzXmlLib10/metadata/XmlElementType.h>
+
+#include <cstdint>
+#include <string>
+
+namespace KzXmlLib10Data {
+
+/// Binds one particle of a schema type (a child element, a nested group, a repeated element, a wildcard) to
+/// one property of a generated class.
+///
+/// Generated code builds a null-terminated table of them for each class, in schema order; the engine of
+/// CXmlGeneratedClass walks it. The leaves of the family are named CElementInfo + group + kind + cardinality:
+///
+///     group        Seq xs:sequence    Choice xs:choice    All xs:all
+///     kind         Cls object of one class     AbsCls object of a class that the element chooses
+///                  Prim primitive value        Enum enumerator        Untpd generic element
+///     cardinality  Mnd exactly one    Opt zero or one     Col repeated
+///
+/// Descriptors are read-only once built, so threads may share them; they hold no state of a read or write.
+class QUILLON_EXPORT CElementInfo {
+public:
+    CElementInfo(const CElementInfo&) = default;
+    CElementInfo& operator=(const CElementInfo&) = default;
+    virtual ~CElementInfo();
+
+    /// Writes the property. True if something was written.
+    virtual bool ElementToXml(const CXmlSerializationContext& context, const CXmlGeneratedClass* object,
+                              CXmlWriter* writer) const = 0;
+    /// Reads the property from the children of `parent` that are left. `*current` is the next of them, or
+    /// null; it moves past whatever is taken. True if the descriptor is satisfied. With an owner that has no
+    /// tag of its own a miss is told by false instead of a failure.
+    virtual bool ElementFromXml(const CXmlSerializationContext& context, CXmlGeneratedClass* object,
+                                CXmlElement* parent, CXmlElement** current, const char16_t* ownerNamespace,
+                                XmlElementType ownerElementType) = 0;
+    /// Asked by the walk of an all group whether a miss is acceptable.
+    virtual bool Validate(const CXmlSerializationContext& context, const CXmlGeneratedClass* object,
+                          bool found, bool isElement) const = 0;
+    /// Writes the attributes of a nested group onto the open start tag. Does nothing here.
+    virtual void PseudoChildAttributeToXml(const CXmlSerializationContext& context,
+                                           const CXmlGeneratedClass* object, CXmlWriter* writer) const;
+
+    std::u16string GetElementName() const;
+    std::u16string GetElementNamespace() const;
+    int GetPropertyIndex() const;
+
+    /// Tests a value against the facets; generated setters call it. Throws as CheckPrimitiveRestrictions
+    /// does, or CKzException on a descriptor that has no primitive value.
+    void CheckRestriction(const KzVariant& value) const;
+
+    /// Whether an element of a document has this descriptor's name; without namespaces where the context
+    /// ignores them.
+    bool IsThisElement(const CXmlSerializationContext& context, const CXmlElement* element) const;
+
+    /// The namespace that a new generic element takes by default under a wildcard.
+    static std::u16string GetAnyDefaultNamespace(const char16_t* namespaceConstraint,
+                                                 const char16_t* ownerNamespace,
+                                                 const char16_t* targetNamespace);
+
+protected:
+    /// For objects and collections. Names may not be null (CKzInvalidParamException).
+    CElementInfo(const char16_t* name, const char16_t* namespaceUri, int propertyIndex);
+    /// For enumerations.
+    CElementInfo(const char16_t* name, const char16_t* namespaceUri, int propertyIndex, bool nillable);
+    /// For primitive values; a null format override is the empty one.
+    CElementInfo(const char16_t* name, const char16_t* namespaceUri, int propertyIndex, bool nillable,
+                 ItemType itemType, const char16_t* formatOverride,
+                 CWhitespaceUtils::WhitespaceRule whitespaceRule, const CPrimitiveRestrictions& restrictions);
+
+    void AccessProperty(CXmlGeneratedClass* object, bool read, KzVariant& value);
+    void ReadProperty(const CXmlGeneratedClass* object, KzVariant& value) const;
+
+    /// Forwarders to the protected operations of objects.
+    static CXmlElement* FromXml_Int(CXmlObjectBase* object, CXmlElement* element, CXmlElement* current,
+                                    const CXmlSerializationContext& context, bool isOptional);
+    static void AttributesToXml_Int(const CXmlObjectBase* object, CXmlWriter* writer,
+                                    const CXmlSerializationContext& context);
+
+    // Writing: one operation for each kind.
+    bool ElementToXmlPrim(const CXmlSerializationContext& context, const CXmlGeneratedClass* object,
+                          CXmlWriter* writer) const;
+    bool ElementToXmlEnum(const CXmlSerializationContext& context, const CXmlGeneratedClass* object,
+                          CXmlWriter* writer, EnumToString enumToString) const;
+    bool ElementToXmlCls(const CXmlSerializationContext& context, const CXmlGeneratedClass* object,
+                         CXmlWriter* writer, bool isOptional) const;
+    /// Writes the attributes of the held object if the group has attributes on the parent's start tag.
+    void PseudoAttributesToXml(const CXmlSerializationContext& context, const CXmlGeneratedClass* object,
+                               CXmlWriter* writer, XmlElementType elementType) const;
+
+    // Reading: the steps that leaves are composed of.
+    /// Looks for the element from `*current` on, past unknown elements where the context ignores them. False
+    /// if a missing one is let pass; otherwise throws CKzValidationException if there is none.
+    bool SeekElement(const CXmlSerializationContext& context, CXmlElement** current) const;
+    /// Converts and stores the value of the current element, nil included, and moves on. Always true.
+    bool TakePrimitive(CXmlGeneratedClass* object, CXmlElement** current);
+    bool TakeEnum(CXmlGeneratedClass* object, CXmlElement** current, StringToEnum stringToEnum);
+    /// Reads the current element into the child and moves on.
+    static void TakeObject(const CXmlSerializationContext& context, CXmlObjectBase* child,
+                           CXmlElement** current, bool isOptional);
+    /// Reads the current element into the child, stores it, and moves on.
+    void ReadAndStoreObject(const CXmlSerializationContext& context, CXmlGeneratedClass* object,
+                            CXmlObjectBase* child, CXmlElement** current);
+    /// The object that the factory creates. Throws CKzInvalidStateException if it gives none.
+    CSmartPtr<CXmlObjectBase> CreateObject(ClassFactory factory, int classId) const;
+    /// Puts an object, or null, into the property.
+    void StoreObject(CXmlGeneratedClass* object, CXmlObjectBase* child);
+    /// The object in the property, or null.
+    CSmartPtr<CXmlObjectBase> ReadObject(const CXmlGeneratedClass* object) const;
+    /// The object that the generated class created for a mandatory member. Throws CKzInvalidStateException if
+    /// it created none.
+    CSmartPtr<CXmlObjectBase> HeldObject(const CXmlGeneratedClass* object) const;
+    [[noreturn]] void FailRequired() const;
+
+    std::u16string m_elementName;
+    std::u16string m_elementNamespace;
+    std::int32_t m_propertyIndex;
+    CPrimitiveRestrictions m_restrictions;
+    ItemType m_itemType;
+    std::u16string m_formatOverride;
+    CWhitespaceUtils::WhitespaceRule m_whitespaceRule;
+    bool m_nillable;
+    bool m_isPrimitive;
+
+private:
+    bool IsNil(const CXmlElement& element) const;
+    bool StoreAndAdvance(CXmlGeneratedClass* object, KzVariant& value, CXmlElement** current);
+};
+
+/// Declares the operations that every complete leaf overrides.
+#define QUILLON_ELEMENT_OPERATIONS                                                                           \
+    bool ElementToXml(const CXmlSerializationContext& context, const CXmlGeneratedClass* object,             \
+                      CXmlWriter* writer) const override;                                                    \
+    bool ElementFromXml(const CXmlSerializationContext& context, CXmlGeneratedClass* object,                 \
+                        CXmlElement* parent, CXmlElement** current, const char16_t* ownerNamespace,          \
+                        XmlElementType ownerElementType) override;
+
+/// Declares the operation that leaves with objects override, whose group may put attributes on the parent.
+#define QUILLON_PSEUDO_ATTRIBUTES                                                                            \
+    void PseudoChildAttributeToXml(const CXmlSerializationContext& context,                                  \
+                                   const CXmlGeneratedClass* object, CXmlWriter* writer) const override;
+
+} // namespace KzXmlLib10Data

@@ -1,0 +1,107 @@
+/// The steps of reading that the leaves of all groups are composed of.
+
+#include <KzXmlLib10/metadata/CElementInfo.h>
+
+#include "metadata/Messages.h"
+#include "object/SchemaInstance.h"
+#include "object/Throw.h"
+
+#include <KzXmlLib10/object/CXmlGeneratedClass.h>
+#include <KzXmlLib10/object/CXmlObjectBase.h>
+#include <KzXmlLib10/object/CXmlSerializationContext.h>
+#include <KzXmlLib10/values/KzVariant.h>
+#include <KzXmlLib10/xml/CXmlElement.h>
+
+namespace KzXmlLib10Data {
+
+using namespace KzXmlLib10;
+
+bool CElementInfo::SeekElement(const CXmlSerializationContext& context, CXmlElement** current) const {
+    while (!IsThisElement(context, *current)) {
+        if (context.GetIgnoreMissingMandatoryElements())
+            return false;
+        if (!context.GetIgnoreUnknownElements() || !*current)
+            FailRequired();
+        *current = (*current)->GetNextSiblingElement();
+    }
+    return true;
+}
+
+bool CElementInfo::IsNil(const CXmlElement& element) const {
+    const std::u16string& value = element.GetAttribute(nilAttribute, schemaInstanceNamespace);
+    if (value.empty() || IsFalseWord(value))
+        return false;
+    if (!m_nillable)
+        Throw<CKzValidationException>(messages::NilOnNonNillable, m_elementName);
+    if (!IsTrueWord(value))
+        Throw<CKzValidationException>(messages::UnexpectedNilValue, value);
+    return true;
+}
+
+bool CElementInfo::TakePrimitive(CXmlGeneratedClass* object, CXmlElement** current) {
+    KzVariant value;
+    if (IsNil(**current))
+        value.SetNil();
+    else
+        value.FromString((*current)->GetText(), m_itemType, m_whitespaceRule);
+    return StoreAndAdvance(object, value, current);
+}
+
+bool CElementInfo::TakeEnum(CXmlGeneratedClass* object, CXmlElement** current, StringToEnum stringToEnum) {
+    KzVariant value;
+    if (IsNil(**current))
+        value.SetNil();
+    else
+        value.SetI4(stringToEnum((*current)->GetText().c_str()));
+    return StoreAndAdvance(object, value, current);
+}
+
+bool CElementInfo::StoreAndAdvance(CXmlGeneratedClass* object, KzVariant& value, CXmlElement** current) {
+    AccessProperty(object, false, value);
+    *current = (*current)->GetNextSiblingElement();
+    return true;
+}
+
+void CElementInfo::TakeObject(const CXmlSerializationContext& context, CXmlObjectBase* child,
+                              CXmlElement** current, bool isOptional) {
+    FromXml_Int(child, *current, (*current)->GetFirstElement(), context, isOptional);
+    *current = (*current)->GetNextSiblingElement();
+}
+
+void CElementInfo::ReadAndStoreObject(const CXmlSerializationContext& context, CXmlGeneratedClass* object,
+                                      CXmlObjectBase* child, CXmlElement** current) {
+    TakeObject(context, child, current, false);
+    StoreObject(object, child);
+}
+
+CSmartPtr<CXmlObjectBase> CElementInfo::CreateObject(ClassFactory factory, int classId) const {
+    CSmartPtr<CXmlObjectBase> child = factory(classId, m_elementName.c_str());
+    if (!child)
+        Throw<CKzInvalidStateException>(messages::FactoryGaveNothing, m_elementName);
+    return child;
+}
+
+void CElementInfo::StoreObject(CXmlGeneratedClass* object, CXmlObjectBase* child) {
+    KzVariant value;
+    value.SetXmlObject(child);
+    AccessProperty(object, false, value);
+}
+
+CSmartPtr<CXmlObjectBase> CElementInfo::ReadObject(const CXmlGeneratedClass* object) const {
+    KzVariant value;
+    ReadProperty(object, value);
+    return value.GetTypeAsEnum() == ItemType_Invalid ? nullptr : value.GetXmlObject();
+}
+
+CSmartPtr<CXmlObjectBase> CElementInfo::HeldObject(const CXmlGeneratedClass* object) const {
+    CSmartPtr<CXmlObjectBase> child = ReadObject(object);
+    if (!child)
+        Throw<CKzInvalidStateException>(messages::MandatoryMemberIsNull, m_elementName);
+    return child;
+}
+
+void CElementInfo::FailRequired() const {
+    Throw<CKzValidationException>(messages::RequiredElementNotFound, m_elementName);
+}
+
+} // namespace KzXmlLib10Data

@@ -1,0 +1,82 @@
+/// The writing operations that all groups share: one for each kind of property.
+
+#include <KzXmlLib10/metadata/CElementInfo.h>
+
+#include "object/NotNull.h"
+
+#include <KzXmlLib10/object/CXmlGeneratedClass.h>
+#include <KzXmlLib10/object/CXmlObjectBase.h>
+#include <KzXmlLib10/object/CXmlSerializationContext.h>
+#include <KzXmlLib10/values/KzVariant.h>
+#include <KzXmlLib10/xml/CXmlWriter.h>
+
+namespace KzXmlLib10Data {
+
+using namespace KzXmlLib10;
+
+namespace {
+
+void WriteNil(CXmlWriter* writer, const std::u16string& name, const std::u16string& namespaceUri) {
+    writer->StartElement(name, namespaceUri);
+    writer->WriteXsiNil();
+    writer->EndElement();
+}
+
+} // namespace
+
+bool CElementInfo::ElementToXmlPrim(const CXmlSerializationContext&, const CXmlGeneratedClass* object,
+                                    CXmlWriter* writer) const {
+    KzVariant value;
+    ReadProperty(object, value);
+    if (value.IsNil()) {
+        WriteNil(writer, m_elementName, m_elementNamespace);
+        return true;
+    }
+    // Deliberate: a mandatory value that is not there is left out without a word.
+    if (value.GetTypeAsEnum() == ItemType_Invalid)
+        return false;
+    // The facets come before the start tag, so that a bad value leaves no open element behind.
+    CheckRestriction(value);
+    writer->StartElement(m_elementName, m_elementNamespace);
+    writer->WriteText(value.ToString(m_formatOverride.c_str()), value.GetTypeAsEnum());
+    writer->EndElement();
+    return true;
+}
+
+bool CElementInfo::ElementToXmlEnum(const CXmlSerializationContext&, const CXmlGeneratedClass* object,
+                                    CXmlWriter* writer, EnumToString enumToString) const {
+    KzVariant value;
+    ReadProperty(object, value);
+    if (value.IsNil()) {
+        WriteNil(writer, m_elementName, m_elementNamespace);
+        return true;
+    }
+    if (value.GetTypeAsEnum() == ItemType_Invalid)
+        return false;
+    writer->StartElement(m_elementName, m_elementNamespace);
+    writer->WriteText(EmptyIfNull(enumToString(value.GetI4())), ItemType_string);
+    writer->EndElement();
+    return true;
+}
+
+bool CElementInfo::ElementToXmlCls(const CXmlSerializationContext& context, const CXmlGeneratedClass* object,
+                                   CXmlWriter* writer, bool isOptional) const {
+    const CSmartPtr<CXmlObjectBase> child = ReadObject(object);
+    if (!child)
+        return false;
+    // The object writes its own element name, which its constructor or its reading gave it.
+    static_cast<const CXmlObjectBase&>(*child).ToXml_Int(writer, false, m_elementNamespace.c_str(), context,
+                                                         isOptional);
+    return true;
+}
+
+void CElementInfo::PseudoAttributesToXml(const CXmlSerializationContext& context,
+                                         const CXmlGeneratedClass* object, CXmlWriter* writer,
+                                         XmlElementType elementType) const {
+    if (elementType != XmlElementType_Pseudo)
+        return;
+    if (const CSmartPtr<CXmlObjectBase> child = ReadObject(object))
+        AttributesToXml_Int(child, writer, context);
+}
+
+} // namespace KzXmlLib10Data

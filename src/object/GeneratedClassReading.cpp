@@ -1,0 +1,143 @@
+/// How a parsed element becomes the members of a generated object.
+
+#include <KzXmlLib10/object/CXmlGeneratedClass.h>
+
+#include "object/Messages.h"
+#include "object/SchemaInstance.h"
+#include "object/RecursionLevel.h"
+#include "object/Throw.h"
+
+#include <KzXmlLib10/metadata/CAttributeInfo.h>
+#include <KzXmlLib10/metadata/CElementInfo.h>
+#include <KzXmlLib10/metadata/CParentElementInfo.h>
+#include <KzXmlLib10/object/CXmlSerializationContext.h>
+#include <KzXmlLib10/object/INillable.h>
+#include <KzXmlLib10/values/KzVariant.h>
+#include <KzXmlLib10/xml/CXmlElement.h>
+
+namespace KzXmlLib10 {
+
+using namespace KzXmlLib10Data;
+
+CXmlElement* CXmlGeneratedClass::FromXml_Int(CXmlElement* element, CXmlElement* current,
+                                             const CXmlSerializationContext& context, bool isOptional) {
+    try {
+        const RecursionLevel level;
+        return ReadObject(element, current, context, isOptional);
+    } catch (CKzException& failure) {
+        ThrowAround<CKzValidationException>(failure, messages::FailedToReadElement, element->GetLocalName());
+    }
+}
+
+CXmlElement* CXmlGeneratedClass::ReadObject(CXmlElement* element, CXmlElement* current,
+                                            const CXmlSerializationContext& context, bool isOptional) {
+    Init();
+    const CParentElementInfo* info = GetClassInfo();
+    if (info->GetElementType() == XmlElementType_Element)
+        SetElementName(element->GetLocalName().c_str());
+    ProcessAttributesFromXml(context, element, info->GetFromXmlFailIfAttributeUnknown());
+    const auto* nillable = dynamic_cast<const INillable*>(this);
+    if (nillable && nillable->IsNil())
+        return current;
+    CXmlElement* rest = ReadChildren(element, current, context, isOptional);
+    ReadPrimitiveValue(*element);
+    return rest;
+}
+
+CXmlElement* CXmlGeneratedClass::ReadChildren(CXmlElement* element, CXmlElement* current,
+                                              const CXmlSerializationContext& context, bool) {
+    const CParentElementInfo* info = GetClassInfo();
+    switch (info->GetElementGroupType()) {
+    case XmlElementGroupType_Sequence:
+        return ProcessElementSeqFromXml(context, element, current, info->GetElementType());
+    default:
+        Throw<CKzException>(messages::UnknownGroupTypeOnReading);
+    }
+}
+
+void CXmlGeneratedClass::ReadPrimitiveValue(const CXmlElement& element) {
+    const CParentElementInfo* info = GetClassInfo();
+    const int property = info->GetPrimitiveValuePropertyIndex();
+    if (property == -1 || info->GetPrimitiveDataType() == ItemType_Invalid)
+        return;
+    KzVariant value;
+    if (info->GetOutputPrimitiveClassAsTextProperty())
+        value.SetString(element.GetText());
+    else
+        value.FromString(element.GetText(), info->GetPrimitiveDataType(),
+                         CWhitespaceUtils::WhitespaceRule_None);
+    AccessProperty(property, false, value);
+}
+
+void CXmlGeneratedClass::ProcessAttributesFromXml(const CXmlSerializationContext& context, CXmlElement* element,
+                                                  bool failIfUnknown) {
+    std::vector<char> found;
+    for (CAttributeInfo** entry = GetClassAttributeInfo(); *entry; ++entry)
+        found.push_back(false);
+    for (CXmlAttribute* attribute : element->GetAttributes()) {
+        if (attribute->IsNamespaceAttribute())
+            continue;
+        if (attribute->IsNilAttribute())
+            ReadNilAttribute(*element, *attribute);
+        else if (!OfferAttribute(context, attribute, found) && failIfUnknown &&
+                 !context.GetIgnoreUnknownAttributes())
+            Throw<CKzValidationException>(messages::UnexpectedAttribute, attribute->GetLocalName());
+    }
+    CAttributeInfo** table = GetClassAttributeInfo();
+    for (std::size_t i = 0; i < found.size(); ++i)
+        table[i]->Validate(context, found[i]);
+}
+
+void CXmlGeneratedClass::ReadNilAttribute(const CXmlElement& element, const CXmlAttribute& attribute) {
+    auto* nillable = dynamic_cast<INillable*>(this);
+    if (!nillable)
+        Throw<CKzValidationException>(messages::NilOnNonNillable, element.GetLocalName());
+    const std::u16string& value = attribute.GetValue();
+    if (!IsTrueWord(value) && !IsFalseWord(value))
+        Throw<CKzValidationException>(messages::UnexpectedNilValue, value);
+    nillable->SetNil(IsTrueWord(value));
+}
+
+bool CXmlGeneratedClass::OfferAttribute(const CXmlSerializationContext& context, CXmlAttribute* attribute,
+                                        std::vector<char>& found) {
+    CAttributeInfo** table = GetClassAttributeInfo();
+    for (std::size_t i = 0; i < found.size(); ++i)
+        if (table[i]->AttributeFromXml(context, this, attribute)) {
+            found[i] = true;
+            return true;
+        }
+    return false;
+}
+
+CXmlElement* CXmlGeneratedClass::ProcessElementSeqFromXml(const CXmlSerializationContext& context,
+                                                          CXmlElement* element, CXmlElement* current,
+                                                          XmlElementType type) {
+    CXmlElement* const start = current;
+    CXmlElement* last = current;
+    const int count = GetClassElementInfoCount();
+    int resume = 0; // the descriptor that moved the position last gets the next look
+    for (;;) {
+        for (int i = resume; i < count; ++i) {
+            while (!GetClassElementInfo()[i]->ElementFromXml(context, this, element, &current,
+                                                             GetNamespace().c_str(), type)) {
+                if (!context.GetIgnoreUnknownElements() || !current)
+                    return start;
+                current = current->GetNextSiblingElement();
+            }
+            if (current != last) {
+                last = current;
+                resume = i;
+            }
+        }
+        if (type != XmlElementType_Element || !current)
+            return current;
+        if (!context.GetIgnoreUnknownElements())
+            Throw<CKzValidationException>(messages::UnprocessedElement, element->GetLocalName(),
+                                          current->GetLocalName());
+        current = current->GetNextSiblingElement();
+        if (!current)
+            return nullptr;
+    }
+}
+
+} // namespace KzXmlLib10

@@ -1,0 +1,385 @@
+/// Whole documents through sequences of single members: what is read, what each flag softens, what is
+/// written.
+
+#include "support/Model.h"
+
+#include <gtest/gtest.h>
+
+using namespace kit;
+
+namespace {
+
+constexpr char16_t xsi[] = u" xmlns:xsi='http://www.w3.org/2001/XMLSchema-instance'";
+
+using Flag = void (CXmlSerializationContext::*)(bool);
+constexpr Flag none = nullptr;
+constexpr Flag unknownElements = &CXmlSerializationContext::SetIgnoreUnknownElements;
+constexpr Flag missingElements = &CXmlSerializationContext::SetIgnoreMissingMandatoryElements;
+constexpr Flag unknownAttributes = &CXmlSerializationContext::SetIgnoreUnknownAttributes;
+
+/// Properties of the object after reading, or the failure.
+std::u16string Read(const Model& model, const std::u16string& xml, Flag flag = none) {
+    CXmlSerializationContext context;
+    if (flag)
+        (context.*flag)(true);
+    const CSmartPtr<CModelObject> object = model.New();
+    std::u16string result = FailureOf([&] { object->FromXml(xml.c_str(), context); });
+    if (!result.empty())
+        return result;
+    for (std::size_t i = 0; i < object->properties.size(); ++i) {
+        const KzVariant& value = object->properties[i];
+        result += i ? u"|" : u"";
+        if (const CModelObject* child =
+                value.GetTypeAsEnum() == ItemType_xmlObject ? object->Child(int(i)) : nullptr)
+            for (std::size_t j = 0; j < child->properties.size(); ++j)
+                result += (j ? u"," : u"{") + child->Text(int(j)) +
+                          (j + 1 == child->properties.size() ? u"}" : u"");
+        else if (value.GetTypeAsEnum() != ItemType_xmlObject)
+            result += object->Text(int(i));
+    }
+    return result;
+}
+
+std::u16string Write(const CModelObject& object, const CXmlSerializationContext& context = {}) {
+    std::u16string text;
+    const std::u16string failure = FailureOf([&] { text = object.ToXml(false, false, EOLType_LF, context); });
+    return failure.empty() ? text : failure;
+}
+
+class SequenceOfPrimitives : public testing::Test {
+protected:
+    SequenceOfPrimitives() {
+        line.Prim(u"sku", Mnd, ItemType_string, false, Facets(u"[A-Z]+"))
+            .Prim(u"count", Mnd, ItemType_i4, true)
+            .Prim(u"note", Opt, ItemType_string)
+            .Colour(u"colour", Mnd)
+            .Colour(u"other", Opt, true);
+    }
+    Model line{u"line"};
+};
+
+TEST_F(SequenceOfPrimitives, ReadsInOrder) {
+    EXPECT_EQ(Read(line, u"<line><sku>A</sku><count> 7 </count><note>x</note><colour>red</colour></line>"),
+              u"A|7|x|1|(none)");
+    EXPECT_EQ(
+        Read(line,
+             u"<whatever><sku>A</sku><count>7</count><colour>green</colour><other>blue</other></whatever>"),
+        u"A|7|(none)|2|3");
+}
+
+TEST_F(SequenceOfPrimitives, ReportsWhatIsMissingOrLeftOver) {
+    EXPECT_EQ(Read(line, u"<line><count>7</count><colour>red</colour></line>"),
+              u"Failed to process the element [line]\nFailed to find a required element [sku]");
+    EXPECT_EQ(
+        Read(line, u"<line><sku>A</sku><count>7</count><colour>red</colour><extra/></line>"),
+        u"Failed to process the element [line]\nFailed read all the elements held within the element [line]. "
+        u"The unexpected element [extra] remains un processed");
+    EXPECT_EQ(Read(line, u"<line><sku>a</sku></line>"),
+              u"Failed to process the element [line]\nInvalid Value for sku [a]");
+    EXPECT_EQ(Read(line, u"<line><sku>A</sku><count>x</count></line>"),
+              u"Failed to process the element [line]\nThe value [x] can not be converted to a i4");
+}
+
+TEST_F(SequenceOfPrimitives, UnknownElementsAreSkippedUnderTheFlag) {
+    const std::u16string unknown = u"<line><u/><sku>A</sku><u/><count>7</count><u/><note>n</note>"
+                                   u"<colour>red</colour><other>blue</other><u/></line>";
+    EXPECT_EQ(Read(line, unknown),
+              u"Failed to process the element [line]\nFailed to find a required element [sku]");
+    // An optional member never skips: the next mandatory one passes over the note behind an unknown element.
+    EXPECT_EQ(Read(line, unknown, unknownElements), u"A|7|(none)|1|3");
+    // What is left over gives the member that moved last another look, and a mandatory one insists.
+    EXPECT_EQ(
+        Read(line, u"<line><sku>A</sku><count>7</count><colour>red</colour><u/></line>", unknownElements),
+        u"A|7|(none)|1|(none)");
+    EXPECT_EQ(
+        Read(line, u"<line><sku>A</sku><count>7</count><colour>red</colour><u/><u/></line>", unknownElements),
+        u"Failed to process the element [line]\nFailed to find a required element [colour]");
+    EXPECT_EQ(Read(line, u"<line><sku>A</sku><u/></line>", unknownElements),
+              u"Failed to process the element [line]\nFailed to find a required element [count]");
+}
+
+TEST_F(SequenceOfPrimitives, MissingElementsPassUnderTheFlag) {
+    EXPECT_EQ(Read(line, u"<line><note>x</note></line>", missingElements), u"(none)|(none)|x|(none)|(none)");
+    EXPECT_EQ(
+        Read(line, u"<line><u/></line>", missingElements),
+        u"Failed to process the element [line]\nFailed read all the elements held within the element [line]. "
+        u"The unexpected element [u] remains un processed");
+}
+
+TEST_F(SequenceOfPrimitives, NilIsReadByItsAttribute) {
+    const auto document = [&](const char16_t* sku, const char16_t* count) {
+        return std::u16string(u"<line") + xsi + u"><sku xsi:nil='" + sku + u"'>A</sku><count xsi:nil='" +
+               count + u"'>seven</count><colour>red</colour></line>";
+    };
+    EXPECT_EQ(Read(line, document(u"FALSE", u"TRUE")), u"A|(nil)|(none)|1|(none)");
+    EXPECT_EQ(Read(line, document(u"0", u"1")), u"A|(nil)|(none)|1|(none)");
+    EXPECT_EQ(
+        Read(line, document(u"maybe", u"1")),
+        u"Failed to process the element [line]\nInvalid use of 'nil' attibute in non-nillable element [sku]");
+    EXPECT_EQ(Read(line, document(u"", u"maybe")),
+              u"Failed to process the element [line]\nUnexpected Value [maybe] for 'nil' Attribute found.");
+}
+
+TEST_F(SequenceOfPrimitives, WritesInOrderAndChecksFacetsBeforeTheTag) {
+    const auto object = line.New();
+    object->properties[0].SetString(u"A");
+    object->properties[1].SetNil();
+    object->properties[3].SetI4(2);
+    EXPECT_EQ(Write(*object),
+              u"<line><sku>A</sku><count xmlns:AA=\"http://www.w3.org/2001/XMLSchema-instance\" "
+              u"AA:nil=\"true\"/><colour>green</colour></line>");
+    object->properties[0].SetString(u"a&b");
+    EXPECT_EQ(Write(*object), u"Failed to convert the element [line] to XML\nInvalid Value for sku [a&b]");
+}
+
+TEST_F(SequenceOfPrimitives, MandatoryValueThatIsNotThereIsLeftOut) {
+    EXPECT_EQ(Write(*line.New()), u"<line/>");
+}
+
+TEST_F(SequenceOfPrimitives, ReadingReplacesWhatTheObjectHeld) {
+    const auto object = line.New();
+    const CXmlSerializationContext context;
+    object->FromXml(u"<line><sku>A</sku><count>1</count><note>x</note><colour>red</colour></line>", context);
+    object->FromXml(u"<row><sku>B</sku><count>1</count><colour>red</colour></row>", context);
+    EXPECT_EQ(object->Text(2), u"(none)");
+    EXPECT_EQ(Write(*object), u"<row><sku>B</sku><count>1</count><colour>red</colour></row>");
+}
+
+TEST(SequenceOfClasses, FailuresReadAsThePathOfElements) {
+    Model point(u"point");
+    point.Prim(u"x", Mnd, ItemType_i4).Prim(u"y", Mnd, ItemType_i1);
+    Model shape(u"shape");
+    shape.Class(u"from", Mnd, point).Class(u"to", Opt, point);
+    EXPECT_EQ(Read(shape, u"<shape><from><x>1</x><y>2</y></from><to><x>3</x><y>4</y></to></shape>"),
+              u"{1,2}|{3,4}");
+    EXPECT_EQ(Read(shape, u"<shape><from><x>1</x><y>2</y></from><to><x>3</x><y>400</y></to></shape>"),
+              u"Failed to process the element [shape]\nFailed to process the element [to]\n"
+              u"The value [400] is to large to fit in a i1");
+
+    const auto object = shape.New();
+    EXPECT_FALSE(FailureOf([&] {
+                     object->FromXml(u"<shape><from><x>1</x><y>2</y></from><to><x>3</x></to></shape>", {});
+                 }).empty());
+    EXPECT_EQ(object->Child(1), nullptr); // stored only once it is filled
+    EXPECT_EQ(object->Child(0)->Text(1), u"2");
+
+    object->Child(0)->properties[0] = KzVariant();
+    object->Child(0)->properties[1].SetXmlObject(nullptr); // a kind that has no text
+    EXPECT_EQ(Write(*object),
+              u"Failed to convert the element [shape] to XML\nFailed to convert the element [from] to "
+              u"XML\nInvalid Type 27 to convert to string");
+}
+
+TEST(SequenceOfClasses, MandatoryObjectIsFilledNotReplacedAndKeptWhenWaived) {
+    Model point(u"point");
+    point.Prim(u"x", Mnd, ItemType_i4);
+    Model shape(u"shape");
+    shape.Class(u"from", Mnd, point);
+    const auto object = shape.New();
+    const CModelObject* before = object->Child(0);
+    object->FromXml(u"<shape><from><x>1</x></from></shape>", {});
+    EXPECT_EQ(object->Child(0), before);
+    CXmlSerializationContext context;
+    context.SetIgnoreMissingMandatoryElements(true);
+    object->FromXml(u"<shape/>", context);
+    EXPECT_EQ(object->Child(0)->Text(0), u"1");
+}
+
+TEST(NestedGroups, GiveBackThePositionWhenTheyFail) {
+    Model pair(u"pair", XmlElementGroupType_Sequence, XmlElementType_Pseudo);
+    pair.Prim(u"a", Mnd, ItemType_i4).Prim(u"b", Mnd, ItemType_i4);
+    Model optional(u"r");
+    optional.Class(u"pair", Opt, pair).Prim(u"a", Opt, ItemType_i4);
+    EXPECT_EQ(Read(optional, u"<r><a>1</a><b>2</b><a>3</a></r>"), u"{1,2}|3");
+    EXPECT_EQ(Read(optional, u"<r><a>1</a></r>"), u"(none)|1");
+    EXPECT_EQ(Read(optional, u"<r/>"), u"(none)|(none)");
+
+    Model required(u"r");
+    required.Class(u"pair", Mnd, pair, true);
+    EXPECT_EQ(Read(required, u"<r><a>1</a><c/></r>"),
+              u"Failed to process the element [r]\nFailed to find a required element [pair]");
+    EXPECT_EQ(Read(required, u"<r/>"),
+              u"Failed to process the element [r]\nFailed to find a required element [pair]");
+
+    Model relaxed(u"r");
+    relaxed.Class(u"pair", Mnd, pair, false);
+    EXPECT_EQ(Read(relaxed, u"<r/>"), u"{(none),(none)}");
+    EXPECT_EQ(Read(relaxed, u"<r><u/><a>1</a><u/><b>2</b></r>", unknownElements), u"{1,2}");
+
+    EXPECT_EQ(Read(relaxed, u"<r><a>1</a><b>x</b></r>"),
+              u"Failed to process the element [r]\nFailed to process the element [r]\n"
+              u"The value [x] can not be converted to a i4");
+}
+
+TEST(NestedGroups, PutTheirAttributesOnTheParent) {
+    Model pseudo(u"group", XmlElementGroupType_Sequence, XmlElementType_Pseudo);
+    pseudo.Attribute(u"g", Required, ItemType_i4).Prim(u"a", Mnd, ItemType_i4);
+    Model silent(u"silent", XmlElementGroupType_Sequence, XmlElementType_PseudoNoAttributes);
+    silent.Attribute(u"s", Optional, ItemType_i4).Prim(u"b", Mnd, ItemType_i4);
+    Model root(u"r");
+    root.Class(u"group", Mnd, pseudo).Class(u"silent", Mnd, silent).Attribute(u"own", Required, ItemType_i4);
+    const auto object = root.New();
+    object->properties[2].SetI4(0);
+    for (CModelObject* child : {object->Child(0), object->Child(1)})
+        for (KzVariant& value : child->properties)
+            value.SetI4(1);
+    EXPECT_EQ(Write(*object), u"<r own=\"0\" g=\"1\"><a>1</a><b>1</b></r>");
+    // A pseudo class as root has no tag at all.
+    EXPECT_EQ(Write(*object->Child(0)), u"<a>1</a>");
+}
+
+TEST(Attributes, AreMatchedValidatedAndWritten) {
+    Model m(u"m");
+    m.Attribute(u"id", Required, ItemType_i4)
+        .Attribute(u"size", Optional, ItemType_i4, u"007")
+        .Attribute(u"mode", Optional, ItemType_string, u"fast")
+        .ColourAttribute(u"colour", Optional, u"red");
+    EXPECT_EQ(Read(m, u"<m colour='blue' id=' 5 '/>"), u"5|(none)|(none)|3");
+    EXPECT_EQ(Read(m, u"<m size='1'/>"),
+              u"Failed to process the element [m]\nFailed to find the required Attribute [id]");
+    EXPECT_EQ(Read(m, u"<m id='1' other='2'/>"),
+              u"Failed to process the element [m]\nUnexpected Attribute [other] found.");
+    EXPECT_EQ(Read(m, u"<m id='1' other='2'/>", unknownAttributes), u"1|(none)|(none)|(none)");
+    EXPECT_EQ(Read(m, std::u16string(u"<m id='1'") + xsi + u" xsi:schemaLocation='u f' xsi:type='t'/>"),
+              u"1|(none)|(none)|(none)");
+
+    const auto object = m.New();
+    EXPECT_EQ(Write(*object),
+              u"Failed to convert the element [m] to XML\nFailed to convert attributes to XML\n"
+              u"Invalid Type 0 to convert to string");
+    object->properties[0].SetI4(1);
+    object->properties[1].SetI4(7);
+    object->properties[2].SetString(u"fast");
+    object->properties[3].SetI4(1);
+    EXPECT_EQ(Write(*object), u"<m id=\"1\" size=\"7\" mode=\"fast\" colour=\"red\"/>");
+    CXmlSerializationContext context;
+    context.SetNoOptionalAttributeDefaultOutput(true);
+    // Texts are compared, not values: "7" is not the default "007".
+    EXPECT_EQ(Write(*object, context), u"<m id=\"1\" size=\"7\"/>");
+}
+
+TEST(Attributes, PrimitiveOnesNeverIgnoreNamespaces) {
+    Model m(u"m");
+    m.Attribute(u"id", Optional, ItemType_i4).ColourAttribute(u"colour", Optional);
+    CXmlSerializationContext context;
+    context.SetIgnoreNamespaces(true);
+    context.SetIgnoreUnknownAttributes(true);
+    const auto object = m.New();
+    object->FromXml(u"<m xmlns:p='urn:p' p:id='1' p:colour='red'/>", context);
+    EXPECT_EQ(object->Text(0), u"(none)");
+    EXPECT_EQ(object->Text(1), u"1");
+}
+
+TEST(Names, AreComparedWithNamespacesUnlessIgnored) {
+    Model m(u"m", XmlElementGroupType_Sequence, XmlElementType_Element, u"urn:m");
+    m.Prim(u"a", Mnd, ItemType_i4);
+    EXPECT_EQ(Read(m, u"<m xmlns='urn:m'><a>1</a></m>"), u"1");
+    EXPECT_EQ(Read(m, u"<m><a>1</a></m>"),
+              u"Failed to process the element [m]\nFailed to find a required element [a]");
+    EXPECT_EQ(Read(m, u"<m><a>1</a></m>", &CXmlSerializationContext::SetIgnoreNamespaces), u"1");
+    CXmlSerializationContext context;
+    context.SetSchemaType(SchemaType_NoNamespaces);
+    context.SetIgnoreUnknownAttributes(true);
+    const auto object = m.New();
+    object->FromXml(u"<m xmlns='urn:x'><a>2</a></m>", context);
+    EXPECT_EQ(object->Text(0), u"2");
+}
+
+TEST(NillableClass, IsReadAndWrittenWithoutContent) {
+    Model m(u"m");
+    m.Nillable().Prim(u"a", Mnd, ItemType_i4).Attribute(u"id", Optional, ItemType_i4);
+    const auto object = m.New();
+    object->FromXml((std::u16string(u"<m") + xsi + u" xsi:nil='TRUE' id='4'><a>bad</a><b/></m>").c_str(), {});
+    EXPECT_EQ(object->Text(0), u"(none)");
+    object->properties[0].SetI4(9);
+    EXPECT_EQ(Write(*object),
+              u"<m id=\"4\" xmlns:AA=\"http://www.w3.org/2001/XMLSchema-instance\" AA:nil=\"true\"/>");
+    EXPECT_EQ(Read(m, std::u16string(u"<m") + xsi + u" xsi:nil=' true'/>"),
+              u"Failed to process the element [m]\nUnexpected Value [ true] for 'nil' Attribute found.");
+    Model plain(u"plain");
+    EXPECT_EQ(Read(plain, std::u16string(u"<plain") + xsi + u" xsi:nil='false'/>"),
+              u"Failed to process the element [plain]\nInvalid use of 'nil' attibute in non-nillable element "
+              u"[plain]");
+}
+
+TEST(TextOfAClass, FollowsTheChildren) {
+    Model m(u"m");
+    m.Prim(u"a", Opt, ItemType_i4).Content(ItemType_r8, u"%.2f");
+    EXPECT_EQ(Read(m, u"<m>1<a>7</a>.5</m>"), u"7|1.5");
+    EXPECT_EQ(Read(m, u"<m>1 </m>"),
+              u"Failed to process the element [m]\nThe value [1 ] can not be converted to a r8");
+    const auto object = m.New();
+    object->properties[0].SetI4(7);
+    object->properties[1].SetR8(2.5);
+    EXPECT_EQ(Write(*object), u"<m><a>7</a>2.50</m>");
+    object->properties[1].SetNil();
+    EXPECT_EQ(Write(*object),
+              u"Failed to convert the element [m] to XML\nAttributes must be added before elements");
+    object->properties[0] = KzVariant();
+    EXPECT_EQ(Write(*object), u"<m xmlns:AA=\"http://www.w3.org/2001/XMLSchema-instance\" AA:nil=\"true\"/>");
+
+    Model raw(u"raw");
+    raw.Content(ItemType_i4, u"", true);
+    EXPECT_EQ(Read(raw, u"<raw> x </raw>"), u" x ");
+}
+
+TEST(GroupType, OutsideTheThreeFailsWithAWordOfItsOwnOnEachRoad) {
+    Model m(u"m", static_cast<XmlElementGroupType>(3));
+    EXPECT_EQ(Read(m, u"<m/>"), u"Failed to process the element [m]\nUnknow Group Type");
+    EXPECT_EQ(Write(*m.New()), u"Failed to convert the element [m] to XML\nUnknown XML Group Type");
+}
+
+TEST(TypeAttribute, IsWrittenUnderAnotherNameThanTheOwn) {
+    Model circle(u"Circle", XmlElementGroupType_Sequence, XmlElementType_Element, u"urn:s");
+    circle.HasBaseClasses();
+    const auto object = circle.New();
+    EXPECT_EQ(Write(*object), u"<AA:Circle xmlns:AA=\"urn:s\"/>");
+    object->SetElementName(u"shape");
+    EXPECT_EQ(Write(*object),
+              u"<AA:shape xmlns:AA=\"urn:s\" xmlns:AB=\"http://www.w3.org/2001/XMLSchema-instance\" "
+              u"AB:type=\"AA:Circle\"/>");
+    CXmlSerializationContext context;
+    context.SetWriteTypeAttribute(false);
+    EXPECT_EQ(Write(*object, context), u"<AA:shape xmlns:AA=\"urn:s\"/>");
+}
+
+TEST(RootOutput, FollowsTheContext) {
+    Model m(u"m", XmlElementGroupType_Sequence, XmlElementType_Element, u"urn:m");
+    m.Attribute(u"id", Optional, ItemType_i4).Prim(u"a", Opt, ItemType_string);
+    const auto object = m.New();
+    object->properties[0].SetI4(1);
+    object->properties[1].SetString(u"x\r\ny<");
+    CXmlSerializationContext context;
+    context.GetProcessingInstructions() = {u"<?one?>", u"<?two?>"};
+    context.GetNamespaceAliases().Add(u"z", u"urn:b");
+    context.GetNamespaceAliases().Add(u"y", u"urn:a");
+    context.SetDefaultNamespaceURI(u"urn:m");
+    context.SetInLineSchema(u"<schema/>");
+    EXPECT_EQ(object->ToXml(true, true, EOLType_CRLF, context),
+              u"<?xml version=\"1.0\"?>\r\n<?one?>\r\n\r\n<?two?>\r\n\r\n"
+              u"<m xmlns=\"urn:m\" xmlns:y=\"urn:a\" xmlns:z=\"urn:b\" id=\"1\" \r\n<schema/>\r\n>\r\n"
+              u"\t<a>x\r\ny&lt;</a>\r\n</m>\r\n");
+}
+
+TEST(DeepObjects, StopWithAClearFailure) {
+    static Model node(u"n");
+    if (node.NextProperty() == 0)
+        node.Class(u"n", Opt, node);
+    const auto document = [](int levels) {
+        std::u16string xml;
+        for (int i = 0; i < levels; ++i)
+            xml += u"<n>";
+        for (int i = 0; i < levels; ++i)
+            xml += u"</n>";
+        return xml;
+    };
+    const auto object = node.New();
+    EXPECT_EQ(FailureOf([&] { object->FromXml(document(1000).c_str(), {}); }), u"");
+    EXPECT_EQ(Write(*object).size(), 1000u * 7 - 3); // the innermost is <n/>
+    const std::u16string failure = FailureOf([&] { object->FromXml(document(1000000).c_str(), {}); });
+    EXPECT_TRUE(
+        failure.starts_with(u"Failed to process the element [n]\nFailed to process the element [n]\n"));
+    EXPECT_NE(failure.find(u"nested too deep"), failure.npos);
+}
+
+} // namespace

@@ -1,0 +1,146 @@
+#pragma once
+
+#include <KzXmlLib10/conversions/CPrimitiveRestrictions.h>
+#include <KzXmlLib10/metadata/CAttributeInfo.h>
+#include <KzXmlLib10/metadata/CElementInfo.h>
+#include <KzXmlLib10/metadata/CParentElementInfo.h>
+#include <KzXmlLib10/object/CKzException.h>
+#include <KzXmlLib10/object/CXmlGeneratedClass.h>
+#include <KzXmlLib10/object/CXmlSerializationContext.h>
+#include <KzXmlLib10/object/INillable.h>
+#include <KzXmlLib10/values/KzVariant.h>
+
+#include <functional>
+#include <memory>
+#include <string>
+#include <vector>
+
+/// Classes as a generator would write them, but described by the test that needs them:
+///
+///     Model line(u"line");
+///     line.Attribute(u"id", Required, ItemType_i4).Prim(u"sku", Mnd, ItemType_string).Prim(u"note", Opt,
+///     ItemType_string); auto object = line.New(); object->FromXml(u"<line id='1'><sku>A</sku></line>",
+///     context); EXPECT_EQ(object->Text(1), u"A");
+///
+/// Each call adds one descriptor and one property; properties are numbered in the order of the calls. Setters
+/// check facets, mandatory objects are created by the constructor, Init resets everything else, as in
+/// generated code. A model must outlive its objects.
+namespace kit {
+
+using namespace KzXmlLib10;
+using namespace KzXmlLib10Data;
+
+enum Cardinality { Mnd, Opt };
+enum Use { Required, Optional };
+
+class Model;
+
+CPrimitiveRestrictions Facets(const char16_t* pattern = u"", int minLength = -1, int maxLength = -1,
+                              const char16_t* minInclusive = u"", const char16_t* maxInclusive = u"");
+
+/// An object of a model. Its properties are variants.
+class CModelObject : public CXmlGeneratedClass {
+public:
+    CModelObject(const Model& model, const char16_t* elementName);
+
+    using CXmlObjectBase::GetBase;
+    CXmlObjectBase* GetBase() override { return this; }
+    std::u16string GetTargetNamespace() const override;
+    std::u16string GetNamespace() const override;
+    void AccessProperty(int propertyIndex, bool read, KzVariant& value) override;
+    CParentElementInfo* GetClassInfo() const override;
+    CElementInfo** GetClassElementInfo() const override;
+    CAttributeInfo** GetClassAttributeInfo() const override;
+    void Init() override;
+
+    using CXmlObjectBase::SetElementName;
+
+    /// The property as text; "(none)" if it has no value, "(nil)" if it is nil.
+    std::u16string Text(int property) const;
+    CModelObject* Child(int property) const;
+
+    std::vector<KzVariant> properties;
+
+private:
+    const Model& m_model;
+};
+
+/// An object of a nillable model.
+class CNillableModelObject : public CModelObject, public INillable {
+public:
+    using CModelObject::CModelObject;
+    void Init() override {
+        CModelObject::Init();
+        m_nil = false;
+    }
+    bool IsNil() const override { return m_nil; }
+    void SetNil(bool nil) override { m_nil = nil; }
+
+private:
+    bool m_nil = false;
+};
+
+class Model {
+public:
+    explicit Model(const char16_t* name, XmlElementGroupType group = XmlElementGroupType_Sequence,
+                   XmlElementType type = XmlElementType_Element, const char16_t* namespaceUri = u"");
+    ~Model();
+    Model(const Model&) = delete;
+    Model& operator=(const Model&) = delete;
+
+    Model& AllowUnknownAttributes();
+    Model& HasBaseClasses();
+    Model& Nillable();
+    /// The class has a text of its own.
+    Model& Content(ItemType type, const char16_t* format = u"", bool asText = false);
+
+    Model& Attribute(const char16_t* name, Use use, ItemType type, const char16_t* defaultValue = nullptr,
+                     const CPrimitiveRestrictions& facets = Facets(), const char16_t* namespaceUri = u"");
+    /// The colours red 1, green 2 and blue 3; an unknown text is 0.
+    Model& ColourAttribute(const char16_t* name, Use use, const char16_t* defaultValue = nullptr);
+
+    Model& Prim(const char16_t* name, Cardinality cardinality, ItemType type, bool nillable = false,
+                const CPrimitiveRestrictions& facets = Facets(), const char16_t* format = nullptr);
+    Model& Colour(const char16_t* name, Cardinality cardinality, bool nillable = false);
+    Model& Class(const char16_t* name, Cardinality cardinality, const Model& child,
+                 bool consumeRequired = false);
+    Model& Abstract(const char16_t* name, Cardinality cardinality, SubstitutionFactory factory);
+    /// Any other descriptor, made with NextProperty().
+    Model& Element(CElementInfo* descriptor);
+    int NextProperty() const { return static_cast<int>(m_propertyChecks.size()); }
+
+    CSmartPtr<CModelObject> New(const char16_t* elementName = nullptr) const;
+
+private:
+    friend class CModelObject;
+
+    using Check = std::function<void(const KzVariant&)>;
+    void Rebuild(XmlElementType type);
+    int AddProperty(Check check = nullptr);
+
+    static CSmartPtr<CXmlObjectBase> Create(int classId, const char16_t* elementName);
+
+    std::u16string m_name;
+    XmlElementGroupType m_group;
+    XmlElementType m_type;
+    std::u16string m_namespace;
+    bool m_failIfAttributeUnknown = true;
+    bool m_hasBaseClasses = false;
+    bool m_nillable = false;
+    int m_contentProperty = -1;
+    ItemType m_contentType = ItemType_Invalid;
+    std::u16string m_contentFormat;
+    bool m_contentAsText = false;
+    int m_classId;
+    std::vector<Check> m_propertyChecks;
+    std::vector<std::pair<int, const Model*>> m_mandatoryChildren;
+    std::vector<std::u16string> m_childNames;
+    mutable std::unique_ptr<CParentElementInfo> m_info;
+    mutable std::vector<CElementInfo*> m_elements{nullptr};
+    mutable std::vector<CAttributeInfo*> m_attributes{nullptr};
+};
+
+/// Reads a document into a fresh object of the model; the full message of the failure, or "".
+std::u16string FailureOf(const std::function<void()>& action);
+
+} // namespace kit
