@@ -9,6 +9,7 @@
 #include "xml/Messages.h"
 
 #include <KzXmlLib10/xml/AsyncFiles.h>
+#include <KzXmlLib10/xml/Compression.h>
 
 #include <cerrno>
 #include <cstring>
@@ -76,7 +77,22 @@ void CXmlDocument::LoadWhole(const char16_t* fileName) {
 }
 
 /// Reads the form that the buffer turns out to have; text is what is nothing else.
-void CXmlDocument::Parse() { ParseText(); }
+void CXmlDocument::Parse() {
+    DecompressBuffer();
+    ParseText();
+}
+
+/// Replaces the buffer by its content if it is a complete gzip or zlib stream.
+void CXmlDocument::DecompressBuffer() {
+    unsigned char* data = m_buffer.get();
+    unsigned long size = m_bufferSize;
+    Decompress(&data, &size);
+    if (data == m_buffer.get())
+        return;
+    (void)m_buffer.release(); // freed by Decompress
+    m_buffer.reset(data);
+    m_bufferSize = static_cast<std::uint32_t>(size); // which the limit of Decompress keeps within 32 bits
+}
 
 void CXmlDocument::LoadInBlocks(const char16_t* fileName) {
     m_file = std::make_unique<AsyncFile>();

@@ -6,6 +6,7 @@
 #include "xml/AsyncFiles.h"
 
 #include <KzXmlLib10/xml/AsyncFiles.h>
+#include <KzXmlLib10/xml/Compression.h>
 
 #include <gtest/gtest.h>
 
@@ -85,6 +86,62 @@ TEST_F(CXmlDocumentLoad, GivesTheSameTreeOnEveryRoad) {
         EXPECT_EQ(TreeOfFile(bytes, false), tree);
         EXPECT_EQ(TreeOfFile(bytes, true), tree);
     }
+}
+
+std::string Compressed(const std::string& bytes, CompressionType type) {
+    CBinaryData data;
+    data.SetBuffer(reinterpret_cast<const unsigned char*>(bytes.data()), bytes.size());
+    Compress(data, type);
+    return {reinterpret_cast<const char*>(data.GetData()), data.GetLength()};
+}
+
+TEST_F(CXmlDocumentLoad, FindsOutWhetherTheInputIsCompressed) {
+    const std::string xml = DocumentOfSize(1000);
+    const std::string tree = TreeOfFile(xml, false);
+    for (const CompressionType type : {CompressionType_GZip, CompressionType_ZLib}) {
+        const std::string compressed = Compressed(xml, type);
+        for (const std::string& bytes : {compressed, compressed + "garbage"}) {
+            CXmlDocument document;
+            LoadStream(document, bytes);
+            EXPECT_EQ(DumpTree(document.GetDocumentElement()), tree);
+            EXPECT_EQ(TreeOfFile(bytes, false), tree);
+            // Neither text nor blocks are decompressed.
+            EXPECT_EQ(FailureOf("f.xml", true), "not well-formed (invalid token) at line 1");
+            EXPECT_EQ(Failure([&] { document.LoadXml(bytes.c_str()); }),
+                      "not well-formed (invalid token) at line 1");
+        }
+    }
+}
+
+TEST_F(CXmlDocumentLoad, LeavesWhatIsNoCompleteStreamToTheParser) {
+    const std::string xml = DocumentOfSize(1000);
+    const std::string compressed = Compressed(xml, CompressionType_GZip);
+    std::string damaged = compressed;
+    damaged[damaged.size() / 2] ^= 0x55;
+    const std::string wantsDictionary("\x78\xBB\x00\x00\x00\x01", 6);
+    const std::string twice =
+        Compressed(Compressed(std::string(100'000, ' '), CompressionType_GZip), CompressionType_GZip);
+    for (const std::string& bytes :
+         {compressed.substr(0, compressed.size() - 1), damaged, wantsDictionary, twice, std::string("\x1F"),
+          Compressed(std::string(1000, '\0'), CompressionType_ZLib)}) {
+        CXmlDocument document;
+        EXPECT_EQ(Failure([&] { LoadStream(document, bytes); }), "not well-formed (invalid token) at line 1");
+    }
+    CXmlDocument document;
+    EXPECT_EQ(
+        Failure([&] { LoadStream(document, Compressed(std::string(1000, '\n'), CompressionType_ZLib)); }),
+        "no element found at line 1001");
+}
+
+TEST_F(CXmlDocumentLoad, StopsAtTheLimitOfInflating) {
+    const std::string compressed = Compressed(DocumentOfSize(100'001), CompressionType_GZip);
+    SetMaxInflatedSize(100'000);
+    CXmlDocument document;
+    const std::string message = Failure([&] { LoadStream(document, compressed); });
+    SetMaxInflatedSize(1u << 30);
+    EXPECT_NE(message.find("100000"), std::string::npos) << message;
+    LoadStream(document, compressed);
+    EXPECT_EQ(document.GetDocumentElement()->GetLocalName(), u"doc");
 }
 
 TEST_F(CXmlDocumentLoad, ReadsBlocksWhateverFallsOnTheirEdges) {

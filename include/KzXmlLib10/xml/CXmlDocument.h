@@ -64,7 +64,8 @@ public:
     /// A whole file may be in any form that LoadXmlStream takes.
     void Load(const char16_t* fileName);
     /// Reads a copy of `size` bytes: text, in the encoding that its mark or its declaration tells, or a gzip
-    /// or zlib stream of it, which is found out by trying. No bytes fail with "XML Stream is empty!".
+    /// or zlib stream of it, which is found out by trying, up to the size of SetMaxInflatedSize. No bytes
+    /// fail with "XML Stream is empty!".
     void LoadXmlStream(const unsigned char* data, unsigned long size);
 
     /// The root, or null.
@@ -83,6 +84,7 @@ private:
     void Init();
     void ParseText(const char16_t* protocolEncoding = nullptr);
     void Parse();
+    void DecompressBuffer();
     void LoadWhole(const char16_t* fileName);
     void LoadInBlocks(const char16_t* fileName);
     void ReadChunkFromFile(unsigned char* block);
