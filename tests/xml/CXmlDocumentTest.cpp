@@ -270,14 +270,15 @@ TEST(CXmlDocument, PassesOnWhatTheCallbackThrows) {
 
 TEST(CXmlDocument, LoadsAndDestroysAMillionLevels) {
     constexpr int depth = 1'000'000;
-    const std::string open = Repeat("<a>", depth);
     CXmlDocument document;
-    document.LoadXml((open + Repeat("</a>", depth)).c_str());
+    document.LoadXml((Repeat("<a>", depth) + Repeat("</a>", depth)).c_str());
     int levels = 0;
     for (const CXmlElement* at = document.GetDocumentElement(); at; at = at->GetFirstElement())
         ++levels;
     EXPECT_EQ(levels, depth);
-    EXPECT_EQ(Failure([&] { document.LoadXml(open.c_str()); }), "no element found at line 1");
+    EXPECT_EQ(Failure([&] { document.LoadXml(Repeat("<a>", depth / 4).c_str()); }),
+              "no element found at line 1")
+        << "a tree in part goes away likewise";
 }
 
 TEST(CXmlDocument, DropsADeepRecordWithoutRecursion) {
