@@ -214,8 +214,9 @@ TEST(CDateTime, SettersByKindValidateAndRefuseAnotherKind) {
         {{23, 59, 59, 999, 999, 1000}, "Invalid Nano-Second [1000] (0 <= nano <= 999)"},
     };
     for (const auto& [f, expected] : rows)
-        EXPECT_EQ(support::Failure<Value>([&] { CDateTime().SetTime(f[0], f[1], f[2], f[3], f[4], f[5]); }),
-                  expected);
+        EXPECT_EQ(
+            support::Failure<Value>([&f = f] { CDateTime().SetTime(f[0], f[1], f[2], f[3], f[4], f[5]); }),
+            expected);
 }
 
 TEST(CDateTime, ValueConstructorsSwallowTheFailureAndLeaveNothing) {
