@@ -76,22 +76,22 @@ std::u16string CWhitespaceUtils::Replace(const std::u16string& text) {
 }
 
 std::u16string CWhitespaceUtils::Collapse(const std::u16string& text) {
-    std::u16string result;
-    result.reserve(text.size());
     const std::u16string_view source = UpToNul(text);
+    std::u16string result(source.size(), u'\0');
+    char16_t* to = result.data();
     bool afterSpace = true;
     for (const char16_t unit : source) {
         const bool space = IsWhiteSpace(unit);
-        if (!space)
-            result += unit;
-        else if (!afterSpace)
-            result += u' ';
+        *to = space ? u' ' : unit;
+        to += !(space && afterSpace);
         afterSpace = space;
     }
+    std::size_t length = static_cast<std::size_t>(to - result.data());
     // Deliberate: a space in front of a NUL stays, because the NUL counts as the character after it.
     const bool endsAtNul = source.size() < text.size();
-    if (!endsAtNul && !result.empty() && result.back() == u' ')
-        result.pop_back();
+    if (!endsAtNul && length > 0 && result[length - 1] == u' ')
+        --length;
+    result.resize(length);
     return result;
 }
 

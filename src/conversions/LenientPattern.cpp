@@ -14,6 +14,14 @@ std::size_t LengthWith(std::string_view text, std::string_view end) {
     return at == std::string_view::npos ? text.size() : at + end.size();
 }
 
+/// The length of a POSIX class such as [:alpha:] at the head of `text`; 0 if there is none.
+std::size_t PosixClassLength(std::string_view text) {
+    if (!text.starts_with("[:"))
+        return 0;
+    const std::size_t end = text.find_first_not_of("^abcdefghijklmnopqrstuvwxyz", 2);
+    return end != text.npos && text.substr(end).starts_with(":]") ? end + 2 : 0;
+}
+
 /// The length of the item at the head of `rest`, which is not empty: a quotation \Q...\E, a property \p{...},
 /// another escape, the head of a class with a bracket that it starts with, a POSIX class, or one byte.
 std::size_t ItemLength(std::string_view rest, bool inClass) {
@@ -26,7 +34,7 @@ std::size_t ItemLength(std::string_view rest, bool inClass) {
     if (rest[0] != '[')
         return 1;
     if (inClass)
-        return rest.starts_with("[:") && rest.find(":]") != rest.npos ? LengthWith(rest, ":]") : 1;
+        return std::max<std::size_t>(PosixClassLength(rest), 1);
     return rest.starts_with("[^]") ? 3 : rest.starts_with("[^") || rest.starts_with("[]") ? 2 : 1;
 }
 

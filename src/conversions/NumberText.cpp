@@ -50,6 +50,11 @@ private:
     std::size_t m_at = 0;
 };
 
+char* CopyAscii(std::u16string_view from, char* to) {
+    return std::transform(from.begin(), from.end(), to,
+                          [](char16_t unit) { return static_cast<char>(unit); });
+}
+
 /// ASCII text as bytes, on the stack if it is short.
 class Narrowed {
 public:
@@ -60,7 +65,7 @@ public:
             to = m_long.data();
         }
         m_begin = to;
-        m_end = std::transform(text.begin(), text.end(), to, [](char16_t c) { return static_cast<char>(c); });
+        m_end = CopyAscii(text, to);
     }
     Narrowed(const Narrowed&) = delete;
     Narrowed& operator=(const Narrowed&) = delete;
@@ -127,13 +132,13 @@ ScannedInteger ScanInteger(std::u16string_view text) {
         cursor.GoTo(0);
     digits.remove_prefix(std::min(digits.find_first_not_of(u'0'), digits.size()));
     result.complete = cursor.Peek() == u'\0';
-    if (digits.size() > std::numeric_limits<std::uint64_t>::digits10 + 1) {
+    char narrow[std::numeric_limits<std::uint64_t>::digits10 + 1];
+    if (digits.size() > sizeof narrow) {
         result.tooLarge = true;
         return result;
     }
-    const Narrowed narrow(digits);
-    const auto read = std::from_chars(narrow.begin(), narrow.end(), result.magnitude);
-    result.tooLarge = read.ec == std::errc::result_out_of_range;
+    const char* end = CopyAscii(digits, narrow);
+    result.tooLarge = std::from_chars(narrow, end, result.magnitude).ec == std::errc::result_out_of_range;
     return result;
 }
 

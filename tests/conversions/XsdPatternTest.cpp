@@ -102,6 +102,7 @@ TEST(XsdPattern, LenientFormsKeepWorking) {
         {R"([+-\d]+)", u"+-1", u"match"},
         {R"([\p{Lu}-x]+)", u"A-x", u"match"},
         {R"([[:alpha:]-.]+)", u"a-.", u"match"},
+        {R"([[:\d-x]a\B.[c:])", u"-ab:", u"match"},
         {R"([]\d-x]+)", u"]1-x", u"match"},
         {R"([^]\d-x])", u"-", u"none"},
         {R"([a-z-.]+)", u"m-.", u"match"},
