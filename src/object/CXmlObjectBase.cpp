@@ -1,5 +1,6 @@
 #include <KzXmlLib10/object/CXmlObjectBase.h>
 
+#include "object/Deletion.h"
 #include "object/GeneratorVersion.h"
 #include "object/NotNull.h"
 
@@ -27,7 +28,7 @@ long CXmlObjectBase::AddRef() { return m_refCount.fetch_add(1) + 1; }
 long CXmlObjectBase::Release() {
     const std::int32_t before = m_refCount.fetch_sub(1);
     if (before == 1)
-        delete this;
+        DeleteReleased(this);
     return before - 1;
 }
 

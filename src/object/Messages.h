@@ -29,6 +29,13 @@ inline constexpr char16_t PleaseEnsureVersion[] =
 inline constexpr char16_t NotAvailable[] = u"This operation is not available yet";
 inline constexpr char16_t WrongVersion[] = u"Wrong Version (Quillon Runtime: v%d.%d, Generator: v%d.%d)";
 
+inline constexpr char16_t InvalidNamespaceForRestriction[] =
+    u"Invalid namespace [%s]. The namespace must be one of [%s] where the target namespace is [%s]";
+inline constexpr char16_t PropertyIsNull[] = u"The Property [%s] is mandatory, it may node be NULL"; // sic
+inline constexpr char16_t ElementNameDiffers[] =
+    u"This property requrires an element with the name %s the element being set has the element name "
+    u"%s"; // sic
+
 inline constexpr char16_t FailedToWriteElement[] = u"Failed to convert the element [%s] to XML";
 inline constexpr char16_t FailedToWriteAttributes[] = u"Failed to convert attributes to XML";
 inline constexpr char16_t UnknownGroupTypeOnWriting[] = u"Unknown XML Group Type";

@@ -99,7 +99,8 @@ public:
 
     /// Counts one more reference; returns the new count.
     long AddRef();
-    /// Counts one reference less; returns the new count. The object is deleted when the count was exactly 1.
+    /// Counts one reference less; returns the new count. The object is deleted when the count was exactly 1;
+    /// where deletions nest deeply, the inner ones wait until outer ones have ended.
     long Release();
 
     /// Reaches the protected operation of the same name.
@@ -120,6 +121,55 @@ protected:
                                     const CXmlSerializationContext& context);
     static CXmlElement* FromXml_Int(CXmlObjectBase* object, CXmlElement* element, CXmlElement* current,
                                     const CXmlSerializationContext& context);
+
+    // For the setters of generated classes with a choice. `validElement` is the name of the member of the
+    // choice that is set at present, empty when none is. What they throw leaves it as it was.
+
+    /// Confirms a selection, or clears the record of the choice, whichever member was set. Throws
+    /// CKzInvalidStateException unless `element` is the member set.
+    static void Choice_SetElementValid(bool isValid, const char16_t* element, std::u16string& validElement);
+    /// Records that a member is given an object, or null. Throws CKzInvalidStateException if another member
+    /// is set.
+    static void Choice_SelectElement(const char16_t* element, CXmlObjectBase* value,
+                                     std::u16string& validElement);
+    /// Records that a collection now holds `count` items. Throws CKzInvalidStateException if another member
+    /// is set.
+    static void Choice_CollectionChanged(const char16_t* element, long count, std::u16string& validElement);
+    /// Reads one run of items into a collection and checks their number. `count` counts the runs: when there
+    /// was one already, nothing happens.
+    static void Choice_Read_Collection(CXmlCollectionBase* collection, CXmlElement* element,
+                                       CXmlElement*& current, long& count,
+                                       const CXmlSerializationContext& context);
+
+    /// Throws CKzInvalidParamException for null.
+    static void Throw_IfPropertyIsNull(CXmlObjectBase* value, const char16_t* property);
+    /// Throws CKzInvalidParamException for an object of another element name; null passes.
+    static void Throw_IfElementNameDiffers(CXmlObjectBase* value, const char16_t* element);
+
+    /// Whether a wildcard admits a namespace. `restriction` is one of the keywords ##any, ##other, ##local
+    /// and ##targetNamespace, or a namespace, or several of them separated by single spaces.
+    ///
+    /// Deliberate: an empty namespace passes against a namespace and against ##other; of several tokens only
+    /// the first is looked at, then the restriction admits no more than its own whole text and the empty
+    /// namespace.
+    bool IsNamespaceValid(const char16_t* ns, const char16_t* restriction,
+                          const char16_t* targetNamespace) const;
+    /// Throws CKzInvalidNamespaceException where IsNamespaceValid says false.
+    void TestNamespace(const char16_t* ns, const char16_t* restriction,
+                       const char16_t* targetNamespace) const;
+    /// Whether an element of a document has this name; without namespaces where the context ignores them.
+    bool DoesElementNameMatch(const CXmlSerializationContext& context, const CXmlElement* element,
+                              const char16_t* name, const char16_t* ns) const;
+
+    /// Each sends one event of a collection to one sink. The index of a removal arrives as a pointer to it,
+    /// -1 as null.
+    static void FireOnCollectionChangeEvent(IEventSink* sink, CXmlCollectionBase* collection);
+    static void FireOnCollectionAddEvent(IEventSink* sink, CXmlCollectionBase* collection, void* item);
+    static void FireOnCollectionAddCompleteEvent(IEventSink* sink, CXmlCollectionBase* collection,
+                                                 void* item);
+    static void FireOnCollectionRemoveEvent(IEventSink* sink, CXmlCollectionBase* collection, int index);
+    static void FireOnCollectionRemoveCompleteEvent(IEventSink* sink, CXmlCollectionBase* collection,
+                                                    int index);
 
 private:
     friend class KzXmlLib10Data::CAttributeInfo;
