@@ -1,6 +1,6 @@
 #include <KzXmlLib10/values/KzVariant.h>
 
-#include <KzXmlLib10/object/CXmlObjectBase.h>
+#include <KzXmlLib10/collections/CXmlCollectionBase.h>
 
 #include "object/Throw.h"
 #include "values/Messages.h"
@@ -16,18 +16,32 @@ const PayloadKind CountedObject = {
     [](void* payload) { static_cast<CXmlObjectBase*>(payload)->Release(); },
 };
 
-void KzVariant::SetXmlObject(CXmlObjectBase* object) {
+void KzVariant::SetCounted(ItemType type, CXmlObjectBase* object) {
     if (object)
         object->AddRef(); // before the old object goes, which may be what keeps this one alive
     Clear();
-    m_type = ItemType_xmlObject;
+    m_type = type;
     m_value.payload = object;
+}
+
+void KzVariant::SetXmlObject(CXmlObjectBase* object) { SetCounted(ItemType_xmlObject, object); }
+
+void KzVariant::SetXmlCollection(CXmlCollectionBase* collection) {
+    SetCounted(ItemType_xmlCollection, collection);
 }
 
 CSmartPtr<CXmlObjectBase> KzVariant::GetXmlObject() const {
     if (m_type != ItemType_xmlObject && m_type != ItemType_xmlCollection)
         Throw<CKzInvalidStateException>(messages::NoSuchPayload, m_type, ItemType_xmlObject);
     return static_cast<CXmlObjectBase*>(m_value.payload);
+}
+
+CSmartPtr<CXmlCollectionBase> KzVariant::GetXmlCollection() const {
+    CXmlObjectBase* object = GetXmlObject();
+    auto* collection = dynamic_cast<CXmlCollectionBase*>(object);
+    if (object && !collection)
+        Throw<CKzInvalidStateException>(messages::NoSuchPayload, m_type, ItemType_xmlCollection);
+    return collection;
 }
 
 } // namespace KzXmlLib10

@@ -107,6 +107,10 @@ public:
     /// Adds a reference to the object, which may be null.
     void SetXmlObject(CXmlObjectBase* object);
     CSmartPtr<CXmlObjectBase> GetXmlObject() const;
+    /// As for objects. Either getter reads what either setter stored; this one throws
+    /// CKzInvalidStateException for an object that is no collection.
+    void SetXmlCollection(CXmlCollectionBase* collection);
+    CSmartPtr<CXmlCollectionBase> GetXmlCollection() const;
 
     /// A scalar in its low bits, or an owning pointer; zero in all other bits.
     union Cell {
@@ -120,6 +124,7 @@ public:
 
 private:
     void SetBits(ItemType type, std::uint64_t bits);
+    void SetCounted(ItemType type, CXmlObjectBase* object);
     void* GetPayload(ItemType type) const;
 };
 
