@@ -81,6 +81,9 @@ void CXmlSerializationContext::SetNoOptionalAttributeDefaultOutput(bool omit) {
     m_noOptionalAttributeDefaultOutput = omit;
 }
 
+const CFastInfosetContext& CXmlSerializationContext::GetFIContext() const { return m_fiContext; }
+CFastInfosetContext& CXmlSerializationContext::GetFIContext() { return m_fiContext; }
+
 bool CXmlSerializationContext::GetStripCDATA() const { return m_stripCDATA; }
 void CXmlSerializationContext::SetStripCDATA(bool strip) { m_stripCDATA = strip; }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <KzXmlLib10/fastinfoset/CFastInfosetContext.h>
 #include <KzXmlLib10/object/CNamespaceAliasMap.h>
 #include <KzXmlLib10/object/Enumerations.h>
 #include <KzXmlLib10/object/Export.h>
@@ -84,6 +85,10 @@ public:
     bool GetNoOptionalAttributeDefaultOutput() const;
     void SetNoOptionalAttributeDefaultOutput(bool omit);
 
+    /// How values are represented in Fast Infoset, and which vocabulary both ends share.
+    const CFastInfosetContext& GetFIContext() const;
+    CFastInfosetContext& GetFIContext();
+
     /// The reader merges CDATA sections into the text, without their delimiters.
     bool GetStripCDATA() const;
     void SetStripCDATA(bool strip);
@@ -104,6 +109,7 @@ private:
     bool m_ignoreNamespaces = false;
     SchemaType m_schemaType = SchemaType_Default;
     bool m_noOptionalAttributeDefaultOutput = false;
+    CFastInfosetContext m_fiContext;
     bool m_stripCDATA = true;
 };
 
