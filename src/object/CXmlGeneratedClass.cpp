@@ -25,13 +25,13 @@ void CXmlGeneratedClass::ReadProperty(int propertyIndex, KzVariant& value) const
     const_cast<CXmlGeneratedClass*>(this)->AccessProperty(propertyIndex, true, value);
 }
 
-bool CXmlGeneratedClass::IsElementInList(const CXmlSerializationContext& context, CXmlElement* element) const {
+bool CXmlGeneratedClass::IsElementInList(const CXmlSerializationContext& context,
+                                         CXmlElement* element) const {
     if (!element)
         return false;
     for (CElementInfo** entry = GetClassElementInfo(); *entry; ++entry)
         if ((*entry)->GetElementName() == element->GetLocalName() &&
-            (context.GetIgnoreNamespaces() ||
-             (*entry)->GetElementNamespace() == element->GetNamespaceURI()))
+            (context.GetIgnoreNamespaces() || (*entry)->GetElementNamespace() == element->GetNamespaceURI()))
             return true;
     return false;
 }

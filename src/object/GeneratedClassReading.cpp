@@ -3,8 +3,8 @@
 #include <KzXmlLib10/object/CXmlGeneratedClass.h>
 
 #include "object/Messages.h"
-#include "object/SchemaInstance.h"
 #include "object/RecursionLevel.h"
+#include "object/SchemaInstance.h"
 #include "object/Throw.h"
 
 #include <KzXmlLib10/metadata/CAttributeInfo.h>
@@ -69,8 +69,8 @@ void CXmlGeneratedClass::ReadPrimitiveValue(const CXmlElement& element) {
     AccessProperty(property, false, value);
 }
 
-void CXmlGeneratedClass::ProcessAttributesFromXml(const CXmlSerializationContext& context, CXmlElement* element,
-                                                  bool failIfUnknown) {
+void CXmlGeneratedClass::ProcessAttributesFromXml(const CXmlSerializationContext& context,
+                                                  CXmlElement* element, bool failIfUnknown) {
     std::vector<char> found;
     for (CAttributeInfo** entry = GetClassAttributeInfo(); *entry; ++entry)
         found.push_back(false);

@@ -65,7 +65,8 @@ void CXmlGeneratedClass::StartElement(CXmlWriter* writer, bool isRoot, const cha
     }
 }
 
-void CXmlGeneratedClass::WriteContent(CXmlWriter* writer, const CXmlSerializationContext& context, bool) const {
+void CXmlGeneratedClass::WriteContent(CXmlWriter* writer, const CXmlSerializationContext& context,
+                                      bool) const {
     switch (GetClassInfo()->GetElementGroupType()) {
     case XmlElementGroupType_Sequence:
         return ProcessElementSeqToXml(context, GetClassElementInfo(), writer);
@@ -76,14 +77,14 @@ void CXmlGeneratedClass::WriteContent(CXmlWriter* writer, const CXmlSerializatio
     }
 }
 
-void CXmlGeneratedClass::ProcessElementSeqToXml(const CXmlSerializationContext& context, CElementInfo** elements,
-                                                CXmlWriter* writer) const {
+void CXmlGeneratedClass::ProcessElementSeqToXml(const CXmlSerializationContext& context,
+                                                CElementInfo** elements, CXmlWriter* writer) const {
     for (; *elements; ++elements)
         (*elements)->ElementToXml(context, this, writer);
 }
 
-void CXmlGeneratedClass::ProcessElementAllToXml(const CXmlSerializationContext& context, CElementInfo** elements,
-                                                CXmlWriter* writer) const {
+void CXmlGeneratedClass::ProcessElementAllToXml(const CXmlSerializationContext& context,
+                                                CElementInfo** elements, CXmlWriter* writer) const {
     ProcessElementSeqToXml(context, elements, writer);
 }
 
@@ -100,7 +101,8 @@ void CXmlGeneratedClass::WritePrimitiveValue(CXmlWriter* writer) const {
         writer->WriteText(value.ToString(info->GetPrimitiveFormatOverride().c_str()), value.GetTypeAsEnum());
 }
 
-void CXmlGeneratedClass::AttributesToXml_Int(CXmlWriter* writer, const CXmlSerializationContext& context) const {
+void CXmlGeneratedClass::AttributesToXml_Int(CXmlWriter* writer,
+                                             const CXmlSerializationContext& context) const {
     try {
         if (context.GetWriteTypeAttribute()) {
             const CParentElementInfo* info = GetClassInfo();
@@ -113,8 +115,9 @@ void CXmlGeneratedClass::AttributesToXml_Int(CXmlWriter* writer, const CXmlSeria
     }
 }
 
-void CXmlGeneratedClass::ProcessAttributesToXml(const CXmlSerializationContext& context, CElementInfo** elements,
-                                                CAttributeInfo** attributes, CXmlWriter* writer) const {
+void CXmlGeneratedClass::ProcessAttributesToXml(const CXmlSerializationContext& context,
+                                                CElementInfo** elements, CAttributeInfo** attributes,
+                                                CXmlWriter* writer) const {
     for (; *attributes; ++attributes)
         (*attributes)->AttributeToXml(context, this, writer);
     for (; *elements; ++elements)

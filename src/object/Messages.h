@@ -49,6 +49,7 @@ inline constexpr char16_t UnprocessedElement[] =
     u"Failed read all the elements held within the element [%s]. The unexpected element [%s] remains un "
     u"processed"; // sic
 inline constexpr char16_t NestedTooDeep[] = u"The elements are nested too deep (%d levels)";
+inline constexpr char16_t ZlibOnlyForStreams[] = u"ZLIB Compression only available for To Stream methods.";
 inline constexpr char16_t InvalidOrEmptyDocument[] = u"Invalid or empty XML document";
 
 } // namespace KzXmlLib10::messages

@@ -5,23 +5,46 @@
 #include "object/GeneratorVersion.h"
 #include "object/Messages.h"
 #include "object/Throw.h"
+#include "xml/AsyncFiles.h"
 
 #include <KzXmlLib10/values/CBinaryData.h>
+#include <KzXmlLib10/xml/CFileBinaryStream.h>
+#include <KzXmlLib10/xml/CFileTextStream.h>
+#include <KzXmlLib10/xml/CXmlDocument.h>
+#include <KzXmlLib10/xml/Compression.h>
 
 namespace KzXmlLib10 {
 
-void CXmlObjectBase::ToXmlFile(const char16_t*, bool, bool, XmlEncoding, EOLType,
-                               const CXmlSerializationContext&, CompressionType) const {
-    CheckGeneratorVersion();
-    Throw<CKzException>(messages::NotAvailable);
+void CXmlObjectBase::ToXmlFile(const char16_t* fileName, bool includeDeclaration, bool formatted,
+                               XmlEncoding encoding, EOLType eol, const CXmlSerializationContext& context,
+                               CompressionType compression) const {
+    if (compression == CompressionType_ZLib)
+        Throw<CKzException>(messages::ZlibOnlyForStreams);
+    if (IsAsyncToXmlFile() && compression == CompressionType_None) {
+        CheckGeneratorVersion();
+        CFileTextStream stream(fileName, encoding);
+        WriteDocument(stream, includeDeclaration, formatted, eol, context);
+    } else {
+        CFileBinaryStream stream(fileName, encoding);
+        stream.m_data = ToXmlStream(includeDeclaration, formatted, encoding, eol, context, compression);
+        stream.SaveToFile();
+    }
 }
+
+CBinaryData CXmlObjectBase::ToXmlStream(bool includeDeclaration, bool formatted, XmlEncoding encoding,
+                                        EOLType eol, const CXmlSerializationContext& context,
+                                        CompressionType compression) const {
+    CheckGeneratorVersion();
+    CTextStream stream(encoding);
+    WriteDocument(stream, includeDeclaration, formatted, eol, context);
+    CBinaryData bytes = stream.GetBytes();
+    if (compression != CompressionType_None)
+        Compress(bytes, compression);
+    return bytes;
+}
+
 void CXmlObjectBase::ToFastInfosetFile(const char16_t*, FInfoDecl, const CXmlSerializationContext&,
                                        CompressionType) const {
-    CheckGeneratorVersion();
-    Throw<CKzException>(messages::NotAvailable);
-}
-CBinaryData CXmlObjectBase::ToXmlStream(bool, bool, XmlEncoding, EOLType, const CXmlSerializationContext&,
-                                        CompressionType) const {
     CheckGeneratorVersion();
     Throw<CKzException>(messages::NotAvailable);
 }
@@ -30,18 +53,26 @@ CBinaryData CXmlObjectBase::ToFastInfosetStream(FInfoDecl, const CXmlSerializati
     CheckGeneratorVersion();
     Throw<CKzException>(messages::NotAvailable);
 }
-void CXmlObjectBase::FromXmlFile(const char16_t*, const CXmlSerializationContext&) {
+void CXmlObjectBase::FromXmlFile(const char16_t* fileName, const CXmlSerializationContext& context) {
     CheckGeneratorVersion();
-    Throw<CKzException>(messages::NotAvailable);
+    CXmlDocument document(context);
+    document.Load(fileName);
+    ReadDocument(document, context);
 }
-void CXmlObjectBase::FromXmlStream(const CBinaryData&, const CXmlSerializationContext&) {
+
+void CXmlObjectBase::FromXmlStream(unsigned char* const data, unsigned long size,
+                                   const CXmlSerializationContext& context) {
     CheckGeneratorVersion();
-    Throw<CKzException>(messages::NotAvailable);
+    CXmlDocument document(context);
+    document.LoadXmlStream(data, size);
+    ReadDocument(document, context);
 }
-void CXmlObjectBase::FromXmlStream(unsigned char* const, unsigned long, const CXmlSerializationContext&) {
-    CheckGeneratorVersion();
-    Throw<CKzException>(messages::NotAvailable);
+
+void CXmlObjectBase::FromXmlStream(const CBinaryData& data, const CXmlSerializationContext& context) {
+    // Loading copies the bytes and changes none of them.
+    FromXmlStream(const_cast<unsigned char*>(data.GetData()), data.GetLength(), context);
 }
+
 void CXmlObjectBase::FromXmlElement(const CElement*, const CXmlSerializationContext&) {
     CheckGeneratorVersion();
     Throw<CKzException>(messages::NotAvailable);
