@@ -4,8 +4,8 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cerrno>
-#include <cstring>
 #include <fcntl.h>
 #include <string>
 #include <sys/stat.h>
@@ -137,15 +137,6 @@ TEST_F(AsyncFileTest, PipesNeitherHangNorKill) {
     EXPECT_EQ(std::string(received, static_cast<std::size_t>(read(reader, received, 8))), "abcdef");
     close(reader);
     EXPECT_EQ(Write(out, 6, "ghi"), EPIPE);
-}
-
-TEST_F(AsyncFileTest, FullDevice) {
-    AsyncFile file;
-    ASSERT_EQ(file.OpenForWriting(u"/dev/full"), 0);
-    EXPECT_EQ(Write(file, 0, "abc"), ENOSPC);
-    std::size_t count = 1;
-    EXPECT_EQ(file.Finish(count), 0);
-    EXPECT_EQ(count, 0u);
 }
 
 TEST_F(AsyncFileTest, InterruptedAndShortTransfersGoOn) {

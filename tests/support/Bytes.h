@@ -1,0 +1,19 @@
+#pragma once
+
+#include <KzXmlLib10/values/CBinaryData.h>
+
+#include <string>
+
+namespace KzXmlLib10::support {
+
+inline CBinaryData ToBinary(const std::string& bytes) {
+    CBinaryData data;
+    data.SetBuffer(reinterpret_cast<const unsigned char*>(bytes.data()), bytes.size());
+    return data;
+}
+
+inline std::string FromBinary(const CBinaryData& data) {
+    return std::string(reinterpret_cast<const char*>(data.GetData()), data.GetLength());
+}
+
+} // namespace KzXmlLib10::support
