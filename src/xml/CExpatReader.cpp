@@ -87,14 +87,14 @@ void CExpatReader::ParseChunk(bool isFinal) {
         m_parser.reset();
 }
 
-/// Frees the parser and throws what a handler threw, or else expat's error.
+/// Throws what a handler threw, or else expat's error.
 void CExpatReader::Fail() {
+    if (m_failure)
+        std::rethrow_exception(std::exchange(m_failure, nullptr));
     const std::u16string error = expat::ErrorText(XML_GetErrorCode(m_parser.get()));
     const std::int32_t line = Line(XML_GetCurrentLineNumber(m_parser.get()));
     m_buffer.reset();
     m_parser.reset();
-    if (m_failure)
-        std::rethrow_exception(std::exchange(m_failure, nullptr));
     Throw<CKzException>(messages::ParserFailed, error, line);
 }
 

@@ -130,16 +130,13 @@ void CXmlDocument::AppendTextExcludingCR(CXmlElement* element, const char16_t* t
 /// Deliberate: all carriage returns are left out. The parser has normalised line ends already, so what goes
 /// here came from character references.
 void CXmlDocument::AppendTextExcludingCR(CXmlElement* element, const char16_t* text, unsigned long length) {
-    unsigned long runStart = 0;
-    for (unsigned long i = 0;; ++i) {
-        const bool atEnd = i == length || text[i] == u'\0';
-        if (!atEnd && text[i] != u'\r')
-            continue;
-        if (i > runStart)
-            element->AppendText(text + runStart, i - runStart);
-        if (atEnd)
+    for (unsigned long start = 0, at = 0;; start = ++at) {
+        while (at < length && text[at] != u'\0' && text[at] != u'\r')
+            ++at;
+        if (at > start)
+            element->AppendText(text + start, at - start);
+        if (at == length || text[at] == u'\0')
             return;
-        runStart = i + 1;
     }
 }
 
