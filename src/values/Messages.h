@@ -91,6 +91,8 @@ inline constexpr char16_t EmptyDuration[] = u"Invalid XSD Duration (Empty String
 inline constexpr char16_t MalformedDuration[] =
     u"Invalid XSD Duration [%s] expected [-]P[nY][nM][nD][T[nH][nM][nS.ff]]";
 inline constexpr char16_t DurationFractionTooLong[] = u"Invalid XSD Duration [%s] Fraction part too long";
+
+// CBigInteger
 inline constexpr char16_t OutOfBoundOfInt[] = u"ERROR: Value out of bound of int.";
 inline constexpr char16_t OutOfBoundOfLongLong[] = u"ERROR: Value out of bound of LONGLONG.";
 inline constexpr char16_t OverflowInDivide[] = u"ERROR: Overflow in operator/.";
@@ -101,6 +103,7 @@ inline constexpr char16_t NegativeSquareRoot[] = u"ERROR: Negative Number in fun
 inline constexpr char16_t InfiniteInteger[] = u"ERROR: Infinity is not an integer.";
 inline constexpr char16_t PowerOfTenTooLarge[] = u"ERROR: The power of ten %u is above the limit of %u.";
 
+// CDecimal
 inline constexpr char16_t InvalidCharInDecimal[] =
     u"The string representing a Decimal, contained an invalid char at position %d [%s]"; // sic
 inline constexpr char16_t ExponentOfDecimalTooLarge[] =

@@ -106,11 +106,12 @@ TEST(CBigInteger, SumsCarryAndBorrowAcrossTheWholeLength) {
     EXPECT_EQ(Text(nines - power), "-1");
     EXPECT_EQ(Text(CBigInteger(-5) - CBigInteger(-5)), "0");
     EXPECT_TRUE(CBigInteger(5) + CBigInteger(-5) >= CBigInteger(0)); // the sign of this zero is +
-    CBigInteger itself(nines);
-    itself += itself;
-    EXPECT_EQ(Text(itself), "199999999999999999998");
-    itself -= itself;
-    EXPECT_EQ(Text(itself), "0");
+    CBigInteger x(nines);
+    const CBigInteger& itself = x;
+    x += itself;
+    EXPECT_EQ(Text(x), "199999999999999999998");
+    x -= itself;
+    EXPECT_EQ(Text(x), "0");
 }
 
 TEST(CBigInteger, QuotientsAreTruncatedAndRemaindersFollowTheDividend) {
