@@ -105,6 +105,7 @@ void CDecimal::Parse(const char16_t* text) {
         MultiplyByPowerOfTen(parts.exponent, text);
     else if (parts.hasExponent)
         DivideByPowerOfTen(parts.exponent);
+    // Deliberate: in this order, so zeros that the limit leaves at the end stay.
     Rationalise();
     LimitPlaces();
 }

@@ -11,6 +11,9 @@ namespace {
 constexpr std::size_t digitsPerLimb = 9;
 constexpr std::uint64_t base = 1'000'000'000;
 
+/// So many products of two limbs, and a limb and a carry more, fit into 64 bits.
+constexpr std::size_t rowsWithoutCarry = 16;
+
 void Trim(Limbs& limbs) {
     while (!limbs.empty() && limbs.back() == 0)
         limbs.pop_back();
@@ -25,6 +28,16 @@ void MultiplyByLimb(Limbs& limbs, std::uint32_t factor) {
         carry /= base;
     }
     limbs.push_back(static_cast<std::uint32_t>(carry));
+}
+
+/// Brings each sum below the base.
+void Carry(std::vector<std::uint64_t>& sums) {
+    std::uint64_t carry = 0;
+    for (std::uint64_t& sum : sums) {
+        sum += carry;
+        carry = sum / base;
+        sum %= base;
+    }
 }
 
 /// Divides in place and returns the remainder.
@@ -110,16 +123,15 @@ void AppendDigits(const Limbs& limbs, std::vector<std::uint16_t>& digits) {
 }
 
 Limbs MultiplyLimbs(const Limbs& a, const Limbs& b) {
-    Limbs product(a.size() + b.size());
+    std::vector<std::uint64_t> sums(a.size() + b.size());
     for (std::size_t j = 0; j < b.size(); ++j) {
-        std::uint64_t carry = 0;
-        for (std::size_t i = 0; i < a.size(); ++i) {
-            carry += std::uint64_t{a[i]} * b[j] + product[i + j];
-            product[i + j] = static_cast<std::uint32_t>(carry % base);
-            carry /= base;
-        }
-        product[a.size() + j] = static_cast<std::uint32_t>(carry);
+        for (std::size_t i = 0; i < a.size(); ++i)
+            sums[i + j] += std::uint64_t{a[i]} * b[j];
+        if (j % rowsWithoutCarry == rowsWithoutCarry - 1)
+            Carry(sums);
     }
+    Carry(sums);
+    Limbs product(sums.begin(), sums.end());
     Trim(product);
     return product;
 }

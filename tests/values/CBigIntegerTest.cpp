@@ -114,6 +114,15 @@ TEST(CBigInteger, SumsCarryAndBorrowAcrossTheWholeLength) {
     EXPECT_EQ(Text(x), "0");
 }
 
+TEST(CBigInteger, LongProductsOfNinesDoNotOverflow) {
+    // (10^n - 1)^2 is n - 1 nines, 8, n - 1 zeros, 1: the largest sums that a product of that length has.
+    for (const std::size_t n : {1, 9, 10, 144, 153, 500}) {
+        const CBigInteger nines = CBigInteger::Pow10(static_cast<std::uint32_t>(n)) - 1;
+        EXPECT_EQ(Text(nines * nines), std::string(n - 1, '9') + "8" + std::string(n - 1, '0') + "1");
+        EXPECT_EQ(nines * nines / nines, nines);
+    }
+}
+
 TEST(CBigInteger, QuotientsAreTruncatedAndRemaindersFollowTheDividend) {
     EXPECT_EQ(Text(CBigInteger(-7) / 2), "-3");
     EXPECT_EQ(Text(CBigInteger(7) / -2), "-3");
