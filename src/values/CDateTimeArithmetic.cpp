@@ -39,6 +39,7 @@ std::int64_t Settle(Field& field, std::int64_t total, int unit) {
 } // namespace
 
 void CDateTime::AddDateTimeSpan(const CDateTimeSpan& span) {
+    // Deliberate: the kind is not asked, so a value without a month moves to December of the year before.
     const bool minus = span.IsNegative();
     std::int64_t carry = Settle(m_month, Sum(m_month - 1, minus, span.GetMonths(), 0), 12);
     m_month = static_cast<std::uint8_t>(m_month + 1);

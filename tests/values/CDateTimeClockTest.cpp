@@ -1,0 +1,162 @@
+#include <KzXmlLib10/values/CDateTime.h>
+
+#include "support/Failure.h"
+
+#include <gtest/gtest.h>
+
+#include <cstdlib>
+#include <ctime>
+#include <limits>
+#include <optional>
+#include <string>
+#include <vector>
+
+using namespace KzXmlLib10;
+
+namespace {
+
+using Value = CKzInvalidValueException;
+
+/// The time zone of the process, until the end of a scope.
+class TimeZone {
+public:
+    explicit TimeZone(const char* zone) {
+        if (const char* held = std::getenv("TZ"))
+            m_held = held;
+        setenv("TZ", zone, 1);
+        tzset();
+    }
+    ~TimeZone() {
+        m_held ? setenv("TZ", m_held->c_str(), 1) : unsetenv("TZ");
+        tzset();
+    }
+    TimeZone(const TimeZone&) = delete;
+    TimeZone& operator=(const TimeZone&) = delete;
+
+private:
+    std::optional<std::string> m_held;
+};
+
+std::string FromTime(long long time) {
+    CDateTime value;
+    value = time;
+    return ToUtf8(value.ToString());
+}
+
+std::string FromFileTime(unsigned long long ticks) {
+    CDateTime value;
+    value = FILETIME{static_cast<std::uint32_t>(ticks), static_cast<std::uint32_t>(ticks >> 32)};
+    return ToUtf8(value.ToString());
+}
+
+TEST(CDateTimeClock, TimesAreReadAsUtcInEveryTimeZone) {
+    const struct {
+        long long time;
+        const char16_t* text;
+    } rows[] = {
+        {0, u"1970-01-01T00:00:00"},
+        {-1, u"1969-12-31T23:59:59"},
+        {951782399, u"2000-02-28T23:59:59"},
+        {951782400, u"2000-02-29T00:00:00"},
+        {1234567890, u"2009-02-13T23:31:30"},
+        {253402300799, u"9999-12-31T23:59:59"},
+        {-62135596800, u"0001-01-01T00:00:00"},
+        {-377705116800, u"-9999-01-01T00:00:00"},
+    };
+    for (const char* name : {"UTC", "EAST-11:30", "WEST5DST"}) {
+        const TimeZone zone(name);
+        for (const auto& row : rows) {
+            EXPECT_EQ(FromTime(row.time), ToUtf8(row.text));
+            EXPECT_EQ(CDateTime(row.text).GetTime(), row.time);
+        }
+    }
+}
+
+TEST(CDateTimeClock, GetTimeNormalisesAndCountsOn) {
+    EXPECT_EQ(CDateTime(u"1970-01-01T01:00:00.999+01:30").GetTime(), -1800);
+    CDateTime date(1970, 1, 2);
+    EXPECT_EQ(date.GetTime(), 86400);
+    date.SetTimeZone(1, 0); // the day before, whose time of day is not looked at
+    EXPECT_EQ(date.GetTime(), 0);
+    CDateTime irregular(2001, 2, 1);
+    irregular.SetDay(31);
+    EXPECT_EQ(irregular.GetTime(), CDateTime(2001, 3, 3).GetTime());
+    irregular.SetMonth(0);
+    EXPECT_EQ(irregular.GetTime(), CDateTime(2000, 12, 31).GetTime());
+    EXPECT_EQ(support::Failure<Value>([] { CDateTime(CDateTime::DTType_time).GetTime(); }),
+              "Failed to GetTime, Date Status must be dateTime or date. Invalid Date Type: time.");
+}
+
+TEST(CDateTimeClock, TimesOutOfRangeAreRefused) {
+    EXPECT_EQ(support::Failure<Value>([] { FromTime(253402300800); }),
+              "Invalid Time [253402300800] (outside the years -9999 to 9999)");
+    EXPECT_EQ(support::Failure<Value>([] { FromTime(-377705116801); }),
+              "Invalid Time [-377705116801] (outside the years -9999 to 9999)");
+    EXPECT_EQ(support::Failure<Value>([] { FromTime(-62135596801); }),
+              "Invalid Year [0] (9999 <= year <= -9999 && year != 0)");
+    EXPECT_EQ(CDateTime(std::numeric_limits<long long>::max()).GetType(), CDateTime::DTType_yearZero);
+    EXPECT_EQ(CDateTime(std::numeric_limits<long long>::min()).GetType(), CDateTime::DTType_yearZero);
+    CDateTime date(CDateTime::DTType_date);
+    EXPECT_EQ(support::Failure<CKzInvalidStateException>([&] { date = 0LL; }),
+              "Failed to copy CDateTime. Invalid Date Type: dateTime, expected: date.");
+}
+
+TEST(CDateTimeClock, SystemTimes) {
+    const TimeZone zone("UTC");
+    const SYSTEMTIME time = {2000, 2, 2, 29, 13, 20, 30, 999};
+    const CDateTime value(time);
+    EXPECT_EQ(value.ToString(), u"2000-02-29T13:20:30.999");
+    const SYSTEMTIME back = value.GetAsSystemTime();
+    EXPECT_EQ(std::vector<int>({back.wYear, back.wMonth, back.wDayOfWeek, back.wDay, back.wHour, back.wMinute,
+                                back.wSecond, back.wMilliseconds}),
+              std::vector<int>({2000, 2, 2, 29, 13, 20, 30, 999}));
+    EXPECT_EQ(support::Failure<Value>([] { CDateTime(2000, 2, 29).GetAsSystemTime(); }),
+              "Failed to GetAsSystemTime, Date Status must be dateTime. Invalid Date Type: date.");
+
+    CDateTime target;
+    EXPECT_EQ(support::Failure<Value>([&] { target = SYSTEMTIME{2000, 257, 0, 1, 0, 0, 0, 0}; }),
+              "Invalid Month [257] (1 <= month <= 12)");
+    EXPECT_EQ(support::Failure<Value>([&] { target = SYSTEMTIME{65535, 1, 0, 1, 0, 0, 0, 0}; }),
+              "Invalid Year [65535] (9999 <= year <= -9999 && year != 0)");
+    EXPECT_EQ(CDateTime(SYSTEMTIME{2000, 1, 0, 32, 0, 0, 0, 0}).GetType(), CDateTime::DTType_yearZero);
+}
+
+TEST(CDateTimeClock, FileTimes) {
+    EXPECT_EQ(FromFileTime(0), "1601-01-01T00:00:00");
+    EXPECT_EQ(FromFileTime(116444736000000000), "1970-01-01T00:00:00");
+    EXPECT_EQ(FromFileTime(116444736000000000 - 1), "1969-12-31T23:59:59.999");
+    EXPECT_EQ(FromFileTime(125963012305009999), "2000-02-29T12:33:50.5");
+    EXPECT_EQ(support::Failure<Value>([] { FromFileTime(0x7FFFFFFFFFFFFFFF); }),
+              "Invalid Year [30828] (9999 <= year <= -9999 && year != 0)");
+    EXPECT_EQ(support::Failure<Value>([] { FromFileTime(0x8000000000000000); }),
+              "Failed to convert FILETIME to SYSTEMTIME");
+    EXPECT_EQ(CDateTime(FILETIME{0, 0x80000000}).GetType(), CDateTime::DTType_yearZero);
+}
+
+TEST(CDateTimeClock, TheDayOfTheWeekIsLocal) {
+    const CDateTime saturday(2000, 1, 1);
+    {
+        const TimeZone zone("UTC");
+        EXPECT_EQ(saturday.GetDayOfWeek(), 7);
+        EXPECT_EQ(CDateTime(2000, 1, 2, 23, 59, 59).GetDayOfWeek(), 1);
+        EXPECT_EQ(CDateTime(1969, 12, 31).GetDayOfWeek(), 4);
+    }
+    const TimeZone zone("WEST5");
+    EXPECT_EQ(saturday.GetDayOfWeek(), 6);
+    EXPECT_EQ(support::Failure<CKzInvalidStateException>([] { CDateTime().GetDayOfWeek(); }),
+              "Failed to GetDayOfWeek. Invalid Date Type: yearZero.");
+}
+
+TEST(CDateTimeClock, TheTickCountIsLocalTimeWithoutZone) {
+    const TimeZone zone("EAST-3:30");
+    constexpr long long offset = 3 * 3600 + 1800;
+    const long long before = std::time(nullptr);
+    const CDateTime now = CDateTime::GetTickCount();
+    const long long after = std::time(nullptr);
+    EXPECT_EQ(now.GetType(), CDateTime::DTType_dateTime);
+    EXPECT_FALSE(now.IsUTC());
+    EXPECT_GE(now.GetTime() - offset, before);
+    EXPECT_LE(now.GetTime() - offset, after);
+}
+
+} // namespace
