@@ -10,6 +10,8 @@ using namespace KzXmlLib10;
 
 namespace {
 
+constexpr auto Refused = [](auto action) { return support::Failure<CKzInvalidValueException>(action); };
+
 CDateTimeSpan Span(const char16_t* text) {
     CDateTimeSpan span;
     span.ParseXSDDuration(text);
@@ -74,9 +76,9 @@ TEST(CDateTimeArithmetic, QuotientsHaveSinglePrecisionAndNumbersWrap) {
 TEST(CDateTimeArithmetic, AMonthThatIsNoneIsRefusedOnlyWhereItsLengthIsNeeded) {
     EXPECT_EQ(AddToDate(u"1696-09-01", u"P16777215M"), "23542-00-01");
     EXPECT_EQ(AddToDate(u"1696-09-01", u"P201326593M"), "1698-242-01");
-    EXPECT_EQ(support::Failure<CKzInvalidValueException>([] { AddToDate(u"1696-09-01", u"P16777215M1D"); }),
+    EXPECT_EQ(Refused([] { AddToDate(u"1696-09-01", u"P16777215M1D"); }),
               "Invalid Month [0] (1 <= month <= 12)");
-    EXPECT_EQ(support::Failure<CKzInvalidValueException>([] { AddToDate(u"1696-09-01", u"P201326593M1D"); }),
+    EXPECT_EQ(Refused([] { AddToDate(u"1696-09-01", u"P201326593M1D"); }),
               "Invalid Month [242] (1 <= month <= 12)");
 }
 

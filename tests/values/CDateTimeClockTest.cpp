@@ -15,7 +15,8 @@ using namespace KzXmlLib10;
 
 namespace {
 
-using Value = CKzInvalidValueException;
+constexpr auto Refused = [](auto action) { return support::Failure<CKzInvalidValueException>(action); };
+constexpr auto Forbidden = [](auto action) { return support::Failure<CKzInvalidStateException>(action); };
 
 /// The time zone of the process, until the end of a scope.
 class TimeZone {
@@ -53,16 +54,14 @@ TEST(CDateTimeClock, TimesAreReadAsUtcInEveryTimeZone) {
     const struct {
         long long time;
         const char16_t* text;
-    } rows[] = {
-        {0, u"1970-01-01T00:00:00"},
-        {-1, u"1969-12-31T23:59:59"},
-        {951782399, u"2000-02-28T23:59:59"},
-        {951782400, u"2000-02-29T00:00:00"},
-        {1234567890, u"2009-02-13T23:31:30"},
-        {253402300799, u"9999-12-31T23:59:59"},
-        {-62135596800, u"0001-01-01T00:00:00"},
-        {-377705116800, u"-9999-01-01T00:00:00"},
-    };
+    } rows[] = {{0, u"1970-01-01T00:00:00"},
+                {-1, u"1969-12-31T23:59:59"},
+                {951782399, u"2000-02-28T23:59:59"},
+                {951782400, u"2000-02-29T00:00:00"},
+                {1234567890, u"2009-02-13T23:31:30"},
+                {253402300799, u"9999-12-31T23:59:59"},
+                {-62135596800, u"0001-01-01T00:00:00"},
+                {-377705116800, u"-9999-01-01T00:00:00"}};
     for (const char* name : {"UTC", "EAST-11:30", "WEST5DST"}) {
         const TimeZone zone(name);
         for (const auto& row : rows) {
@@ -83,21 +82,21 @@ TEST(CDateTimeClock, GetTimeNormalisesAndCountsOn) {
     EXPECT_EQ(irregular.GetTime(), CDateTime(2001, 3, 3).GetTime());
     irregular.SetMonth(0);
     EXPECT_EQ(irregular.GetTime(), CDateTime(2000, 12, 31).GetTime());
-    EXPECT_EQ(support::Failure<Value>([] { CDateTime(CDateTime::DTType_time).GetTime(); }),
+    EXPECT_EQ(Refused([] { CDateTime(CDateTime::DTType_time).GetTime(); }),
               "Failed to GetTime, Date Status must be dateTime or date. Invalid Date Type: time.");
 }
 
 TEST(CDateTimeClock, TimesOutOfRangeAreRefused) {
-    EXPECT_EQ(support::Failure<Value>([] { FromTime(253402300800); }),
+    EXPECT_EQ(Refused([] { FromTime(253402300800); }),
               "Invalid Time [253402300800] (outside the years -9999 to 9999)");
-    EXPECT_EQ(support::Failure<Value>([] { FromTime(-377705116801); }),
+    EXPECT_EQ(Refused([] { FromTime(-377705116801); }),
               "Invalid Time [-377705116801] (outside the years -9999 to 9999)");
-    EXPECT_EQ(support::Failure<Value>([] { FromTime(-62135596801); }),
+    EXPECT_EQ(Refused([] { FromTime(-62135596801); }),
               "Invalid Year [0] (9999 <= year <= -9999 && year != 0)");
     EXPECT_EQ(CDateTime(std::numeric_limits<long long>::max()).GetType(), CDateTime::DTType_yearZero);
     EXPECT_EQ(CDateTime(std::numeric_limits<long long>::min()).GetType(), CDateTime::DTType_yearZero);
     CDateTime date(CDateTime::DTType_date);
-    EXPECT_EQ(support::Failure<CKzInvalidStateException>([&] { date = 0LL; }),
+    EXPECT_EQ(Forbidden([&] { date = 0LL; }),
               "Failed to copy CDateTime. Invalid Date Type: dateTime, expected: date.");
 }
 
@@ -110,13 +109,13 @@ TEST(CDateTimeClock, SystemTimes) {
     EXPECT_EQ(std::vector<int>({back.wYear, back.wMonth, back.wDayOfWeek, back.wDay, back.wHour, back.wMinute,
                                 back.wSecond, back.wMilliseconds}),
               std::vector<int>({2000, 2, 2, 29, 13, 20, 30, 999}));
-    EXPECT_EQ(support::Failure<Value>([] { CDateTime(2000, 2, 29).GetAsSystemTime(); }),
+    EXPECT_EQ(Refused([] { CDateTime(2000, 2, 29).GetAsSystemTime(); }),
               "Failed to GetAsSystemTime, Date Status must be dateTime. Invalid Date Type: date.");
 
     CDateTime target;
-    EXPECT_EQ(support::Failure<Value>([&] { target = SYSTEMTIME{2000, 257, 0, 1, 0, 0, 0, 0}; }),
+    EXPECT_EQ(Refused([&] { target = SYSTEMTIME{2000, 257, 0, 1, 0, 0, 0, 0}; }),
               "Invalid Month [257] (1 <= month <= 12)");
-    EXPECT_EQ(support::Failure<Value>([&] { target = SYSTEMTIME{65535, 1, 0, 1, 0, 0, 0, 0}; }),
+    EXPECT_EQ(Refused([&] { target = SYSTEMTIME{65535, 1, 0, 1, 0, 0, 0, 0}; }),
               "Invalid Year [65535] (9999 <= year <= -9999 && year != 0)");
     EXPECT_EQ(CDateTime(SYSTEMTIME{2000, 1, 0, 32, 0, 0, 0, 0}).GetType(), CDateTime::DTType_yearZero);
 }
@@ -126,10 +125,9 @@ TEST(CDateTimeClock, FileTimes) {
     EXPECT_EQ(FromFileTime(116444736000000000), "1970-01-01T00:00:00");
     EXPECT_EQ(FromFileTime(116444736000000000 - 1), "1969-12-31T23:59:59.999");
     EXPECT_EQ(FromFileTime(125963012305009999), "2000-02-29T12:33:50.5");
-    EXPECT_EQ(support::Failure<Value>([] { FromFileTime(0x7FFFFFFFFFFFFFFF); }),
+    EXPECT_EQ(Refused([] { FromFileTime(0x7FFFFFFFFFFFFFFF); }),
               "Invalid Year [30828] (9999 <= year <= -9999 && year != 0)");
-    EXPECT_EQ(support::Failure<Value>([] { FromFileTime(0x8000000000000000); }),
-              "Failed to convert FILETIME to SYSTEMTIME");
+    EXPECT_EQ(Refused([] { FromFileTime(0x8000000000000000); }), "Failed to convert FILETIME to SYSTEMTIME");
     EXPECT_EQ(CDateTime(FILETIME{0, 0x80000000}).GetType(), CDateTime::DTType_yearZero);
 }
 
@@ -143,7 +141,7 @@ TEST(CDateTimeClock, TheDayOfTheWeekIsLocal) {
     }
     const TimeZone zone("WEST5");
     EXPECT_EQ(saturday.GetDayOfWeek(), 6);
-    EXPECT_EQ(support::Failure<CKzInvalidStateException>([] { CDateTime().GetDayOfWeek(); }),
+    EXPECT_EQ(Forbidden([] { CDateTime().GetDayOfWeek(); }),
               "Failed to GetDayOfWeek. Invalid Date Type: yearZero.");
 }
 

@@ -10,7 +10,7 @@ using namespace KzXmlLib10;
 
 namespace {
 
-using Value = CKzInvalidValueException;
+constexpr auto Refused = [](auto action) { return support::Failure<CKzInvalidValueException>(action); };
 
 CDateTimeSpan Span(const char16_t* text) {
     CDateTimeSpan span;
@@ -21,7 +21,7 @@ CDateTimeSpan Span(const char16_t* text) {
 /// The text of what is read, or the message of the failure.
 std::string Read(const char16_t* text) {
     CDateTimeSpan span;
-    const std::string failure = support::Failure<Value>([&] { span = Span(text); });
+    const std::string failure = Refused([&] { span = Span(text); });
     return failure != "no failure" ? failure : ToUtf8(span.ToString());
 }
 
@@ -36,11 +36,9 @@ TEST(CDateTimeSpan, LenientFormsAreRead) {
     const struct {
         const char16_t* text;
         const char* expected;
-    } rows[] = {
-        {u"PT1.", "PT1S"},   {u"PT1.S", "PT1S"},    {u"PT.5S", "PT0.5S"},
-        {u"PY", "P"},        {u"-PTS", "-P"},       {u"P5T1H", "PT1H"},
-        {u"P1M2Y", "P2Y1M"}, {u"PT1H2Y", "P2YT1H"}, {u"P1Y1Y1M", "P1Y1M"},
-    };
+    } rows[] = {{u"PT1.", "PT1S"},   {u"PT1.S", "PT1S"},    {u"PT.5S", "PT0.5S"},
+                {u"PY", "P"},        {u"-PTS", "-P"},       {u"P5T1H", "PT1H"},
+                {u"P1M2Y", "P2Y1M"}, {u"PT1H2Y", "P2YT1H"}, {u"P1Y1Y1M", "P1Y1M"}};
     for (const auto& row : rows)
         EXPECT_EQ(Read(row.text), row.expected);
     EXPECT_EQ(Span(u"PT1.5S2YT.7S").GetMilliSeconds(), 1200); // a second series adds to the fraction
@@ -74,8 +72,7 @@ TEST(CDateTimeSpan, NumbersWrapIn32Bits) {
 
 TEST(CDateTimeSpan, AFailedParseStartedAnew) {
     CDateTimeSpan span = Span(u"-P1Y2M");
-    EXPECT_EQ(support::Failure<Value>([&] { span.ParseXSDDuration(nullptr); }),
-              "Invalid XSD Duration (Null String)");
+    EXPECT_EQ(Refused([&] { span.ParseXSDDuration(nullptr); }), "Invalid XSD Duration (Null String)");
     EXPECT_EQ(span.ToString(), u"P");
 }
 
@@ -120,13 +117,11 @@ TEST(CDateTimeSpan, ComparisonSeesYearsAndDaysOfTheSums) {
     const struct {
         const char16_t *left, *right;
         char expected;
-    } rows[] = {
-        {u"P1Y", u"P12M", '='},         {u"P1Y", u"P2Y", '<'},   {u"P2D", u"P1D", '>'},
-        {u"P1D", u"PT24H", '='},        {u"P1D", u"-P1D", '<'}, // the day is the 2nd against the last
-        {u"P1M", u"P2M", '='},          {u"PT1H", u"PT2H", '='}, {u"P1M", u"P30D", '?'},
-        {u"P1M1D", u"P1D", '='},        {u"P4M", u"P1M", '?'},   {u"P65535Y", u"P1Y", '<'},
-        {u"P16777215M1D", u"P1D", '?'},
-    };
+    } rows[] = {{u"P1Y", u"P12M", '='},        {u"P1Y", u"P2Y", '<'},   {u"P2D", u"P1D", '>'},
+                {u"P1D", u"PT24H", '='},       {u"P1D", u"-P1D", '<'}, // the day is the 2nd against the last
+                {u"P1M", u"P2M", '='},         {u"PT1H", u"PT2H", '='}, {u"P1M", u"P30D", '?'},
+                {u"P1M1D", u"P1D", '='},       {u"P4M", u"P1M", '?'},   {u"P65535Y", u"P1Y", '<'},
+                {u"P16777215M1D", u"P1D", '?'}};
     for (const auto& row : rows)
         EXPECT_EQ("=<>?"[Span(row.left).CompareTo(Span(row.right))], row.expected)
             << ToUtf8(row.left) << " " << ToUtf8(row.right);
