@@ -5,9 +5,11 @@
 #include <filesystem>
 #include <fstream>
 #include <iterator>
+#include <sstream>
 #include <stdexcept>
 #include <stdlib.h>
 #include <string>
+#include <utility>
 
 namespace KzXmlLib10::support {
 
@@ -32,8 +34,9 @@ public:
         std::ofstream(Path(name), std::ios::binary) << bytes;
     }
     std::string Read(const std::string& name) const {
-        std::ifstream file(Path(name), std::ios::binary);
-        return {std::istreambuf_iterator<char>(file), {}};
+        std::ostringstream bytes;
+        bytes << std::ifstream(Path(name), std::ios::binary).rdbuf();
+        return std::move(bytes).str();
     }
 
 private:

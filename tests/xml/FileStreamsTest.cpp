@@ -100,10 +100,10 @@ TEST_F(FileStreams, LoneSurrogatesEndUtf8ForGoodWhereverBlocksEnd) {
 
 TEST_F(FileStreams, LongTextIsTheSameOnBothRoads) {
     Pieces pieces;
-    for (int i = 0; i < 300; ++i)
+    for (int i = 0; i < 60; ++i)
         pieces.push_back(std::u16string(4090 + i % 13, static_cast<char16_t>(u'!' + i * 7)) + u"\U0001F600");
     for (const XmlEncoding encoding : byteEncodings)
-        EXPECT_GT(BothRoads(pieces, encoding).size(), 300u * 4096);
+        EXPECT_GT(BothRoads(pieces, encoding).size(), 60u * 4096);
 }
 
 TEST_F(FileStreams, BytesOfNoEncoding) {
