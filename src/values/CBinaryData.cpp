@@ -1,5 +1,6 @@
 #include <KzXmlLib10/values/CBinaryData.h>
 
+#include "object/NotNull.h"
 #include "object/Throw.h"
 #include "values/CBase64.h"
 #include "values/Messages.h"
@@ -27,12 +28,6 @@ std::uint32_t Checked(std::uint64_t length) {
     if (length > maxLength)
         Throw<CKzException>(messages::BinaryDataTooLong);
     return static_cast<std::uint32_t>(length);
-}
-
-template <class T>
-void RequireInput(const T* input) {
-    if (!input)
-        Throw<CKzInvalidParamException>(messages::NullBinaryInput);
 }
 
 std::uint64_t TextBytes(std::uint64_t units) { return units * sizeof(char16_t); }
@@ -93,7 +88,7 @@ unsigned HexDigit(char16_t c) {
 
 CBinaryData::CBinaryData(unsigned char* const data, unsigned long length, bool adopt) {
     if (length > 0)
-        RequireInput(data);
+        NotNull(data, u"data");
     const std::uint32_t checked = Checked(length);
     m_buffer = adopt ? new CBinaryDataBuffer{data, checked, checked, 1} : Copy(data, checked);
 }
@@ -135,7 +130,7 @@ void CBinaryData::Append(const unsigned char* data, unsigned long length) {
     if (!m_buffer)
         return SetBuffer(data, length);
     if (length > 0)
-        RequireInput(data);
+        NotNull(data, u"data");
     // A piece of this object's own bytes is found again by its place when the array has moved.
     const bool isOwn = PointsInto(*m_buffer, data);
     const std::ptrdiff_t place = isOwn ? data - m_buffer->m_data : 0;
@@ -152,7 +147,7 @@ void CBinaryData::Append(const unsigned char* data, unsigned long length) {
 void CBinaryData::Append(char16_t unit) { Append(BytesOf(&unit), sizeof unit); }
 
 void CBinaryData::Append(const char16_t* text) {
-    RequireInput(text);
+    NotNull(text, u"text");
     Append(BytesOf(text), TextBytes(std::char_traits<char16_t>::length(text)));
 }
 
@@ -162,14 +157,14 @@ void CBinaryData::Append(const CBinaryData& other) { Append(other.GetData(), oth
 
 void CBinaryData::SetBuffer(const unsigned char* data, unsigned long length) {
     if (length > 0)
-        RequireInput(data);
+        NotNull(data, u"data");
     CBinaryDataBuffer* copy = Copy(data, Checked(length)); // before Clear: the bytes may be this object's own
     Clear();
     m_buffer = copy;
 }
 
 void CBinaryData::SetBuffer(const char16_t* text) {
-    RequireInput(text);
+    NotNull(text, u"text");
     SetBuffer(BytesOf(text), TextBytes(std::char_traits<char16_t>::length(text)));
 }
 

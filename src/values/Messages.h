@@ -15,7 +15,6 @@ inline constexpr char16_t IndexOutOfRange[] = u"Index Out of range [%d]";
 inline constexpr char16_t AppendToShared[] = u"Failed to append. [RefCount=%d]";
 inline constexpr char16_t ReleaseOfShared[] = u"Failed to release data. [RefCount=%d]";
 inline constexpr char16_t BinaryDataTooLong[] = u"Binary data cannot hold more than 4294967295 bytes";
-inline constexpr char16_t NullBinaryInput[] = u"Binary data cannot be made from a null pointer";
 
 // CDateTime: the kind forbids the operation
 inline constexpr char16_t CannotSetOtherKind[] =
