@@ -4,6 +4,7 @@
 #include <KzXmlLib10/object/Fwd.h>
 #include <KzXmlLib10/values/SystemTime.h>
 
+#include <cstddef>
 #include <cstdint>
 #include <string>
 #include <string_view>
@@ -172,7 +173,7 @@ public:
     /// A copy moved to the offset +00:00, if the zone is an offset; otherwise a plain copy.
     CDateTime GetNormalized() const;
 
-    /// Compares in the partial order of XML Schema (3.2.7.4 of Part 2). Where only one value has a zone, the
+    /// Compares in the partial order of XML Schema (Datatypes, 3.2.7.4). Where only one value has a zone, the
     /// other one is tried at +14:00 and -14:00.
     /// Deliberate: months of the right-hand value are not seen, years of different sign are indeterminate,
     /// and the second try starts from the result of the first.
@@ -187,7 +188,7 @@ public:
     bool operator>(const CDateTime& other) const;
     bool operator>=(const CDateTime& other) const;
 
-    /// Adds a duration field by field, after Appendix E of XML Schema Part 2. Throws
+    /// Adds a duration field by field, after Appendix E of XML Schema Datatypes. Throws
     /// CKzInvalidValueException where the count of months is so large that the resulting month is none.
     /// Deliberate: the day is not cut to the length of the new month unless days move it, and quotients have
     /// single precision.
