@@ -43,16 +43,6 @@ CBinaryData CXmlObjectBase::ToXmlStream(bool includeDeclaration, bool formatted,
     return bytes;
 }
 
-void CXmlObjectBase::ToFastInfosetFile(const char16_t*, FInfoDecl, const CXmlSerializationContext&,
-                                       CompressionType) const {
-    CheckGeneratorVersion();
-    Throw<CKzException>(messages::NotAvailable);
-}
-CBinaryData CXmlObjectBase::ToFastInfosetStream(FInfoDecl, const CXmlSerializationContext&,
-                                                CompressionType) const {
-    CheckGeneratorVersion();
-    Throw<CKzException>(messages::NotAvailable);
-}
 void CXmlObjectBase::FromXmlFile(const char16_t* fileName, const CXmlSerializationContext& context) {
     CheckGeneratorVersion();
     CXmlDocument document(context);
