@@ -10,6 +10,7 @@
 
 #include <cstring>
 #include <limits>
+#include <utility>
 
 namespace KzXmlLib10 {
 
@@ -49,27 +50,33 @@ void CXmlDocument::LoadXml(const char* text) {
     const std::size_t size = std::strlen(text);
     if (size == 0)
         Throw<CKzException>(messages::XmlStringIsEmpty);
-    std::memcpy(AllocateBuffer(size), text, size);
+    std::memcpy(SetBuffer(NewBuffer(size), size), text, size);
     ParseText();
 }
 
 void CXmlDocument::LoadXml(const char16_t* text) {
     NotNull(text, u"text");
-    Cleanup();
     constexpr char16_t byteOrderMark = 0xFEFF;
-    const std::uint64_t textSize = std::uint64_t{sizeof *text} * std::char_traits<char16_t>::length(text);
-    unsigned char* buffer = AllocateBuffer(sizeof byteOrderMark + textSize);
-    std::memcpy(buffer, &byteOrderMark, sizeof byteOrderMark);
-    std::memcpy(buffer + sizeof byteOrderMark, text, textSize);
+    const std::size_t textSize = sizeof *text * std::char_traits<char16_t>::length(text);
+    const std::size_t size = sizeof byteOrderMark + textSize;
+    std::unique_ptr<unsigned char[]> buffer = NewBuffer(size);
+    std::memcpy(buffer.get(), &byteOrderMark, sizeof byteOrderMark);
+    std::memcpy(buffer.get() + sizeof byteOrderMark, text, textSize);
+    Cleanup(); // not earlier, since the text may stand in the tree
+    SetBuffer(std::move(buffer), size);
     // The parser would refuse a declaration of another encoding, had it only the mark to go by.
     ParseText(u"UTF-16");
 }
 
-/// Makes the buffer for an input of `size` bytes.
-unsigned char* CXmlDocument::AllocateBuffer(std::uint64_t size) {
+/// An array for an input of `size` bytes.
+std::unique_ptr<unsigned char[]> CXmlDocument::NewBuffer(std::uint64_t size) {
     if (size > std::numeric_limits<std::uint32_t>::max())
         Throw<CKzException>(messages::InputTooLarge, size);
-    m_buffer = std::make_unique_for_overwrite<unsigned char[]>(size);
+    return std::make_unique_for_overwrite<unsigned char[]>(size);
+}
+
+unsigned char* CXmlDocument::SetBuffer(std::unique_ptr<unsigned char[]> buffer, std::uint64_t size) {
+    m_buffer = std::move(buffer);
     m_bufferSize = static_cast<std::uint32_t>(size);
     return m_buffer.get();
 }

@@ -28,13 +28,13 @@ std::unique_ptr<unsigned char[]> NewBlock() {
     return std::make_unique_for_overwrite<unsigned char[]>(BlockSize);
 }
 
-void OpenForReading(AsyncFile& file, const char16_t* fileName) {
+void OpenForReading(AsyncFile& file, const std::u16string& fileName) {
     if (const int error = file.OpenForReading(fileName))
         Throw<CKzException>(messages::FileNotOpened, fileName, error);
 }
 
 /// The size of a file that can be read whole.
-std::uint32_t GetSize(const AsyncFile& file, const char16_t* fileName) {
+std::uint32_t GetSize(const AsyncFile& file, const std::u16string& fileName) {
     std::uint64_t size = 0;
     int error = file.GetSize(size);
     if (error == 0 && size > std::numeric_limits<std::uint32_t>::max())
@@ -53,24 +53,24 @@ void CXmlDocument::LoadXmlStream(const unsigned char* data, unsigned long size) 
     if (size == 0)
         Throw<CKzException>(messages::XmlStreamIsEmpty);
     NotNull(data, u"data");
-    std::memcpy(AllocateBuffer(size), data, size);
+    std::memcpy(SetBuffer(NewBuffer(size), size), data, size);
     Parse();
 }
 
 void CXmlDocument::Load(const char16_t* fileName) {
-    NotNull(fileName, u"fileName");
+    const std::u16string name = NotNull(fileName, u"fileName"); // it may stand in the tree
     Cleanup();
     if (asyncFromXmlFile)
-        LoadInBlocks(fileName);
+        LoadInBlocks(name);
     else
-        LoadWhole(fileName);
+        LoadWhole(name);
 }
 
-void CXmlDocument::LoadWhole(const char16_t* fileName) {
+void CXmlDocument::LoadWhole(const std::u16string& fileName) {
     AsyncFile file;
     OpenForReading(file, fileName);
     const std::uint32_t size = GetSize(file, fileName);
-    if (const int error = file.ReadAll(AllocateBuffer(size), size))
+    if (const int error = file.ReadAll(SetBuffer(NewBuffer(size), size), size))
         Throw<CKzException>(messages::FileNotRead, fileName, error);
     (void)file.Close();
     Parse();
@@ -90,11 +90,10 @@ void CXmlDocument::DecompressBuffer() {
     if (data == m_buffer.get())
         return;
     (void)m_buffer.release(); // freed by Decompress
-    m_buffer.reset(data);
-    m_bufferSize = static_cast<std::uint32_t>(size); // which the limit of Decompress keeps within 32 bits
+    SetBuffer(std::unique_ptr<unsigned char[]>(data), size);
 }
 
-void CXmlDocument::LoadInBlocks(const char16_t* fileName) {
+void CXmlDocument::LoadInBlocks(const std::u16string& fileName) {
     m_file = std::make_unique<AsyncFile>();
     OpenForReading(*m_file, fileName);
     m_buffer = NewBlock();

@@ -177,6 +177,13 @@ TEST(CXmlDocument, LoadsRepeatedlyAlsoAfterAFailure) {
     EXPECT_EQ(document.GetDocumentElement(), nullptr);
 }
 
+TEST(CXmlDocument, LoadsTextThatStandsInItsOwnTree) {
+    CXmlDocument document;
+    document.LoadXml("<a>&lt;inner>some text&lt;/inner></a>");
+    document.LoadXml(document.GetDocumentElement()->GetText().c_str());
+    EXPECT_EQ(DumpTree(document.GetDocumentElement()), R"(inner["some text"])");
+}
+
 TEST(CXmlDocument, TakesTheSchemaTypeAtConstructionAndCDataAtEachLoad) {
     CXmlSerializationContext context;
     CXmlDocument document(context);

@@ -85,11 +85,12 @@ private:
     void ParseText(const char16_t* protocolEncoding = nullptr);
     void Parse();
     void DecompressBuffer();
-    void LoadWhole(const char16_t* fileName);
-    void LoadInBlocks(const char16_t* fileName);
+    void LoadWhole(const std::u16string& fileName);
+    void LoadInBlocks(const std::u16string& fileName);
     void ReadChunkFromFile(unsigned char* block);
     void AsyncParse(bool isLast);
-    unsigned char* AllocateBuffer(std::uint64_t size);
+    static std::unique_ptr<unsigned char[]> NewBuffer(std::uint64_t size);
+    unsigned char* SetBuffer(std::unique_ptr<unsigned char[]> buffer, std::uint64_t size);
 
     CXmlElement* AddDocElement(std::u16string_view namespaceUri, std::u16string_view localName);
     CXmlElement* AddChildElement(std::u16string_view namespaceUri, std::u16string_view localName);
