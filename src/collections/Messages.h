@@ -20,4 +20,19 @@ inline constexpr char16_t NoTargetNamespace[] =
     u"CXmlCollectionBase::GetTargetNamespace Should not be used from within a Collection (program logic "
     u"error)";
 
+inline constexpr char16_t ElementNameIsNull[] = u"Element Name must have a value";
+inline constexpr char16_t NamespaceRestrictionIsNull[] = u"Namespace Restriction must have a value";
+inline constexpr char16_t TargetNamespaceIsNull[] = u"Target Namespace must have a value";
+inline constexpr char16_t KeywordAsNamespace[] = u"Invalid Namespace [%s]";
+inline constexpr char16_t InappropriateAttribute[] =
+    u"Invalid Attribute [%s]. The attributes namespace is Inappropriate.";
+inline constexpr char16_t InvalidElementFound[] = u"Invalid Element [%s] found in element [%s]";
+inline constexpr char16_t NamespaceAgainstRestriction[] =
+    u"The namespace %s in the class %s is invalid against restriction %s";
+inline constexpr char16_t NoDefaultNamespace[] = u"A Namespace has not been set for this Collection";
+inline constexpr char16_t ReadByTheCollection[] = u"This should be done by the collection";
+inline constexpr char16_t ElementInsideItself[] = u"An element is contained in itself";
+inline constexpr char16_t DefaultNamespaceNeedsTextWriter[] =
+    u"The element [%s] has a default namespace of its own, which can be written as text only";
+
 } // namespace KzXmlLib10::messages

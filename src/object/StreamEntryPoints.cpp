@@ -63,9 +63,4 @@ void CXmlObjectBase::FromXmlStream(const CBinaryData& data, const CXmlSerializat
     FromXmlStream(const_cast<unsigned char*>(data.GetData()), data.GetLength(), context);
 }
 
-void CXmlObjectBase::FromXmlElement(const CElement*, const CXmlSerializationContext&) {
-    CheckGeneratorVersion();
-    Throw<CKzException>(messages::NotAvailable);
-}
-
 } // namespace KzXmlLib10

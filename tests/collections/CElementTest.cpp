@@ -1,0 +1,270 @@
+#include <KzXmlLib10/collections/CElement.h>
+
+#include "support/EventLog.h"
+#include "support/Failure.h"
+#include "support/Model.h"
+
+#include <KzXmlLib10/object/Text.h>
+#include <KzXmlLib10/xml/CXmlWriter.h>
+
+#include <gtest/gtest.h>
+
+#include <memory>
+#include <pthread.h>
+
+using namespace KzXmlLib10;
+using KzXmlLib10::support::EventLog;
+using KzXmlLib10::support::Failure;
+
+namespace {
+
+const CXmlSerializationContext& Defaults() { return CXmlSerializationContext::GetDefaultContext(); }
+
+std::string Write(const CXmlObjectBase& object, bool formatted = false) {
+    return ToUtf8(object.ToXml(false, formatted, EOLType_LF, Defaults()));
+}
+
+std::string Read(const char16_t* xml) {
+    CElement element(u"any");
+    element.FromXml(xml);
+    return Write(element);
+}
+
+TEST(CElement, KeepsNamesAttributesChildrenAndText) {
+    // Deliberate: the text goes behind the children.
+    EXPECT_EQ(
+        Read(u"<n:note xmlns:n='urn:n' lang='en' n:id='1'>fragile<line>x</line> <n:line/>y</n:note>"),
+        "<AA:note xmlns:AA=\"urn:n\" lang=\"en\" AA:id=\"1\"><line>x</line><AA:line/>fragile y</AA:note>");
+    EXPECT_EQ(Read(u"<note xmlns='urn:n'><o:line xmlns:o='urn:o' i:nil='1' "
+                   u"xmlns:i='http://www.w3.org/2001/XMLSchema-instance'/></note>"),
+              "<AA:note xmlns:AA=\"urn:n\"><AB:line xmlns:AB=\"urn:o\" "
+              "xmlns:AC=\"http://www.w3.org/2001/XMLSchema-instance\" AC:nil=\"1\"/></AA:note>");
+    EXPECT_EQ(Failure([] { CElement(u"a").FromXml(u"<a>"); }), "no element found at line 1");
+}
+
+TEST(CElement, ReadingAddsToWhatItHolds) {
+    EventLog log([](void* item) {
+        const auto* child = static_cast<CElement*>(static_cast<CXmlObjectBase*>(item));
+        return ToUtf8(child->GetName() + u"=" + child->GetText());
+    });
+    CElement element(u"any");
+    log.Watch(*element.GetChildElements());
+    element.FromXml(u"<r a='1'><x>1</x></r>");
+    element.FromXml(u"<s b='2'><y>2</y></s>");
+    EXPECT_EQ(Write(element), "<s a=\"1\" b=\"2\"><x>1</x><y>2</y></s>");
+    EXPECT_EQ(log.Take(), "add(x=1) added(x=1) change add(y=2) added(y=2) change ") << "whole when added";
+    element.GetChildElements()->RemoveEventListener(&log);
+}
+
+TEST(CElement, TakesOnlyWhatItsRestrictionAdmits) {
+    CElement element(u"AnyElement", u"urn:a");
+    element.FromXml(u"<x xmlns='urn:b'>1</x>");
+    EXPECT_EQ(element.GetName(), u"AnyElement");
+    element.FromXml(u"<x xmlns='urn:a'><y xmlns='urn:b'/></x>");
+    EXPECT_EQ(Write(element), "<AA:x xmlns:AA=\"urn:a\"><AB:y xmlns:AB=\"urn:b\"/></AA:x>")
+        << "children are not restricted";
+    // The common entry point offers the children of the root.
+    element.CXmlObjectBase::FromXml(u"<r/>", Defaults());
+    EXPECT_EQ(element.GetName(), u"x");
+}
+
+TEST(CElement, RefusesBadArguments) {
+    const auto make = [](auto... arguments) {
+        return Failure<CKzInvalidNamespaceException>([&] { CElement element(arguments...); });
+    };
+    const char16_t* const null = nullptr;
+    EXPECT_EQ(make(null), "Element Name must have a value");
+    EXPECT_EQ(make(u"a", u"", null, null), "Namespace Restriction must have a value");
+    EXPECT_EQ(make(u"a", u"", u"##any", null), "Target Namespace must have a value");
+    for (const char16_t* keyword : {u"##any", u"##other", u"##local", u"##targetNamespace"})
+        EXPECT_EQ(make(u"a", keyword), "Invalid Namespace [" + ToUtf8(keyword) + "]");
+    EXPECT_EQ(make(u"a", u"urn:b", u"##targetNamespace", u"urn:t"),
+              "Invalid namespace [urn:b]. The namespace must be one of [##targetNamespace] where the target "
+              "namespace is [urn:t]");
+    EXPECT_THROW(CElement(u"a", null), CKzInvalidParamException);
+    EXPECT_THROW(CElement(u"a").SetText(nullptr), CKzInvalidParamException);
+    EXPECT_THROW(CElement(static_cast<CXmlObjectBase*>(nullptr), null), CKzInvalidParamException);
+    EXPECT_THROW(CElement(u"a").FromXmlElement(static_cast<const CElement*>(nullptr), Defaults()),
+                 CKzInvalidParamException);
+}
+
+TEST(CElement, ClonesDeeplyAndCopiesShare) {
+    CElement element(u"any");
+    element.FromXml(u"<r xmlns='urn:r' a='1'><x>1<y/></x></r>");
+    const std::string before = Write(element);
+    const CSmartPtr<CElement> clone = element.Clone();
+    EXPECT_EQ(Write(*clone), before);
+    clone->GetChildElements()->Item(0)->SetText(u"2");
+    clone->GetAttributes()->Item(0)->SetValue(u"3");
+    EXPECT_EQ(Write(element), before);
+
+    CElement copy(element);
+    copy.GetChildElements()->Clear();
+    copy.SetText(u"t");
+    EXPECT_EQ(Write(element), "<AA:r xmlns:AA=\"urn:r\" a=\"1\"/>");
+
+    CElement outside(u"a", u"urn:a");
+    outside.SetNamespace(u"urn:b");
+    EXPECT_EQ(Failure<CKzInvalidNamespaceException>([&] { outside.Clone(); }),
+              "Invalid namespace [urn:b]. The namespace must be one of [urn:a] where the target namespace is "
+              "[]");
+}
+
+/// The namespace restrictions under which an element fails, and how.
+std::string Check(CElement& element, const char16_t* restriction) {
+    try {
+        element.SetNamespaceRestrictions(restriction, u"urn:t");
+    } catch (const CKzInvalidNamespaceException* failure) {
+        const std::unique_ptr<const CKzInvalidNamespaceException> owned(failure);
+        return "pointer: " + ToUtf8(failure->GetFullMessage());
+    } catch (const CKzInvalidNamespaceException& failure) {
+        return ToUtf8(failure.GetFullMessage());
+    }
+    return "fits";
+}
+
+TEST(CElement, ChecksTheRestrictionOfAWholeTreeAndThrowsAPointer) {
+    CElement element(u"any");
+    element.FromXml(u"<r xmlns='urn:t' xmlns:b='urn:b'><x><b:y b:z='1'/></x></r>");
+    EXPECT_EQ(Check(element, u"##any"), "fits");
+    EXPECT_EQ(Check(element, u"##targetNamespace"),
+              "pointer: The namespace y in the class urn:b is invalid against restriction "
+              "##targetNamespace\nInvalid namespace [urn:b]. The namespace must be one of "
+              "[##targetNamespace] where the target namespace is [urn:t]");
+    element.FromXml(u"<r xmlns='urn:t' xmlns:b='urn:b' b:z='1'/>");
+    EXPECT_EQ(Check(element, u"##targetNamespace"),
+              "Invalid namespace [urn:b]. The namespace must be one of [##targetNamespace] where the target "
+              "namespace is [urn:t]");
+}
+
+/// <order no="7"><id>..</id></order>, as a generated class.
+kit::Model& OrderModel() {
+    static kit::Model model(u"order");
+    static const bool described = [] {
+        model.Attribute(u"no", kit::Required, ItemType_i4).Prim(u"id", kit::Mnd, ItemType_string);
+        return true;
+    }();
+    (void)described;
+    return model;
+}
+
+CSmartPtr<kit::CModelObject> NewOrder() {
+    CSmartPtr<kit::CModelObject> order = OrderModel().New();
+    order->FromXml(u"<order no='7'><id>\u00E5\U0001F600 &lt;</id></order>", Defaults());
+    return order;
+}
+
+TEST(CElement, CopiesAnyObjectAndFillsAnyObject) {
+    const CSmartPtr<kit::CModelObject> order = NewOrder();
+    const CElement copy(order, nullptr);
+    EXPECT_EQ(Write(copy), Write(*order));
+
+    const CSmartPtr<kit::CModelObject> other = OrderModel().New();
+    other->FromXmlElement(&copy, Defaults());
+    EXPECT_EQ(Write(*other), Write(*order));
+}
+
+TEST(CElement, ADefaultNamespaceOfItsOwnCostsTheAttributes) {
+    CElement element(NewOrder(), u"urn:d");
+    const std::string text = "<order xmlns=\"urn:d\"><id>\xC3\xA5\xF0\x9F\x98\x80 &lt;</id></order>";
+    EXPECT_EQ(Write(element), text);
+    EXPECT_EQ(element.GetAttributes()->GetCount(), 1);
+    EXPECT_EQ(
+        Write(*element.Clone()),
+        "<AA:order xmlns:AA=\"urn:d\" no=\"7\"><AA:id>\xC3\xA5\xF0\x9F\x98\x80 &lt;</AA:id></AA:order>");
+
+    CSmartPtr<CElement> outer = new CElement(u"outer", u"urn:o");
+    outer->GetChildElements()->Add(new CElement(element));
+    outer->GetChildElements()->Add(u"after", u"urn:o");
+    EXPECT_EQ(Write(*outer), "<AA:outer xmlns:AA=\"urn:o\">" + text + "<AA:after/></AA:outer>");
+    element.GetChildElements()->Item(0)->SetText(u"1\n2");
+    EXPECT_EQ(ToUtf8(outer->ToXml(false, true, EOLType_CRLF, Defaults())),
+              "<AA:outer xmlns:AA=\"urn:o\">\r\n"
+              "<order xmlns=\"urn:d\">\r\n\t<id>1\r\n2</id>\r\n</order>\r\n\r\n"
+              "\t<AA:after/>\r\n</AA:outer>\r\n");
+}
+
+TEST(CElement, AnAttributeNamedXmlnsBecomesTheDefaultNamespaceOfACopy) {
+    CElement source(u"a");
+    source.GetAttributes()->Add(u"xmlns", u"urn:x", u"urn:p");
+    const CElement copy(&source, nullptr);
+    EXPECT_EQ(copy.GetAttributes()->GetCount(), 1);
+    EXPECT_EQ(Write(copy), "<a xmlns=\"urn:x\"/>");
+}
+
+/// A writer of another format than text.
+class CDeafWriter : public CXmlWriter {
+public:
+    void WriteComment(const std::u16string&) override {}
+    void WriteProcessingInstruction(const std::u16string&) override {}
+    void WriteInlineSchema(const std::u16string&) override {}
+    void StartElement(const std::u16string&, const std::u16string&) override {}
+    void WriteText(const std::u16string&, ItemType) override {}
+    void EndElement() override {}
+    void WriteAttribute(const std::u16string&, const std::u16string&, const std::u16string&,
+                        ItemType) override {}
+    void WriteXsiType(const std::u16string&, const std::u16string&, ItemType) override {}
+    void WriteXsiNil() override {}
+};
+
+TEST(CElement, ADefaultNamespaceOfItsOwnIsForTextWritersOnly) {
+    struct CExposed : CElement {
+        using CElement::CElement;
+        using CElement::ToXml_Int;
+    } element(NewOrder(), u"urn:d");
+    CDeafWriter writer;
+    EXPECT_EQ(Failure([&] { element.ToXml_Int(&writer, false, u"", Defaults(), false); }),
+              "The element [order] has a default namespace of its own, which can be written as text only");
+}
+
+TEST(CElement, AnElementInsideItselfIsRefused) {
+    const CSmartPtr<CElement> outer = new CElement(u"outer");
+    CSmartPtr<CElement> inner = outer;
+    for (const char16_t* name : {u"a", u"b", u"c", u"d"}) {
+        inner->GetChildElements()->Add(u"leaf", u"");
+        inner = inner->GetChildElements()->Add(name, u"");
+    }
+    inner->GetChildElements()->Add(outer->GetChildElements()->Item(1));
+    const std::string refused = "An element is contained in itself";
+    EXPECT_EQ(Failure<CKzInvalidStateException>([&] { Write(*outer); }), refused);
+    EXPECT_EQ(Failure<CKzInvalidStateException>([&] { outer->Clone(); }), refused);
+    EXPECT_EQ(Failure<CKzInvalidStateException>([&] { outer->SetNamespaceRestrictions(u"##any", u""); }),
+              refused);
+    inner->GetChildElements()->Clear();
+    // The same element at several places is fine.
+    outer->GetChildElements()->Add(inner);
+    EXPECT_EQ(Write(*outer), "<outer><leaf/><a><leaf/><b><leaf/><c><leaf/><d/></c></b></a><d/></outer>");
+}
+
+void* ReadCloneWriteAndDestroyADeepTree(void* result) {
+    constexpr int levels = 40'000;
+    std::u16string xml;
+    for (int i = 0; i < levels; ++i)
+        xml += u"<a>";
+    xml += u"x";
+    for (int i = 0; i < levels; ++i)
+        xml += u"</a>";
+    CSmartPtr<CElement> element = new CElement(u"any");
+    element->FromXml(xml.c_str());
+    CSmartPtr<CElement> clone = element->Clone();
+    element = nullptr;
+    clone->SetNamespaceRestrictions(u"##local", u"");
+    const CElement copy(clone, nullptr);
+    clone = nullptr;
+    *static_cast<bool*>(result) = copy.ToXml(false, false, EOLType_LF, Defaults()) == xml;
+    return nullptr;
+}
+
+TEST(CElement, DepthNeedsNoStack) {
+    bool same = false;
+    pthread_attr_t attributes;
+    ASSERT_EQ(pthread_attr_init(&attributes), 0);
+    ASSERT_EQ(pthread_attr_setstacksize(&attributes, 512 * 1024), 0);
+    pthread_t thread;
+    ASSERT_EQ(pthread_create(&thread, &attributes, ReadCloneWriteAndDestroyADeepTree, &same), 0);
+    pthread_join(thread, nullptr);
+    pthread_attr_destroy(&attributes);
+    EXPECT_TRUE(same);
+}
+
+} // namespace

@@ -1,0 +1,161 @@
+#include <KzXmlLib10/collections/CAttributeCol.h>
+#include <KzXmlLib10/collections/CElement.h>
+#include <KzXmlLib10/collections/CElementCol.h>
+
+#include "support/Failure.h"
+
+#include <KzXmlLib10/object/CXmlSerializationContext.h>
+#include <KzXmlLib10/object/Text.h>
+#include <KzXmlLib10/xml/CXmlDocument.h>
+
+#include <gtest/gtest.h>
+
+using namespace KzXmlLib10;
+using KzXmlLib10::support::Failure;
+
+namespace {
+
+const CXmlSerializationContext& Defaults() { return CXmlSerializationContext::GetDefaultContext(); }
+
+/// Such as "{urn:a}x=1 y=2".
+std::string Describe(const CAttributeCol& attributes) {
+    std::u16string text;
+    for (const CAttribute& attribute : attributes) {
+        text += text.empty() ? u"" : u" ";
+        if (!attribute.GetNamespace().empty())
+            text += u"{" + attribute.GetNamespace() + u"}";
+        text += attribute.GetName() + u"=" + attribute.GetValue();
+    }
+    return ToUtf8(text);
+}
+
+std::string Describe(const CElementCol& elements) {
+    std::u16string text;
+    for (const CElement& element : elements)
+        text += u"{" + element.GetNamespace() + u"}" + element.GetName() + u" ";
+    return ToUtf8(text);
+}
+
+TEST(CAttributeCol, TakesItsDefaultNamespaceFromARestrictionToNamespaces) {
+    const struct {
+        const char16_t* given;
+        const char16_t* restriction;
+        const char16_t* expected;
+    } rows[] = {
+        {u"urn:x", u"urn:x", u"urn:x"},
+        {u"", u"urn:a", u"urn:a"},
+        {u"", u"urn:a urn:b", u"urn:a"},
+        {u"urn:x", u"urn:a", u"urn:x"},
+        {u"", u"##any", u""},
+        {u"", u"a#", u""},
+        {u"", u"u", u""},
+        {u"", u"", u""},
+    };
+    for (const auto& row : rows)
+        EXPECT_EQ(CAttributeCol(row.given, row.restriction, u"").GetNamespace(), row.expected);
+}
+
+TEST(CAttributeCol, AddsUnderItsRestriction) {
+    CAttributeCol attributes(u"", u"urn:a", u"urn:t");
+    const CSmartPtr<CAttribute> last = attributes.Add(u"x");
+    attributes.Add(u"y", u"2");
+    attributes.Add(u"z", u"3", u"");
+    EXPECT_EQ(Failure<CKzInvalidNamespaceException>([&] { attributes.Add(u"z", u"3", u"urn:b"); }),
+              "Invalid namespace [urn:b]. The namespace must be one of [urn:a] where the target namespace is "
+              "[urn:t]");
+    EXPECT_THROW(attributes.Add(u"z", nullptr), CKzInvalidParamException);
+    EXPECT_THROW(attributes.Add(u"z", u"", nullptr), CKzInvalidParamException);
+
+    // Deliberate: an attribute that exists already is not checked.
+    CAttributeCol others(u"urn:b", u"##any", u"");
+    others.AddBefore(nullptr, attributes.Add(others.Add(u"o", u"4")));
+    others.AddAfter(nullptr, last->Clone());
+    last->SetValue(u"1");
+    EXPECT_EQ(Describe(attributes), "{urn:a}x=1 {urn:a}y=2 z=3 {urn:b}o=4");
+    EXPECT_EQ(Describe(others), "{urn:a}x= {urn:b}o=4 {urn:b}o=4");
+
+    const CSmartPtr<CAttributeCol> clone = attributes.Clone();
+    clone->Item(0)->SetName(u"c");
+    clone->Add(u"n", u"5");
+    EXPECT_EQ(Describe(*clone), "{urn:a}c=1 {urn:a}y=2 z=3 {urn:b}o=4 {urn:a}n=5");
+    EXPECT_EQ(Failure([&] { last->FromXml(u"<a/>", Defaults()); }), "This should be done by the collection");
+}
+
+TEST(CAttributeCol, ReadsAllAttributesOrFails) {
+    CAttributeCol attributes(u"", u"##local", u"");
+    attributes.FromXml(u"<r a='1' b='2'/>", Defaults());
+    EXPECT_EQ(Describe(attributes), "a=1 b=2");
+    EXPECT_EQ(Failure<CKzInvalidNamespaceException>(
+                  [&] { attributes.FromXml(u"<r c='3' p:d='4' xmlns:p='urn:p'/>", Defaults()); }),
+              "Invalid Attribute [d]. The attributes namespace is Inappropriate.");
+    EXPECT_EQ(Describe(attributes), "a=1 b=2 c=3");
+}
+
+TEST(CElementCol, HoldsItsRestrictionAgainstTheDefaultNamespaceOnly) {
+    EXPECT_EQ(Failure<CKzInvalidNamespaceException>([] { CElementCol(u"urn:b", u"urn:a", u"urn:t", 0, -1); }),
+              "Invalid namespace [urn:b]. The namespace must be one of [urn:a] where the target namespace is "
+              "[urn:t]");
+    CElementCol elements(u"urn:a", u"urn:a", u"urn:t", 2, 3);
+    EXPECT_EQ(elements.GetNamespace(), u"urn:t");
+    elements.Add(u"x");
+    elements.Add(u"y", u"urn:b");
+    const CSmartPtr<CElement> last = elements.Add(new CElement(u"z", u"urn:c"));
+    elements.AddBefore(last, new CElement(u"w"));
+    elements.AddAfter(nullptr, new CElement(u"v"));
+    EXPECT_EQ(Describe(elements), "{}v {urn:a}x {urn:b}y {}w {urn:c}z ");
+    EXPECT_NO_THROW(elements.ValidateCount(Defaults())) << "the bounds given are not heeded";
+    EXPECT_EQ(elements.Item(1)->GetName(), u"x");
+
+    const CSmartPtr<CElementCol> clone = elements.Clone();
+    clone->Item(0)->SetName(u"c");
+    clone->Add(u"n");
+    EXPECT_EQ(Describe(*clone), "{}c {urn:a}x {urn:b}y {}w {urn:c}z {urn:a}n ");
+    EXPECT_EQ(Describe(elements), "{}v {urn:a}x {urn:b}y {}w {urn:c}z ");
+    EXPECT_THROW(elements.Add(u"n", nullptr), CKzInvalidParamException);
+}
+
+TEST(CElementCol, AKeywordMayStandAsTheDefaultNamespace) {
+    EXPECT_EQ(CElementCol(u"", u"##other", u"urn:t", 0, -1).Add(u"x")->GetNamespace(), u"##other");
+    CElementCol none(u"", u"urn:a", u"", 0, -1);
+    EXPECT_EQ(Failure<CKzInvalidStateException>([&] { none.Add(u"x"); }),
+              "A Namespace has not been set for this Collection");
+}
+
+TEST(CElementCol, ReadsEveryElementThatIsLeft) {
+    CElementCol elements(u"", u"##local", u"urn:t", 0, -1);
+    elements.FromXml(u"<r><a/><b xmlns='urn:b'><c/></b>text</r>", Defaults());
+    EXPECT_EQ(Describe(elements), "{}a {urn:b}b ");
+    elements.FromXml(u"<r/>", Defaults());
+    EXPECT_EQ(elements.GetCount(), 2);
+
+    // Without namespaces their declarations are attributes like any other.
+    CXmlSerializationContext context;
+    context.SetSchemaType(SchemaType_NoNamespaces);
+    elements.Clear();
+    elements.FromXml(u"<r><p:a xmlns:p='urn:p' xmlns='urn:d'/></r>", context);
+    EXPECT_EQ(elements.Item(0)->GetName(), u"p:a");
+    EXPECT_EQ(Describe(*elements.Item(0)->GetAttributes()), "xmlns:p=urn:p xmlns=urn:d");
+}
+
+TEST(CElementCol, MayBeLockedToOneName) {
+    struct CLocked : CElementCol {
+        CLocked() : CElementCol(u"", u"##any", u"", 0, -1) {}
+        std::string Run(const char16_t* xml, const char16_t* ns) {
+            CXmlDocument document;
+            document.LoadXml(xml);
+            CXmlSerializationContext context;
+            context.SetIgnoreNamespaces(true); // of no effect here
+            CXmlElement* root = document.GetDocumentElement();
+            const CXmlElement* rest =
+                FromXmlLockElementName_Int(u"a", ns, root, root->GetFirstElement(), context);
+            return Describe(*this) + (rest ? ToUtf8(rest->GetLocalName()) : "null");
+        }
+    };
+    EXPECT_EQ(CLocked().Run(u"<r/>", u""), "null");
+    EXPECT_EQ(CLocked().Run(u"<r><a/><a>1</a></r>", u""), "{}a {}a null");
+    EXPECT_EQ(CLocked().Run(u"<r><a/><b/><a/></r>", u""), "{}a b");
+    EXPECT_EQ(CLocked().Run(u"<r xmlns='urn:r'><a/><a xmlns=''/></r>", u"urn:r"), "{urn:r}a a");
+    EXPECT_EQ(CLocked().Run(u"<r xmlns='urn:r'><a/></r>", u""), "a");
+}
+
+} // namespace
