@@ -6,6 +6,7 @@
 #include "object/RecursionLevel.h"
 #include "object/Throw.h"
 
+#include <KzXmlLib10/collections/CAttributeCol.h>
 #include <KzXmlLib10/metadata/CAttributeInfo.h>
 #include <KzXmlLib10/metadata/CElementInfo.h>
 #include <KzXmlLib10/metadata/CParentElementInfo.h>
@@ -32,7 +33,7 @@ void CXmlGeneratedClass::WriteObject(CXmlWriter* writer, bool isRoot, const char
                                      const CXmlSerializationContext& context, bool isOptional) const {
     const bool hasTag = GetClassInfo()->GetElementType() == XmlElementType_Element;
     if (hasTag)
-        StartElement(writer, isRoot, elementNamespace, context);
+        StartElement(writer, isRoot, elementNamespace, context, isOptional);
     const auto* nillable = dynamic_cast<const INillable*>(this);
     if (nillable && nillable->IsNil()) {
         writer->WriteXsiNil();
@@ -45,7 +46,7 @@ void CXmlGeneratedClass::WriteObject(CXmlWriter* writer, bool isRoot, const char
 }
 
 void CXmlGeneratedClass::StartElement(CXmlWriter* writer, bool isRoot, const char16_t* elementNamespace,
-                                      const CXmlSerializationContext& context) const {
+                                      const CXmlSerializationContext& context, bool isOptional) const {
     if (isRoot) {
         for (const std::u16string& instruction : context.GetProcessingInstructions())
             writer->WriteProcessingInstruction(instruction);
@@ -58,6 +59,9 @@ void CXmlGeneratedClass::StartElement(CXmlWriter* writer, bool isRoot, const cha
             writer->SetDefaultNamespace(uri);
     }
     writer->StartElement(GetElementName(), elementNamespace);
+    if (isRoot)
+        CXmlObjectBase::ToXml_Int(context.GetAdditionalRootAttributes(), writer, false, elementNamespace,
+                                  context, isOptional);
     AttributesToXml_Int(writer, context);
     if (isRoot) {
         if (const std::u16string schema = context.GetInLineSchema(); !schema.empty())

@@ -75,7 +75,7 @@ private:
     void WriteObject(CXmlWriter* writer, bool isRoot, const char16_t* elementNamespace,
                      const CXmlSerializationContext& context, bool isOptional) const;
     void StartElement(CXmlWriter* writer, bool isRoot, const char16_t* elementNamespace,
-                      const CXmlSerializationContext& context) const;
+                      const CXmlSerializationContext& context, bool isOptional) const;
     void WriteContent(CXmlWriter* writer, const CXmlSerializationContext& context, bool isOptional) const;
     void WritePrimitiveValue(CXmlWriter* writer) const;
     void ProcessAttributesToXml(const CXmlSerializationContext& context,

@@ -2,9 +2,12 @@
 
 #include <KzXmlLib10/fastinfoset/CFastInfosetContext.h>
 #include <KzXmlLib10/object/CNamespaceAliasMap.h>
+#include <KzXmlLib10/object/CSmartPtr.h>
 #include <KzXmlLib10/object/Enumerations.h>
 #include <KzXmlLib10/object/Export.h>
+#include <KzXmlLib10/object/Fwd.h>
 
+#include <atomic>
 #include <string>
 #include <vector>
 
@@ -40,6 +43,12 @@ public:
     /// The namespaces to declare at the root.
     const CNamespaceAliasMap& GetNamespaceAliases() const;
     CNamespaceAliasMap& GetNamespaceAliases();
+
+    /// Attributes that the root of a generated class gets in front of its own. Created when first asked for,
+    /// which threads may do at the same moment; changing the attributes is not synchronised.
+    ///
+    /// Deliberate: a copy of the context shares the collection, if it was there when the copy was made.
+    CSmartPtr<CAttributeCol> GetAdditionalRootAttributes() const;
 
     /// Whole processing instructions, delimiters included, written in front of the root.
     const std::vector<std::u16string>& GetProcessingInstructions() const;
@@ -96,9 +105,24 @@ public:
     static CXmlSerializationContext m_defaultContext;
 
 private:
+    /// A counted pointer that the first of several threads fills.
+    class QUILLON_EXPORT RootAttributes {
+    public:
+        RootAttributes() = default;
+        RootAttributes(const RootAttributes& other);
+        RootAttributes& operator=(const RootAttributes& other);
+        ~RootAttributes();
+
+        CAttributeCol* GetOrCreate();
+
+    private:
+        std::atomic<CAttributeCol*> m_attributes = nullptr;
+    };
+
     std::u16string m_defaultNamespaceURI;
     bool m_writeTypeAttribute = true;
     CNamespaceAliasMap m_namespaceAliases;
+    mutable RootAttributes m_additionalRootAttributes;
     std::vector<std::u16string> m_processingInstructions;
     std::u16string m_inLineSchema;
     bool m_ignoreInvalidCollectionCounts = false;

@@ -1,0 +1,61 @@
+#include <KzXmlLib10/object/CXmlSerializationContext.h>
+
+#include "support/Model.h"
+
+#include <KzXmlLib10/collections/CAttributeCol.h>
+
+#include <gtest/gtest.h>
+
+#include <array>
+#include <thread>
+#include <vector>
+
+using namespace KzXmlLib10;
+
+namespace {
+
+TEST(AdditionalRootAttributes, PrecedeTheRootsOwnAndStandOnTheRootOnly) {
+    kit::Model line(u"line");
+    line.Attribute(u"no", kit::Required, ItemType_i4);
+    kit::Model order(u"order");
+    order.Attribute(u"id", kit::Required, ItemType_i4).Class(u"line", kit::Mnd, line);
+    const CSmartPtr<kit::CModelObject> object = order.New();
+    CXmlSerializationContext context;
+    object->FromXml(u"<order id='7'><line no='1'/></order>", context);
+    context.GetAdditionalRootAttributes()->Add(u"lang", u"en");
+    context.GetAdditionalRootAttributes()->Add(u"v", u"1", u"urn:v");
+    EXPECT_EQ(object->ToXml(false, false, EOLType_LF, context),
+              u"<order lang=\"en\" xmlns:AA=\"urn:v\" AA:v=\"1\" id=\"7\"><line no=\"1\"/></order>");
+}
+
+TEST(AdditionalRootAttributes, AreSharedByCopiesMadeAfterwards) {
+    CXmlSerializationContext source;
+    CXmlSerializationContext before(source);
+    source.GetAdditionalRootAttributes()->Add(u"a");
+    {
+        CXmlSerializationContext copy(source);
+        CXmlSerializationContext assigned;
+        assigned.GetAdditionalRootAttributes()->Add(u"lost");
+        assigned = copy;
+        assigned = *&assigned;
+        assigned.GetAdditionalRootAttributes()->Add(u"b");
+    }
+    EXPECT_EQ(source.GetAdditionalRootAttributes()->GetCount(), 2);
+    EXPECT_EQ(before.GetAdditionalRootAttributes()->GetCount(), 0);
+}
+
+TEST(AdditionalRootAttributes, AreCreatedOnceHoweverManyThreadsAsk) {
+    for (int round = 0; round < 50; ++round) {
+        const CXmlSerializationContext context;
+        std::array<CAttributeCol*, 4> seen{};
+        std::vector<std::thread> threads;
+        for (CAttributeCol*& mine : seen)
+            threads.emplace_back([&] { mine = context.GetAdditionalRootAttributes(); });
+        for (std::thread& thread : threads)
+            thread.join();
+        for (const CAttributeCol* mine : seen)
+            ASSERT_EQ(mine, context.GetAdditionalRootAttributes());
+    }
+}
+
+} // namespace
