@@ -9,24 +9,75 @@
 #include "conversions/Messages.h"
 #include "object/Throw.h"
 
+#include <compare>
+#include <concepts>
 #include <functional>
+#include <type_traits>
 
 namespace KzXmlLib10 {
 
 namespace {
 
-/// The bounds of a kind: how one is read, the message, and what that shows of the value. A relation has to
-/// hold for the value to pass, so that a NaN fails.
+/// How a value stands to a bound. A NaN is unordered.
+template <class T>
+requires std::is_arithmetic_v<T> std::partial_ordering Compare(T value, T bound) { return value <=> bound; }
+
+/// Equality comes first: a zero that has kept a minus sign counts as less than one without.
+template <std::totally_ordered T>
+std::partial_ordering CompareExact(const T& value, const T& bound) {
+    if (value == bound)
+        return std::partial_ordering::equivalent;
+    return value < bound ? std::partial_ordering::less : std::partial_ordering::greater;
+}
+std::partial_ordering Compare(const CDecimal& value, const CDecimal& bound) {
+    return CompareExact(value, bound);
+}
+std::partial_ordering Compare(const CBigInteger& value, const CBigInteger& bound) {
+    return CompareExact(value, bound);
+}
+
+/// Dates, times and durations, some pairs of which are unordered.
+template <class T>
+requires requires(const T& value) { value.CompareTo(value); }
+std::partial_ordering Compare(const T& value, const T& bound) {
+    switch (value.CompareTo(bound)) {
+    case CDateTime::DTCompareResult_Equal:
+        return std::partial_ordering::equivalent;
+    case CDateTime::DTCompareResult_Less:
+        return std::partial_ordering::less;
+    case CDateTime::DTCompareResult_Greater:
+        return std::partial_ordering::greater;
+    default:
+        return std::partial_ordering::unordered;
+    }
+}
+
+/// The bounds of a kind: how one is read, the message, and what that shows of the value. What cannot be
+/// ordered fails as a NaN and passes as a date or duration.
 template <auto FromText, const auto& Violation, auto Shown = std::identity(), class T>
-void CheckRange(const char16_t* name, T value, const CPrimitiveRestrictions& restrictions) {
-    const auto holds = [&](auto relation, const std::u16string& bound) {
-        return bound.empty() || relation(value, FromText(bound, CWhitespaceUtils::WhitespaceRule_Collapse));
+void CheckRange(const char16_t* name, const T& value, const CPrimitiveRestrictions& restrictions) {
+    const auto holds = [&](std::partial_ordering side, bool inclusive, const std::u16string& bound) {
+        if (bound.empty())
+            return true;
+        const std::partial_ordering order =
+            Compare(value, FromText(bound, CWhitespaceUtils::WhitespaceRule_Collapse));
+        if (order == std::partial_ordering::unordered)
+            return !std::is_floating_point_v<T>;
+        return order == side || (inclusive && order == 0);
     };
-    if (!holds(std::greater_equal(), restrictions.m_minInclusive) ||
-        !holds(std::less_equal(), restrictions.m_maxInclusive) ||
-        !holds(std::greater(), restrictions.m_minExclusive) ||
-        !holds(std::less(), restrictions.m_maxExclusive))
+    constexpr auto above = std::partial_ordering::greater, below = std::partial_ordering::less;
+    if (!holds(above, true, restrictions.m_minInclusive) ||
+        !holds(below, true, restrictions.m_maxInclusive) ||
+        !holds(above, false, restrictions.m_minExclusive) ||
+        !holds(below, false, restrictions.m_maxExclusive))
         Throw<CKzException>(Violation, name, Shown(value));
+}
+
+/// The same for kinds of a class that writes itself.
+template <auto FromText, class T>
+void CheckRangeOf(const char16_t* name, const T& value, const CPrimitiveRestrictions& restrictions) {
+    CheckRange<FromText, messages::InvalidText, [](const T& shown) { return shown.ToString(); }>(
+        name, value, restrictions);
 }
 
 /// A negative facet is not in force.
@@ -94,6 +145,66 @@ void CheckR8(const char16_t* name, double value, const CPrimitiveRestrictions& r
     CheckRange<CConversions::r8FromString, messages::InvalidReal>(name, value, restrictions);
 }
 
+void CheckDecimal(const char16_t* name, const CDecimal& value, const CPrimitiveRestrictions& restrictions) {
+    CheckRangeOf<CConversions::decimalFromString>(name, value, restrictions);
+}
+
+void CheckInteger(const char16_t* name, const CBigInteger& value,
+                  const CPrimitiveRestrictions& restrictions) {
+    CheckRangeOf<CConversions::integerFromString>(name, value, restrictions);
+}
+
+void CheckYear(const char16_t* name, std::uint16_t value, const CPrimitiveRestrictions& restrictions) {
+    // Deliberate: unsigned, so negative years stand above all positive ones.
+    CheckRange<CConversions::yearFromString, messages::InvalidInteger>(name, value, restrictions);
+}
+
+void CheckMonth(const char16_t* name, std::uint8_t value, const CPrimitiveRestrictions& restrictions) {
+    CheckRange<CConversions::monthFromString, messages::InvalidInteger>(name, value, restrictions);
+}
+
+void CheckDay(const char16_t* name, std::uint8_t value, const CPrimitiveRestrictions& restrictions) {
+    CheckRange<CConversions::dayFromString, messages::InvalidInteger>(name, value, restrictions);
+}
+
+void CheckDateTime(const char16_t* name, const CDateTime& value, const CPrimitiveRestrictions& restrictions) {
+    CheckRangeOf<CConversions::datetimeFromString>(name, value, restrictions);
+}
+
+void CheckDate(const char16_t* name, const CDateTime& value, const CPrimitiveRestrictions& restrictions) {
+    CheckRangeOf<CConversions::dateFromString>(name, value, restrictions);
+}
+
+void CheckTime(const char16_t* name, const CDateTime& value, const CPrimitiveRestrictions& restrictions) {
+    CheckRangeOf<CConversions::timeFromString>(name, value, restrictions);
+}
+
+void CheckYearMonth(const char16_t* name, const CDateTime& value,
+                    const CPrimitiveRestrictions& restrictions) {
+    CheckRangeOf<CConversions::yearMonthFromString>(name, value, restrictions);
+}
+
+void CheckMonthDay(const char16_t* name, const CDateTime& value, const CPrimitiveRestrictions& restrictions) {
+    CheckRangeOf<CConversions::monthDayFromString>(name, value, restrictions);
+}
+
+void CheckDuration(const char16_t* name, const CDateTimeSpan& value,
+                   const CPrimitiveRestrictions& restrictions) {
+    CheckRangeOf<CConversions::durationFromString>(name, value, restrictions);
+}
+
+void CheckHexBinary(const char16_t* name, const CBinaryData& value,
+                    const CPrimitiveRestrictions& restrictions) {
+    if (!HasLengthWithin(value.GetLength(), restrictions))
+        Throw<CKzException>(messages::InvalidText, name, value.GetAsHexString());
+}
+
+void CheckBase64Binary(const char16_t* name, const CBinaryData& value,
+                       const CPrimitiveRestrictions& restrictions) {
+    // Deliberate: the message shows hexadecimal text here too.
+    CheckHexBinary(name, value, restrictions);
+}
+
 void CheckString(const char16_t* name, const std::u16string& value,
                  const CPrimitiveRestrictions& restrictions) {
     if (!HasLengthWithin(value.size(), restrictions) || !MatchesPattern(name, value, restrictions.m_pattern))
@@ -103,6 +214,10 @@ void CheckString(const char16_t* name, const std::u16string& value,
 void CheckPrimitiveRestrictions(const char16_t* name, const KzVariant& value, ItemType type,
                                 const CPrimitiveRestrictions& restrictions) {
     switch (type) {
+    case ItemType_hexBinary:
+        return CheckHexBinary(name, value.GetHexBinary(), restrictions);
+    case ItemType_base64Binary:
+        return CheckBase64Binary(name, value.GetBase64Binary(), restrictions);
     case ItemType_i1:
         return CheckI1(name, value.GetI1(), restrictions);
     case ItemType_i2:
@@ -123,10 +238,32 @@ void CheckPrimitiveRestrictions(const char16_t* name, const KzVariant& value, It
         return CheckR4(name, value.GetR4(), restrictions);
     case ItemType_r8:
         return CheckR8(name, value.GetR8(), restrictions);
+    case ItemType_duration:
+        return CheckDuration(name, value.GetDuration(), restrictions);
+    case ItemType_yearMonth:
+        return CheckYearMonth(name, value.GetYearMonth(), restrictions);
+    case ItemType_monthDay:
+        return CheckMonthDay(name, value.GetMonthDay(), restrictions);
+    case ItemType_year:
+        return CheckYear(name, value.GetYear(), restrictions);
+    case ItemType_month:
+        return CheckMonth(name, value.GetMonth(), restrictions);
+    case ItemType_day:
+        return CheckDay(name, value.GetDay(), restrictions);
+    case ItemType_date:
+        return CheckDate(name, value.GetDate(), restrictions);
+    case ItemType_datetime:
+        return CheckDateTime(name, value.GetDateTime(), restrictions);
+    case ItemType_time:
+        return CheckTime(name, value.GetTime(), restrictions);
     case ItemType_string:
         return CheckString(name, value.GetStringRef(), restrictions);
     case ItemType_boolean:
         return;
+    case ItemType_decimal:
+        return CheckDecimal(name, value.GetDecimalRef(), restrictions);
+    case ItemType_integer:
+        return CheckInteger(name, value.GetIntegerRef(), restrictions);
     default:
         Throw<CKzInvalidValueException>(messages::UnknownKindToCheck, value.GetType());
     }

@@ -15,7 +15,7 @@ namespace KzXmlLib10 {
 //     i4 -1        bits 0x00000000FFFFFFFF
 //     r4 1.5       bits 0x000000003FC00000
 //     boolean      bits 0 or 1
-//     string       payload -> std::u16string, of the variant's own
+//     string       payload -> std::u16string, of the variant's own; dates, decimals and the like too
 //     xmlObject    payload -> CXmlObjectBase, one reference of which is the variant's; or null
 //     nil, empty   bits 0
 
@@ -33,6 +33,21 @@ const PayloadKind* FindPayloadKind(ItemType type) {
     switch (type) {
     case ItemType_string:
         return &HeapValue<std::u16string>;
+    case ItemType_hexBinary:
+    case ItemType_base64Binary:
+        return &HeapValue<CBinaryData>;
+    case ItemType_duration:
+        return &HeapValue<CDateTimeSpan>;
+    case ItemType_yearMonth:
+    case ItemType_monthDay:
+    case ItemType_date:
+    case ItemType_datetime:
+    case ItemType_time:
+        return &HeapValue<CDateTime>;
+    case ItemType_decimal:
+        return &HeapValue<CDecimal>;
+    case ItemType_integer:
+        return &HeapValue<CBigInteger>;
     case ItemType_xmlObject:
     case ItemType_xmlCollection:
         return &CountedObject;
@@ -114,6 +129,10 @@ std::u16string KzVariant::GetType() const {
 
 std::u16string KzVariant::ToString(const char16_t* format) const {
     switch (m_type) {
+    case ItemType_hexBinary:
+        return CConversions::hexBinaryToString(GetHexBinary());
+    case ItemType_base64Binary:
+        return CConversions::base64BinaryToString(GetBase64Binary());
     case ItemType_i1:
         return CConversions::i1ToString(GetI1());
     case ItemType_i2:
@@ -134,6 +153,15 @@ std::u16string KzVariant::ToString(const char16_t* format) const {
         return CConversions::r4ToString(GetR4(), TextOrEmpty(format));
     case ItemType_r8:
         return CConversions::r8ToString(GetR8(), TextOrEmpty(format));
+    case ItemType_duration:
+        return CConversions::durationToString(GetDuration());
+    case ItemType_yearMonth:
+    case ItemType_monthDay:
+    case ItemType_date:
+    case ItemType_datetime:
+    case ItemType_time:
+        // Deliberate: the DTType of the value decides on its form, not the kind of the variant.
+        return CConversions::dateToString(GetDate());
     case ItemType_year:
         return CConversions::yearToString(GetYear());
     case ItemType_month:
@@ -146,6 +174,10 @@ std::u16string KzVariant::ToString(const char16_t* format) const {
         return CConversions::stringToString(GetStringRef());
     case ItemType_boolean:
         return CConversions::booleanToString(GetBoolean());
+    case ItemType_decimal:
+        return CConversions::decimalToString(GetDecimalRef(), TextOrEmpty(format));
+    case ItemType_integer:
+        return CConversions::integerToString(GetIntegerRef());
     default:
         Throw<CKzException>(messages::InvalidTypeToConvert, m_type);
     }
@@ -154,6 +186,10 @@ std::u16string KzVariant::ToString(const char16_t* format) const {
 // Each conversion runs before its setter, so that a bad text leaves the old value in place.
 void KzVariant::FromString(const std::u16string& text, ItemType type, CWhitespaceUtils::WhitespaceRule rule) {
     switch (type) {
+    case ItemType_hexBinary:
+        return SetHexBinary(CConversions::hexBinaryFromString(text, rule));
+    case ItemType_base64Binary:
+        return SetBase64Binary(CConversions::base64BinaryFromString(text, rule));
     case ItemType_i1:
         return SetI1(CConversions::i1FromString(text, rule));
     case ItemType_i2:
@@ -174,12 +210,34 @@ void KzVariant::FromString(const std::u16string& text, ItemType type, CWhitespac
         return SetR4(CConversions::r4FromString(text, rule));
     case ItemType_r8:
         return SetR8(CConversions::r8FromString(text, rule));
+    case ItemType_duration:
+        return SetDuration(CConversions::durationFromString(text, rule));
+    case ItemType_yearMonth:
+        return SetYearMonth(CConversions::yearMonthFromString(text, rule));
+    case ItemType_monthDay:
+        return SetMonthDay(CConversions::monthDayFromString(text, rule));
+    case ItemType_year:
+        return SetYear(CConversions::yearFromString(text, rule));
+    case ItemType_month:
+        return SetMonth(CConversions::monthFromString(text, rule));
+    case ItemType_day:
+        return SetDay(CConversions::dayFromString(text, rule));
+    case ItemType_date:
+        return SetDate(CConversions::dateFromString(text, rule));
+    case ItemType_datetime:
+        return SetDateTime(CConversions::datetimeFromString(text, rule));
+    case ItemType_time:
+        return SetTime(CConversions::timeFromString(text, rule));
     case ItemType_char:
         return SetChar(CConversions::charFromString(text, rule));
     case ItemType_string:
         return SetString(CConversions::stringFromString(text, rule));
     case ItemType_boolean:
         return SetBoolean(CConversions::booleanFromString(text, rule));
+    case ItemType_decimal:
+        return SetDecimal(CConversions::decimalFromString(text, rule));
+    case ItemType_integer:
+        return SetInteger(CConversions::integerFromString(text, rule));
     default:
         // Deliberate: the number is that of the kind held, not of the one asked for.
         Throw<CKzException>(messages::InvalidTypeToConvert, m_type);
@@ -192,10 +250,19 @@ void KzVariant::SetBits(ItemType type, std::uint64_t bits) {
     m_value.bits = bits;
 }
 
-void* KzVariant::GetPayload(ItemType type) const {
-    if (m_type != type || !m_value.payload)
+template <class T>
+void KzVariant::SetValue(ItemType type, T value) {
+    Clear();
+    m_type = type;
+    m_value.payload = new T(std::move(value));
+}
+
+/// `type` is what the caller hoped for. Any kind with a payload of its class will do.
+template <class T>
+const T& KzVariant::GetValue(ItemType type) const {
+    if (FindPayloadKind(m_type) != &HeapValue<T> || !m_value.payload)
         Throw<CKzInvalidStateException>(messages::NoSuchPayload, m_type, type);
-    return m_value.payload;
+    return *static_cast<const T*>(m_value.payload);
 }
 
 void KzVariant::SetI1(std::int8_t value) { SetBits(ItemType_i1, static_cast<std::uint8_t>(value)); }
@@ -230,16 +297,32 @@ std::uint8_t KzVariant::GetDay() const { return GetUI1(); }
 char16_t KzVariant::GetChar() const { return GetUI2(); }
 bool KzVariant::GetBoolean() const { return GetUI1() != 0; }
 
-void KzVariant::SetString(std::u16string value) {
-    Clear();
-    m_type = ItemType_string;
-    m_value.payload = new std::u16string(std::move(value));
-}
+void KzVariant::SetString(std::u16string value) { SetValue(ItemType_string, std::move(value)); }
+void KzVariant::SetHexBinary(CBinaryData value) { SetValue(ItemType_hexBinary, std::move(value)); }
+void KzVariant::SetBase64Binary(CBinaryData value) { SetValue(ItemType_base64Binary, std::move(value)); }
+void KzVariant::SetDuration(CDateTimeSpan value) { SetValue(ItemType_duration, value); }
+void KzVariant::SetYearMonth(CDateTime value) { SetValue(ItemType_yearMonth, value); }
+void KzVariant::SetMonthDay(CDateTime value) { SetValue(ItemType_monthDay, value); }
+void KzVariant::SetDate(CDateTime value) { SetValue(ItemType_date, value); }
+void KzVariant::SetDateTime(CDateTime value) { SetValue(ItemType_datetime, value); }
+void KzVariant::SetTime(CDateTime value) { SetValue(ItemType_time, value); }
+void KzVariant::SetDecimal(CDecimal value) { SetValue(ItemType_decimal, std::move(value)); }
+void KzVariant::SetInteger(CBigInteger value) { SetValue(ItemType_integer, std::move(value)); }
 
 std::u16string KzVariant::GetString() const { return GetStringRef(); }
+CBinaryData KzVariant::GetHexBinary() const { return GetValue<CBinaryData>(ItemType_hexBinary); }
+CBinaryData KzVariant::GetBase64Binary() const { return GetValue<CBinaryData>(ItemType_base64Binary); }
+CDateTimeSpan KzVariant::GetDuration() const { return GetValue<CDateTimeSpan>(ItemType_duration); }
+CDateTime KzVariant::GetYearMonth() const { return GetValue<CDateTime>(ItemType_yearMonth); }
+CDateTime KzVariant::GetMonthDay() const { return GetValue<CDateTime>(ItemType_monthDay); }
+CDateTime KzVariant::GetDate() const { return GetValue<CDateTime>(ItemType_date); }
+CDateTime KzVariant::GetDateTime() const { return GetValue<CDateTime>(ItemType_datetime); }
+CDateTime KzVariant::GetTime() const { return GetValue<CDateTime>(ItemType_time); }
+CDecimal KzVariant::GetDecimal() const { return GetDecimalRef(); }
+CBigInteger KzVariant::GetInteger() const { return GetIntegerRef(); }
 
-const std::u16string& KzVariant::GetStringRef() const {
-    return *static_cast<const std::u16string*>(GetPayload(ItemType_string));
-}
+const std::u16string& KzVariant::GetStringRef() const { return GetValue<std::u16string>(ItemType_string); }
+const CDecimal& KzVariant::GetDecimalRef() const { return GetValue<CDecimal>(ItemType_decimal); }
+const CBigInteger& KzVariant::GetIntegerRef() const { return GetValue<CBigInteger>(ItemType_integer); }
 
 } // namespace KzXmlLib10

@@ -9,6 +9,7 @@
 
 #include <cmath>
 #include <typeinfo>
+#include <utility>
 
 using namespace KzXmlLib10;
 
@@ -55,6 +56,19 @@ TEST(FacetChecks, BoundsOfEachKind) {
          u"Invalid Value for name [100]"},
         {ItemType_r4, u"0.5", u"1.5", u"2.5", u"Invalid Value for name [0.500000]"},
         {ItemType_r8, u"-INF", u"-1e300", u"INF", u"Invalid Value for name [-inf]"},
+        {ItemType_decimal, u"-5.50", u"-5.4", u"0.1", u"Invalid Value for name [-5.5]"},
+        {ItemType_integer, u"-100000000000000000000", u"-99", u"100",
+         u"Invalid Value for name [-100000000000000000000]"},
+        {ItemType_year, u"1999", u"2000", u"-9999", u"Invalid Value for name [1999]"},
+        {ItemType_month, u"--05", u"--10", u"--12", u"Invalid Value for name [5]"},
+        {ItemType_day, u"---05", u"---10", u"---31", u"Invalid Value for name [5]"},
+        {ItemType_datetime, u"2001-05-01T00:00:00Z", u"2001-05-01T00:00:00.5Z", u"2001-05-01T02:00:00+01:00",
+         u"Invalid Value for name [2001-05-01T00:00:00Z]"},
+        {ItemType_date, u"2001-05-01", u"2001-05-02", u"2002-05-01", u"Invalid Value for name [2001-05-01]"},
+        {ItemType_time, u"00:00:00", u"00:00:01", u"12:00:00", u"Invalid Value for name [00:00:00]"},
+        {ItemType_yearMonth, u"2001-05", u"2002-05", u"2003-05", u"Invalid Value for name [2001-05]"},
+        {ItemType_monthDay, u"--05-01", u"--05-02", u"--05-31", u"Invalid Value for name [--05-01]"},
+        {ItemType_duration, u"P1D", u"P2D", u"P3D", u"Invalid Value for name [P1D]"},
     };
     for (const Row& row : rows) {
         EXPECT_EQ(Outcome(row.inside, row.type, Bounds(row.inside, row.inside)), u"passes");
@@ -69,6 +83,44 @@ TEST(FacetChecks, BoundsOfEachKind) {
     EXPECT_EQ(Outcome(u"4294967295", ItemType_ui4, Bounds(u"", u"1")), u"Invalid Value for name [-1]");
     EXPECT_EQ(Outcome(u"1e308", ItemType_r8, Bounds(u"", u"1")).size(), 309u + 32u);
     EXPECT_EQ(Outcome(u"6", ItemType_i4, Bounds(u"", u"", u" 5 ", u"")), u"passes");
+}
+
+TEST(FacetChecks, WhatIsIndeterminatePassesEveryBound) {
+    struct Row {
+        ItemType type;
+        const char16_t *value, *bound;
+    };
+    for (const auto& [type, value, bound] :
+         {Row{ItemType_date, u"2001-05-02Z", u"2001-05-02"}, Row{ItemType_yearMonth, u"-0001-05", u"0001-05"},
+          Row{ItemType_datetime, u"2000-01-01T12:00:00", u"2000-01-01T11:00:00Z"},
+          Row{ItemType_duration, u"P1M", u"P30D"}, Row{ItemType_date, u"2001-05-02", u"2001"}})
+        EXPECT_EQ(Outcome(value, type, Bounds(bound, bound, bound, bound)), u"passes");
+    // Deliberate: months do not count in the order of dates and durations.
+    EXPECT_EQ(Outcome(u"2001-06-15", ItemType_date, Bounds(u"2001-07-15", u"2001-05-15")), u"passes");
+    EXPECT_EQ(Outcome(u"P1M", ItemType_duration, Bounds(u"P2M", u"P2M")), u"passes");
+}
+
+TEST(FacetChecks, TheSignOfAZeroDoesNotCount) {
+    for (const ItemType type : {ItemType_integer, ItemType_decimal})
+        for (const char16_t* zero : {u"0", u"-0"}) {
+            EXPECT_EQ(Outcome(zero, type, Bounds(u"0", u"0")), u"passes");
+            EXPECT_EQ(Outcome(zero, type, Bounds(u"-0", u"-0")), u"passes");
+            EXPECT_EQ(Outcome(zero, type, Bounds(u"", u"", u"-0", u"")), u"Invalid Value for name [0]");
+            EXPECT_EQ(Outcome(zero, type, Bounds(u"", u"", u"", u"0")), u"Invalid Value for name [0]");
+        }
+    EXPECT_NO_THROW(CheckDecimal(u"name", CDecimal(u"-2") + CDecimal(u"-3"), Bounds(u"-5", u"-5")));
+    EXPECT_NO_THROW(CheckDecimal(u"name", CDecimal(5).GetNegative(), Bounds(u"-5", u"-5")));
+}
+
+TEST(FacetChecks, LengthsOfBinaryDataAreInBytes) {
+    for (const auto& [type, text] :
+         {std::pair(ItemType_hexBinary, u"0aff01"), std::pair(ItemType_base64Binary, u"Cv8B")}) {
+        EXPECT_EQ(Outcome(text, type, Lengths(3, 3, 3, u"(")), u"passes");
+        for (const auto& lengths : {Lengths(4, -1, -1), Lengths(-1, 2, -1), Lengths(-1, -1, 2)})
+            EXPECT_EQ(Outcome(text, type, lengths), u"Invalid Value for name [0AFF01]");
+    }
+    EXPECT_NO_THROW(CheckHexBinary(u"name", CBinaryData(), Lengths(0, 0, 0)));
+    EXPECT_THROW(CheckBase64Binary(u"name", CBinaryData(), Lengths(1, -1, -1)), CKzException);
 }
 
 TEST(FacetChecks, NaNFailsEveryBound) {

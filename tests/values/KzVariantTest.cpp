@@ -134,12 +134,32 @@ TEST(KzVariant, TextsGoInAndOutByKind) {
         {ItemType_char, u"char", u" x ", u"x"},
         {ItemType_string, u"string", u" a  b ", u"a b"},
         {ItemType_boolean, u"boolean", u"TRUE", u"true"},
+        {ItemType_hexBinary, u"hexBinary", u" 0aff ", u"0AFF"},
+        {ItemType_base64Binary, u"base64Binary", u"Cv 8=", u"Cv8="},
+        {ItemType_duration, u"duration", u" -P1Y15MT0.50S ", u"-P1Y15MT0.5S"},
+        {ItemType_yearMonth, u"yearMonth", u" -2001-05Z ", u"-2001-05Z"},
+        {ItemType_monthDay, u"monthDay", u"--02-29", u"--02-29"},
+        {ItemType_year, u"year", u" 0987 ", u"987"},
+        {ItemType_month, u"month", u"--05--", u"--05"},
+        {ItemType_day, u"day", u"---05", u"---05"},
+        {ItemType_date, u"date", u"2001-05-06+01:00", u"2001-05-06+01:00"},
+        {ItemType_datetime, u"datetime", u" 2001-05-06T07:08:09.100Z ", u"2001-05-06T07:08:09.1Z"},
+        {ItemType_time, u"time", u"00:00:00", u"00:00:00"},
+        {ItemType_decimal, u"decimal", u"-00.50", u"-0.5"},
+        {ItemType_integer, u"integer", u" -00123456789012345678901234567890 ",
+         u"-123456789012345678901234567890"},
     };
     KzVariant v;
     for (const Row& row : rows) {
         v.FromString(row.in, row.type, CWhitespaceUtils::WhitespaceRule_Collapse);
         EXPECT_EQ(v.GetTypeAsEnum(), row.type);
         EXPECT_EQ(v.GetType(), row.name);
+        EXPECT_EQ(v.ToString(nullptr), row.out);
+        KzVariant copy(v);
+        const KzVariant moved(std::move(v));
+        v = copy;
+        copy.SetNil();
+        EXPECT_EQ(moved.ToString(nullptr), row.out);
         EXPECT_EQ(v.ToString(nullptr), row.out);
     }
     v.SetYear(1);
@@ -153,12 +173,61 @@ TEST(KzVariant, TextsGoInAndOutByKind) {
     EXPECT_EQ(v.ToString(u"%.3f"), u"0.500");
     v.SetI4(5);
     EXPECT_EQ(v.ToString(u"%.3f"), u"5");
+    v.SetDecimal(CDecimal(u"2.345"));
+    EXPECT_EQ(v.ToString(u"2"), u"2.35");
+    EXPECT_EQ(v.ToString(u""), u"2.345");
+}
+
+TEST(KzVariant, GettersOfOneClassAreOneOperation) {
+    const CDateTime date(2001, 5, 6);
+    KzVariant v;
+    using Set = void (KzVariant::*)(CDateTime);
+    for (const Set set : {&KzVariant::SetYearMonth, &KzVariant::SetMonthDay, &KzVariant::SetDate,
+                          &KzVariant::SetDateTime, &KzVariant::SetTime}) {
+        (v.*set)(date);
+        for (const CDateTime& got :
+             {v.GetYearMonth(), v.GetMonthDay(), v.GetDate(), v.GetDateTime(), v.GetTime()})
+            EXPECT_EQ(got, date);
+        // The value decides on the text, not the kind of the variant.
+        EXPECT_EQ(v.ToString(u""), u"2001-05-06");
+        EXPECT_THROW(v.GetDuration(), CKzInvalidStateException);
+    }
+    v.SetDecimal(1);
+    EXPECT_EQ(v.GetDecimal(), CDecimal(1));
+    EXPECT_THROW(v.GetInteger(), CKzInvalidStateException);
+    v.SetInteger(1);
+    EXPECT_EQ(v.GetInteger(), CBigInteger(1));
+    EXPECT_THROW(v.GetDecimal(), CKzInvalidStateException);
+    v.SetDuration(CDateTimeSpan(1, 0, 0));
+    EXPECT_EQ(v.GetDuration().GetHours(), 1u);
+    EXPECT_THROW(v.GetString(), CKzInvalidStateException);
+    v.SetNil();
+    EXPECT_THROW(v.GetDuration(), CKzInvalidStateException);
+    EXPECT_THROW(v.ToString(u""), CKzInvalidStateException);
+}
+
+TEST(KzVariant, BinaryDataSharesItsBytes) {
+    CBinaryData source;
+    source.SetAsHexString(u"0102");
+    const unsigned char* bytes = source.GetData();
+    KzVariant first;
+    first.SetHexBinary(source);
+    KzVariant second(first);
+    EXPECT_EQ(second.GetBase64Binary().GetData(), bytes);
+    source.Append(static_cast<unsigned char>(3));
+    first.Clear();
+    EXPECT_EQ(second.GetHexBinary().GetData(), bytes);
+    EXPECT_EQ(second.ToString(u""), u"0102");
+    second.SetBase64Binary(CBinaryData());
+    EXPECT_EQ(second.ToString(u""), u"");
 }
 
 TEST(KzVariant, FailedConversionLeavesTheOldValue) {
     constexpr auto rule = CWhitespaceUtils::WhitespaceRule_None;
     KzVariant v = TextVariant(u"text");
     EXPECT_THROW(v.FromString(u"x", ItemType_i4, rule), CKzInvalidValueException);
+    EXPECT_THROW(v.FromString(u"0", ItemType_hexBinary, rule), CKzException);
+    EXPECT_THROW(v.FromString(u"2001-02-30", ItemType_date, rule), CKzInvalidValueException);
     EXPECT_EQ(v.GetString(), u"text");
     // The number is that of the kind held, not of the one asked for.
     v.SetI4(7);

@@ -2,6 +2,11 @@
 
 #include <KzXmlLib10/conversions/CWhitespaceUtils.h>
 #include <KzXmlLib10/object/Export.h>
+#include <KzXmlLib10/values/CBigInteger.h>
+#include <KzXmlLib10/values/CBinaryData.h>
+#include <KzXmlLib10/values/CDateTime.h>
+#include <KzXmlLib10/values/CDateTimeSpan.h>
+#include <KzXmlLib10/values/CDecimal.h>
 
 #include <cstdint>
 #include <string>
@@ -76,6 +81,50 @@ public:
     static std::u16string yearToString(std::uint16_t value);
     static std::u16string monthToString(std::uint8_t value);
     static std::u16string dayToString(std::uint8_t value);
+
+    /// The field of a date that ParseXSDDate reads. A form without the field throws
+    /// CKzInvalidStateException.
+    ///
+    /// Deliberate: any form that has the field is accepted; a negative year wraps to 16 bits.
+    static std::uint16_t yearFromString(const std::u16string& text, WhitespaceRule rule);
+    static std::uint8_t monthFromString(const std::u16string& text, WhitespaceRule rule);
+    static std::uint8_t dayFromString(const std::u16string& text, WhitespaceRule rule);
+
+    // The kinds below are read and written by the classes that hold them, whose exceptions pass through.
+
+    /// Upper-case hexadecimal; read in either case. A bad text throws CKzException.
+    static std::u16string hexBinaryToString(const CBinaryData& value);
+    static CBinaryData hexBinaryFromString(const std::u16string& text, WhitespaceRule rule);
+    /// Base64 on one line. A bad text gives no bytes, and no failure.
+    static std::u16string base64BinaryToString(const CBinaryData& value);
+    static CBinaryData base64BinaryFromString(const std::u16string& text, WhitespaceRule rule);
+
+    static std::u16string integerToString(const CBigInteger& value);
+    static CBigInteger integerFromString(const std::u16string& text, WhitespaceRule rule);
+
+    /// The shortest exact text.
+    static std::u16string decimalToString(const CDecimal& value);
+    /// Rounded to as many decimal places as the digits of `format` say. An empty format means the shortest
+    /// exact text; no digits, or a minus sign, mean 0.
+    static std::u16string decimalToString(const CDecimal& value, const std::u16string& format);
+    static CDecimal decimalFromString(const std::u16string& text, WhitespaceRule rule);
+
+    static std::u16string durationToString(const CDateTimeSpan& value);
+    static CDateTimeSpan durationFromString(const std::u16string& text, WhitespaceRule rule);
+
+    /// Deliberate: all five write the form of the value's own kind.
+    static std::u16string datetimeToString(const CDateTime& value);
+    static std::u16string dateToString(const CDateTime& value);
+    static std::u16string timeToString(const CDateTime& value);
+    static std::u16string yearMonthToString(const CDateTime& value);
+    static std::u16string monthDayToString(const CDateTime& value);
+    static CDateTime datetimeFromString(const std::u16string& text, WhitespaceRule rule);
+    static CDateTime timeFromString(const std::u16string& text, WhitespaceRule rule);
+    /// Deliberate: any form of ParseXSDDate is accepted and decides on the kind of the value, so a date may
+    /// turn out to be a year.
+    static CDateTime dateFromString(const std::u16string& text, WhitespaceRule rule);
+    static CDateTime yearMonthFromString(const std::u16string& text, WhitespaceRule rule);
+    static CDateTime monthDayFromString(const std::u16string& text, WhitespaceRule rule);
 };
 
 } // namespace KzXmlLib10

@@ -5,6 +5,11 @@
 #include <KzXmlLib10/object/Export.h>
 #include <KzXmlLib10/object/Fwd.h>
 #include <KzXmlLib10/object/ItemType.h>
+#include <KzXmlLib10/values/CBigInteger.h>
+#include <KzXmlLib10/values/CBinaryData.h>
+#include <KzXmlLib10/values/CDateTime.h>
+#include <KzXmlLib10/values/CDateTimeSpan.h>
+#include <KzXmlLib10/values/CDecimal.h>
 
 #include <cstdint>
 #include <string>
@@ -18,12 +23,13 @@ namespace KzXmlLib10 {
 ///     value.GetI4();       // 7
 ///     value.ToString(u""); // u"7"
 ///
-/// A plain record with typed setters and getters. It owns its payload: a text is a copy of its own, an object
-/// is the caller's with one reference added. A variant belongs to one thread at a time.
+/// A plain record with typed setters and getters. It owns its payload: a text or value is a copy of its own
+/// (binary data shares its bytes until one side changes them), an object is the caller's with one reference
+/// added. A variant belongs to one thread at a time.
 ///
 /// Getters of scalars trust the caller: they read the low bits of the cell, whatever the kind, so that kinds
 /// of one width share their value. Getters of payloads throw CKzInvalidStateException if the variant holds no
-/// payload of their kind.
+/// payload of their class; those of one class are one operation.
 ///
 /// Deliberate: setters leave the nil flag alone. It goes with the next Clear that finds a kind set, so it
 /// survives SetNil followed by a setter on a variant that was empty.
@@ -34,7 +40,7 @@ public:
     KzVariant(KzVariant&& other) noexcept;
     virtual ~KzVariant();
 
-    /// Takes a deep copy of a text, one more reference of an object. A nil brings its kind and no payload.
+    /// Copies a text or value, adds one reference to an object. A nil brings its kind and no payload.
     /// Throws CKzException if the kind of `other` is none of ItemType.
     ///
     /// Deliberate: a variant assigned to itself is empty afterwards.
@@ -57,13 +63,14 @@ public:
     /// for the object kinds.
     std::u16string GetType() const;
 
-    /// The value as XML text. `format` is a printf format with one floating-point conversion, heeded by r4
-    /// and r8 alone; null and empty mean the usual text. The nil flag is not looked at: a nil text has no
-    /// payload and throws. Throws CKzException for a kind without a text.
+    /// The value as XML text. `format` is heeded by three kinds: r4 and r8 take a printf format with one
+    /// floating-point conversion, a decimal the number of its places; null and empty mean the usual text.
+    /// Dates and times are written in the form of their own DTType. The nil flag is not looked at: a nil of a
+    /// kind with a payload has none and throws. Throws CKzException for a kind without a text.
     std::u16string ToString(const char16_t* format) const;
-    /// Takes the value of an XML text of the given kind under the given rule. Throws
-    /// CKzInvalidValueException for a text of another form, CKzException for a kind that cannot come from
-    /// text; the variant is unchanged then.
+    /// Takes the value of an XML text of the given kind under the given rule. Throws what the conversion of
+    /// the kind throws for a text of another form, CKzException for a kind that cannot come from text; the
+    /// variant is unchanged then.
     void FromString(const std::u16string& text, ItemType type, CWhitespaceUtils::WhitespaceRule rule);
 
     void SetI1(std::int8_t value);
@@ -104,6 +111,34 @@ public:
     /// The text itself, valid until the variant changes.
     const std::u16string& GetStringRef() const;
 
+    // Setters move the value in; getters copy it.
+
+    void SetHexBinary(CBinaryData value);
+    void SetBase64Binary(CBinaryData value);
+    void SetDuration(CDateTimeSpan value);
+    /// The kind of the variant and the DTType of the value need not agree.
+    void SetYearMonth(CDateTime value);
+    void SetMonthDay(CDateTime value);
+    void SetDate(CDateTime value);
+    void SetDateTime(CDateTime value);
+    void SetTime(CDateTime value);
+    void SetDecimal(CDecimal value);
+    void SetInteger(CBigInteger value);
+
+    CBinaryData GetHexBinary() const;
+    CBinaryData GetBase64Binary() const;
+    CDateTimeSpan GetDuration() const;
+    CDateTime GetYearMonth() const;
+    CDateTime GetMonthDay() const;
+    CDateTime GetDate() const;
+    CDateTime GetDateTime() const;
+    CDateTime GetTime() const;
+    CDecimal GetDecimal() const;
+    CBigInteger GetInteger() const;
+    /// The numbers themselves, valid until the variant changes.
+    const CDecimal& GetDecimalRef() const;
+    const CBigInteger& GetIntegerRef() const;
+
     /// Adds a reference to the object, which may be null.
     void SetXmlObject(CXmlObjectBase* object);
     CSmartPtr<CXmlObjectBase> GetXmlObject() const;
@@ -124,8 +159,11 @@ public:
 
 private:
     void SetBits(ItemType type, std::uint64_t bits);
+    template <class T>
+    void SetValue(ItemType type, T value);
+    template <class T>
+    const T& GetValue(ItemType type) const;
     void SetCounted(ItemType type, CXmlObjectBase* object);
-    void* GetPayload(ItemType type) const;
 };
 
 } // namespace KzXmlLib10
