@@ -358,14 +358,9 @@ void CFastInfosetWriter::WriteIntegerBit4(std::uint32_t value) {
 }
 
 void CFastInfosetWriter::WriteInteger(const IntegerRule& rule, unsigned char bits, std::uint64_t value) {
-    const Band& band = rule.BandOf(value);
-    const std::uint64_t distance = (value - band.writtenFrom) & band.Mask();
-    unsigned shift = 8u * band.followingBytes;
-    WriteByte(static_cast<Byte>(bits | band.mark | distance >> shift));
-    while (shift > 0) {
-        shift -= 8;
-        WriteByte(static_cast<Byte>(distance >> shift));
-    }
+    Byte octets[IntegerRule::MaxOctets];
+    const unsigned count = rule.Encode(value, bits, octets);
+    m_stream->m_data.Append(octets, count);
 }
 
 void CFastInfosetWriter::WriteByte(unsigned char byte) { m_stream->m_data.Append(byte); }

@@ -27,20 +27,36 @@ struct Band {
 };
 
 struct IntegerRule {
+    static constexpr unsigned MaxOctets = 5;
+
     std::span<const Band> bands;
     Byte mask;               ///< the bits of the first byte that belong to the rule
     const char16_t* failure; ///< what a reader says of a pattern that has no band
 
-    /// The form of an integer of at least 1.
-    constexpr const Band& BandOf(std::uint64_t value) const {
-        return *std::prev(std::ranges::upper_bound(bands, value, {}, &Band::first));
+    /// Writes an integer of at least 1 behind leading bits of the first byte. Returns the number of bytes.
+    constexpr unsigned Encode(std::uint64_t value, Byte leadingBits, Byte (&octets)[MaxOctets]) const {
+        const Band& band = *std::prev(std::ranges::upper_bound(bands, value, {}, &Band::first));
+        const std::uint64_t distance = (value - band.writtenFrom) & band.Mask();
+        unsigned shift = 8u * band.followingBytes;
+        octets[0] = static_cast<Byte>(leadingBits | band.mark | distance >> shift);
+        for (unsigned i = 1; shift > 0; ++i)
+            octets[i] = static_cast<Byte>(distance >> (shift -= 8));
+        return 1u + band.followingBytes;
     }
 
     /// The band that a first byte announces, or null.
-    constexpr const Band* AnnouncedBy(Byte byte) const {
-        const Byte pattern = byte & mask;
+    constexpr const Band* AnnouncedBy(Byte first) const {
+        const Byte pattern = first & mask;
         const Band& band = *std::prev(std::ranges::upper_bound(bands, pattern, {}, &Band::mark));
         return (pattern - band.mark) >> band.FreeBits() == 0 ? &band : nullptr;
+    }
+
+    /// The integer that a first byte and those that follow it make in their band.
+    constexpr std::uint64_t Decode(const Band& band, Byte first, std::span<const Byte> following) const {
+        std::uint64_t distance = (first & mask) - band.mark;
+        for (const Byte byte : following)
+            distance = distance << 8 | byte;
+        return (distance & band.Mask()) + band.first;
     }
 };
 

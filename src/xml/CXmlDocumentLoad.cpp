@@ -2,12 +2,14 @@
 
 #include <KzXmlLib10/xml/CXmlDocument.h>
 
+#include "fastinfoset/CFastInfosetReader.h"
 #include "object/NotNull.h"
 #include "object/Throw.h"
 #include "xml/AsyncFiles.h"
 #include "xml/CExpatReader.h"
 #include "xml/Messages.h"
 
+#include <KzXmlLib10/object/CXmlSerializationContext.h>
 #include <KzXmlLib10/xml/AsyncFiles.h>
 #include <KzXmlLib10/xml/Compression.h>
 
@@ -79,7 +81,11 @@ void CXmlDocument::LoadWhole(const std::u16string& fileName) {
 /// Reads the form that the buffer turns out to have; text is what is nothing else.
 void CXmlDocument::Parse() {
     DecompressBuffer();
-    ParseText();
+    CFastInfosetReader reader(&m_context->GetFIContext(), this);
+    if (!reader.IsFastInfoset())
+        return ParseText();
+    reader.ReadHeader();
+    reader.ParseDocument();
 }
 
 /// Replaces the buffer by its content if it is a complete gzip or zlib stream.

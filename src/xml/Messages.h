@@ -11,6 +11,8 @@ inline constexpr char16_t InputTooLarge[] =
     u"The XML input has %I64u bytes; the parser takes at most 4294967295";
 inline constexpr char16_t ParserCharactersDiffer[] = u"The expat library at hand has no 16-bit characters";
 inline constexpr char16_t XmlStreamIsEmpty[] = u"XML Stream is empty!";
+inline constexpr char16_t TreeTooLarge[] =
+    u"The names, values and texts of the document come to more than %I64u bytes";
 inline constexpr char16_t NoRootElement[] = u"Invalid or empty XML document";
 inline constexpr char16_t FileNotOpened[] = u"Failed to open the file [%s] Error [0x%08x]";
 inline constexpr char16_t FileSizeUnknown[] = u"Failed to get the size of the file [%s] Error [0x%08x]";

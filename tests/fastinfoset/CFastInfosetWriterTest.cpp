@@ -245,45 +245,6 @@ TEST(CFastInfosetWriter, ValuesWithoutBytesAreEmpty) {
     EXPECT_EQ(written(u"====", WithEncoding({ByAlgorithm, 2})), expected);
 }
 
-TEST(CFastInfosetWriter, LengthsAreThoseOfTheUtf8Form) {
-    const auto rest = [](const std::string& document, std::size_t length) {
-        return document.substr(0, document.size() - 2 * length - 2);
-    };
-    const auto name = [&](std::size_t length) {
-        return rest(Hex(FastInfosetOf([=](CXmlWriter& writer) {
-                        writer.StartElement(std::u16string(length, u'n'), u"");
-                        writer.EndElement();
-                    })),
-                    length);
-    };
-    const std::string head = "E00000010038F03C";
-    EXPECT_EQ(name(64), head + "3F");
-    EXPECT_EQ(name(65), head + "4000");
-    EXPECT_EQ(name(320), head + "40FF");
-    EXPECT_EQ(name(321), head + "6000000000");
-    EXPECT_EQ(name(321 + 0x10203), head + "6000010203");
-
-    const auto value = [&](std::size_t length) {
-        return rest(
-            Inside([=](CXmlWriter& writer) { Attribute(writer, u"b", std::u16string(length, u'v')); }),
-            length + 1);
-    };
-    const std::string attribute = Root("78 00 'b'", "78 F0");
-    EXPECT_EQ(value(8), attribute + "07");
-    EXPECT_EQ(value(9), attribute + "0800");
-    EXPECT_EQ(value(264), attribute + "08FF");
-    EXPECT_EQ(value(265), attribute + "0C00000000");
-
-    const auto chunk = [&](std::size_t length) {
-        return rest(Inside([=](CXmlWriter& writer) { Text(writer, std::u16string(length / 2, u'\u00E9')); }),
-                    length);
-    };
-    EXPECT_EQ(chunk(2), Root("91"));
-    EXPECT_EQ(chunk(4), Root("9201"));
-    EXPECT_EQ(chunk(258), Root("82FF"));
-    EXPECT_EQ(chunk(260), Root("8300000001"));
-}
-
 TEST(CFastInfosetWriter, RefersToAVocabularyThatBothEndsKnow) {
     CXmlSerializationContext context;
     CFIVocabulary& vocabulary = context.GetFIContext().GetVocabulary();
@@ -313,42 +274,6 @@ TEST(CFastInfosetWriter, RefersToAVocabularyThatBothEndsKnow) {
     EXPECT_EQ(written(), expected); // what the first document added is forgotten
     context.GetFIContext().SetExternalVocabularyURI(u"urn:v");
     EXPECT_EQ(written(), Hex(Bytes("E0 00 00 01  20 10 00  04 'urn:v'" + body)));
-}
-
-TEST(CFastInfosetWriter, IndicesOfEachSize) {
-    CXmlSerializationContext context;
-    CFIVocabulary& vocabulary = context.GetFIContext().GetVocabulary();
-    const auto name = [](int i) {
-        const std::string digits = std::to_string(i);
-        return std::u16string(digits.begin(), digits.end());
-    };
-    for (int i = 1; i <= 8257; ++i) {
-        vocabulary.AddElement(u"", u"", name(i));
-        vocabulary.AddAttribute(u"", u"", name(i));
-        vocabulary.AddElementValue(name(i));
-    }
-    context.GetFIContext().SetUseGeneratedVocabulary(true);
-    context.GetFIContext().SetExternalVocabularyURI(u"v");
-    const std::string written = Hex(FastInfosetOf(
-        [&](CXmlWriter& writer) {
-            writer.StartElement(name(1), u"");
-            for (const int i : {64, 65, 8256, 8257})
-                Attribute(writer, name(i), u"");
-            for (const int i : {32, 33, 2080, 2081}) {
-                writer.StartElement(name(i), u"");
-                writer.EndElement();
-            }
-            writer.StartElement(name(2), u"");
-            for (const int i : {16, 17, 1040, 1041})
-                Text(writer, name(i));
-            writer.EndElement();
-            writer.EndElement();
-        },
-        context));
-    EXPECT_EQ(written, Hex(Bytes("E0 00 00 01 20 10 00 00 'v' 78 F0 00"
-                                 "3F FF  4000 FF  5FFF FF  600000 FF F0"
-                                 "1F F0  2000 F0  27FF F0  280000 F0"
-                                 "01  AF  B000  B3FF  B40000  FF F0")));
 }
 
 TEST(CFastInfosetWriter, DeclarationsStandInFront) {

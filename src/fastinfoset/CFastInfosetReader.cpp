@@ -1,0 +1,435 @@
+#include "fastinfoset/CFastInfosetReader.h"
+
+#include "fastinfoset/Algorithms.h"
+#include "fastinfoset/Declarations.h"
+#include "fastinfoset/Messages.h"
+#include "fastinfoset/RestrictedAlphabet.h"
+#include "object/Throw.h"
+#include "object/Utf8.h"
+
+#include <KzXmlLib10/fastinfoset/CFastInfosetBinaryData.h>
+#include <KzXmlLib10/fastinfoset/CFastInfosetContext.h>
+#include <KzXmlLib10/xml/CXmlDocument.h>
+#include <KzXmlLib10/xml/CXmlElement.h>
+
+#include <algorithm>
+#include <cstddef>
+#include <iterator>
+
+namespace KzXmlLib10 {
+
+using namespace fastinfoset;
+
+namespace {
+
+/// The entry of a table with an index from a document.
+template <class T>
+const T& EntryAt(const std::vector<T>& values, std::uint64_t index) {
+    if (index == 0 || index > values.size())
+        Throw<CKzException>(messages::NoSuchIndex, static_cast<unsigned long long>(index));
+    return values[index - 1];
+}
+
+std::string_view AsText(std::span<const Byte> octets) {
+    return {reinterpret_cast<const char*>(octets.data()), octets.size()};
+}
+
+/// Deliberate: malformed UTF-8 ends the text.
+void DecodeUtf8(std::span<const Byte> octets, std::u16string& text) {
+    text.clear();
+    AppendUtf16(text, AsText(octets));
+}
+
+bool IsElement(Byte item) { return (item & ElementMask) == 0; }
+
+bool IsOneOf(Byte byte, Byte markWithParts) { return (byte & ~PartsMask) == markWithParts; }
+
+} // namespace
+
+CFastInfosetReader::CFastInfosetReader(const CFastInfosetContext* context, CXmlDocument* document)
+    : CInstanceMonitor(u"CFastInfosetReader"), m_fiContext(context), m_document(document),
+      m_next(document->m_buffer.get()), m_end(m_next + document->m_bufferSize),
+      m_budget(document->m_bufferSize) {}
+
+CFastInfosetReader::~CFastInfosetReader() = default;
+
+bool CFastInfosetReader::IsFastInfoset() {
+    if (SkipIdentification())
+        return true;
+    const std::string_view buffer = AsText({m_next, m_end});
+    for (const std::string_view declaration : std::span(declarations).subspan<1>()) {
+        if (!buffer.starts_with(declaration))
+            continue;
+        m_next += declaration.size();
+        return SkipIdentification();
+    }
+    return false;
+}
+
+/// The identification is taken for one only where something follows it.
+bool CFastInfosetReader::SkipIdentification() {
+    if (static_cast<std::size_t>(m_end - m_next) <= std::size(identification) ||
+        !std::ranges::equal(identification, std::span(m_next, std::size(identification))))
+        return false;
+    m_next += std::size(identification);
+    return true;
+}
+
+void CFastInfosetReader::ReadHeader() {
+    m_vocabulary.reset(m_fiContext->GetUseGeneratedVocabulary()
+                           ? new CFIVocabulary(m_fiContext->GetVocabulary())
+                           : new CFIVocabulary);
+    const Byte components = ReadByte();
+    if (components & AdditionalData)
+        SkipAdditionalData();
+    if (components & InitialVocabulary)
+        SkipInitialVocabulary();
+    if (components & Notations)
+        SkipNotations();
+    if (components & UnparsedEntities)
+        SkipUnparsedEntities();
+    if (components & CharacterEncodingScheme)
+        SkipOctets();
+    if (components & Standalone)
+        ReadByte();
+    if (components & Version)
+        SkipNonIdentifyingString();
+}
+
+/// Each item is a URI and its data.
+void CFastInfosetReader::SkipAdditionalData() {
+    for (std::uint64_t left = ReadInteger(sequenceLength, ReadByte()); left > 0; --left) {
+        SkipOctets();
+        SkipOctets();
+    }
+}
+
+void CFastInfosetReader::SkipInitialVocabulary() {
+    unsigned components = ReadByte();
+    components = components << 8 | ReadByte();
+    if (components & ExternalVocabulary)
+        SkipOctets();
+    for (unsigned table = ExternalVocabulary >> 1; table > 0; table >>= 1) {
+        if (!(components & table))
+            continue;
+        for (std::uint64_t left = ReadInteger(sequenceLength, ReadByte()); left > 0; --left) {
+            if (table & OctetStringTables)
+                SkipOctets();
+            else if (table & ValueTables)
+                SkipEncodedString(ReadByte());
+            else
+                SkipNameSurrogate();
+        }
+    }
+}
+
+void CFastInfosetReader::SkipNameSurrogate() {
+    const Byte parts = ReadByte();
+    if (parts & HasPrefix)
+        ReadInteger(integerBit2, ReadByte());
+    if (parts & HasNamespace)
+        ReadInteger(integerBit2, ReadByte());
+    ReadInteger(integerBit2, ReadByte());
+}
+
+void CFastInfosetReader::SkipNotations() {
+    Byte item = ReadByte();
+    for (; IsOneOf(item, Notation); item = ReadByte()) {
+        SkipIdentifyingString();
+        SkipExternalIdentifier(item);
+    }
+    RequireEnd(item);
+}
+
+/// Each has a name, a system identifier, perhaps a public one, and the name of a notation.
+void CFastInfosetReader::SkipUnparsedEntities() {
+    Byte item = ReadByte();
+    for (; (item & ~HasPublicIdentifier) == UnparsedEntity; item = ReadByte()) {
+        SkipIdentifyingString();
+        SkipIdentifyingString();
+        SkipExternalIdentifier(item & HasPublicIdentifier);
+        SkipIdentifyingString();
+    }
+    RequireEnd(item);
+}
+
+void CFastInfosetReader::RequireEnd(Byte byte) {
+    if (byte != End)
+        Throw<CKzException>(messages::ListNotEnded);
+}
+
+void CFastInfosetReader::ParseDocument() {
+    for (;;) {
+        const Byte item = ReadByte();
+        if (IsElement(item)) {
+            ParseElement(item);
+            while (!m_document->m_elementStack.empty())
+                ParseItem(ReadByte());
+            return;
+        }
+        if (item == End || item == DoubleEnd)
+            return;
+        if (item == ProcessingInstruction)
+            SkipProcessingInstruction();
+        else if (item == Comment)
+            SkipNonIdentifyingString();
+        else if (IsOneOf(item, DocumentType))
+            SkipDocumentType(item);
+        // Deliberate: any other item is passed over.
+    }
+}
+
+/// The instructions of a document type and its end belong to it; where they are missing, what follows is the
+/// next item of the document.
+void CFastInfosetReader::SkipDocumentType(Byte first) {
+    SkipExternalIdentifier(first);
+    while (m_next != m_end && *m_next == ProcessingInstruction) {
+        ++m_next;
+        SkipProcessingInstruction();
+    }
+    if (m_next != m_end && *m_next == End)
+        ++m_next;
+}
+
+/// Reads the start of an element and its attributes. It stays open unless it ends together with them.
+void CFastInfosetReader::ParseElement(Byte first) {
+    const bool hasAttributes = (first & HasAttributes) != 0;
+    if ((first & ElementNameMask) == NamespaceAttributesFollow)
+        first = ParseNamespaceAttributes();
+    ParseName(first, LiteralElementName, ElementNameMask, integerBit3, m_vocabulary->m_elementNames);
+    m_budget.Charge(m_namespaceName.size() + m_localName.size());
+    if (m_document->m_documentElement)
+        m_document->AddChildElement(m_namespaceName, m_localName);
+    else
+        m_document->AddDocElement(m_namespaceName, m_localName);
+    if (hasAttributes && ParseAttributes())
+        PopElement();
+}
+
+/// Reads one item of the content of the innermost element.
+void CFastInfosetReader::ParseItem(Byte item) {
+    if (IsElement(item))
+        return ParseElement(item);
+    if ((item & CharacterChunkMask) == CharacterChunk)
+        return ParseCharacterChunk(item);
+    if (IsOneOf(item, UnexpandedEntity)) {
+        SkipIdentifyingString();
+        return SkipExternalIdentifier(item);
+    }
+    switch (item) {
+    case End:
+        return PopElement();
+    case DoubleEnd:
+        PopElement();
+        if (!m_document->m_elementStack.empty())
+            PopElement();
+        return;
+    case ProcessingInstruction:
+        return SkipProcessingInstruction();
+    case Comment:
+        return SkipNonIdentifyingString();
+    default:
+        Throw<CKzException>(messages::InvalidItem);
+    }
+}
+
+void CFastInfosetReader::PopElement() {
+    m_document->m_elementStack.pop_back();
+    m_document->m_previousSiblings.pop_back();
+}
+
+/// Returns the byte behind the list, with which the name of the element starts.
+Byte CFastInfosetReader::ParseNamespaceAttributes() {
+    for (Byte item = ReadByte(); IsOneOf(item, NamespaceAttribute); item = ReadByte())
+        ParseNamespaceAttribute(item);
+    return ReadByte();
+}
+
+void CFastInfosetReader::ParseNamespaceAttribute(Byte first) {
+    m_prefix.clear();
+    m_namespaceName.clear();
+    if (first & HasPrefix)
+        ParseIdentifyingString(m_vocabulary->m_prefixNames, m_prefix);
+    if (first & HasNamespace)
+        ParseIdentifyingString(m_vocabulary->m_namespaceNames, m_namespaceName);
+    m_budget.Charge(m_prefix.size() + m_namespaceName.size());
+    m_document->m_namespaceAliases[m_prefix] = m_namespaceName;
+}
+
+/// True if the end of the attributes is that of the element as well.
+bool CFastInfosetReader::ParseAttributes() {
+    Byte item = ReadByte();
+    for (; (item & StringIndex) == 0; item = ReadByte())
+        ParseAttribute(item);
+    return item == DoubleEnd;
+}
+
+void CFastInfosetReader::ParseAttribute(Byte first) {
+    ParseName(first, LiteralAttributeName, AttributeNameMask, integerBit2, m_vocabulary->m_attributeNames);
+    const std::u16string_view value = ParseNonIdentifyingString();
+    m_budget.Charge(m_namespaceName.size() + m_localName.size() + value.size());
+    m_document->AddElementAttribute(m_document->m_elementStack.back(), m_localName, value, m_namespaceName);
+}
+
+void CFastInfosetReader::ParseCharacterChunk(Byte first) {
+    std::u16string_view text;
+    if (first & CharacterChunkIndex) {
+        text = EntryAt(m_vocabulary->m_characterChunks.m_values, ReadInteger(integerBit4, first));
+    } else {
+        ParseEncodedString(characterChunkForm, first);
+        if (first & AddChunkToTable)
+            CFIVocabulary::AddValueToVector(m_value, m_vocabulary->m_characterChunks.m_values);
+        text = m_value;
+    }
+    m_budget.Charge(text.size());
+    m_document->AppendTextExcludingCR(m_document->m_elementStack.back(), text.data(), text.size());
+}
+
+/// Reads a qualified name, an index or a literal, into the current one.
+void CFastInfosetReader::ParseName(Byte first, Byte literal, Byte mask, const IntegerRule& rule,
+                                   CFIVocabulary::CFIQNameTable& table) {
+    if ((first & mask) == literal)
+        return ParseQName(first, table);
+    const CFIVocabulary::CQNameParts& parts = EntryAt(table.m_values, ReadInteger(rule, first));
+    if (parts.m_namespaceName == 0)
+        m_namespaceName.clear();
+    else
+        m_namespaceName = EntryAt(m_vocabulary->m_namespaceNames.m_values, parts.m_namespaceName);
+    m_localName = EntryAt(m_vocabulary->m_localNames.m_values, parts.m_localName);
+}
+
+void CFastInfosetReader::ParseQName(Byte first, CFIVocabulary::CFIQNameTable& table) {
+    if ((first & PartsMask) == HasPrefix)
+        Throw<CKzException>(messages::PrefixWithoutNamespace);
+    std::uint32_t prefix = 0;
+    std::uint32_t namespaceName = 0;
+    m_namespaceName.clear();
+    if (first & HasPrefix)
+        prefix = ParseIdentifyingString(m_vocabulary->m_prefixNames, m_prefix);
+    if (first & HasNamespace)
+        namespaceName = ParseIdentifyingString(m_vocabulary->m_namespaceNames, m_namespaceName);
+    const std::uint32_t localName = ParseIdentifyingString(m_vocabulary->m_localNames, m_localName);
+    CFIVocabulary::AddQNameToVector(prefix, namespaceName, localName, table.m_values);
+}
+
+/// Reads an index into a table or a literal, which is entered there. Returns its index.
+///
+/// Deliberate: once the table is full a literal goes by the index of its last entry.
+std::uint32_t CFastInfosetReader::ParseIdentifyingString(CFIVocabulary::CFIStringTable& table,
+                                                         std::u16string& text) {
+    const Byte first = ReadByte();
+    if (first & StringIndex) {
+        const std::uint64_t index = ReadInteger(integerBit2, first);
+        text = EntryAt(table.m_values, index);
+        return static_cast<std::uint32_t>(index);
+    }
+    DecodeUtf8(ReadBytes(ReadInteger(octetsBit2, first)), text);
+    text.resize(std::min(text.find(u'\0'), text.size())); // Deliberate: names end at a zero.
+    CFIVocabulary::AddValueToVector(text, table.m_values);
+    return static_cast<std::uint32_t>(table.m_values.size());
+}
+
+/// Reads the value of an attribute. The result is valid until the next string is read.
+std::u16string_view CFastInfosetReader::ParseNonIdentifyingString() {
+    const Byte first = ReadByte();
+    if (first == EmptyString)
+        return {};
+    std::vector<std::u16string>& values = m_vocabulary->m_attributeValues.m_values;
+    if (first & StringIndex)
+        return EntryAt(values, ReadInteger(integerFrom0Bit2, first));
+    ParseEncodedString(attributeValueForm, first);
+    if (first & AddToTable)
+        CFIVocabulary::AddValueToVector(m_value, values);
+    return m_value;
+}
+
+/// Reads a string in any of its kinds into the current value.
+void CFastInfosetReader::ParseEncodedString(const EncodedStringForm& form, Byte first) {
+    const unsigned kind = form.KindOf(first);
+    if (kind == KindUtf16BE)
+        Throw<CKzException>(messages::Utf16NotRead);
+    if (kind == KindUtf8)
+        return DecodeUtf8(ReadBytes(ReadInteger(form.length, first)), m_value);
+    const Byte second = ReadByte();
+    const unsigned number = form.NumberIn(first, second);
+    const std::span<const Byte> octets = ReadBytes(ReadInteger(form.length, second));
+    if (kind == KindRestrictedAlphabet)
+        ParseRestrictedAlphabet(number, octets);
+    else
+        ParseAlgorithm(number, octets);
+}
+
+void CFastInfosetReader::ParseRestrictedAlphabet(std::uint32_t number, std::span<const Byte> octets) {
+    const std::vector<std::u16string>& alphabets = m_vocabulary->m_alphabets;
+    if (number > alphabets.size())
+        Throw<CKzException>(messages::ReadAlphabetSize);
+    m_value = UnpackRestrictedAlphabetString(alphabets[number - 1], octets);
+}
+
+void CFastInfosetReader::ParseAlgorithm(std::uint32_t number, std::span<const Byte> octets) {
+    if (number == AlgorithmCdata)
+        return DecodeUtf8(octets, m_value);
+    CFastInfosetBinaryData data;
+    data.SetBuffer(octets.data(), octets.size());
+    m_value = data.GetAsString(number);
+}
+
+/// A target and its data.
+void CFastInfosetReader::SkipProcessingInstruction() {
+    SkipIdentifyingString();
+    SkipNonIdentifyingString();
+}
+
+void CFastInfosetReader::SkipExternalIdentifier(Byte parts) {
+    if (parts & HasSystemIdentifier)
+        SkipIdentifyingString();
+    if (parts & HasPublicIdentifier)
+        SkipIdentifyingString();
+}
+
+/// What is dropped may refer to tables that are not kept, so nothing is looked up.
+void CFastInfosetReader::SkipIdentifyingString() {
+    const Byte first = ReadByte();
+    if (first & StringIndex)
+        ReadInteger(integerBit2, first);
+    else
+        ReadBytes(ReadInteger(octetsBit2, first));
+}
+
+void CFastInfosetReader::SkipNonIdentifyingString() {
+    const Byte first = ReadByte();
+    if (first == EmptyString)
+        return;
+    if (first & StringIndex)
+        ReadInteger(integerFrom0Bit2, first);
+    else
+        SkipEncodedString(first);
+}
+
+void CFastInfosetReader::SkipEncodedString(Byte first) {
+    const unsigned kind = attributeValueForm.KindOf(first);
+    const bool isPlain = kind == KindUtf8 || kind == KindUtf16BE;
+    ReadBytes(ReadInteger(attributeValueForm.length, isPlain ? first : ReadByte()));
+}
+
+void CFastInfosetReader::SkipOctets() { ReadBytes(ReadInteger(octetsBit2, ReadByte())); }
+
+Byte CFastInfosetReader::ReadByte() { return ReadBytes(1).front(); }
+
+std::span<const Byte> CFastInfosetReader::ReadBytes(std::uint64_t count) {
+    if (count > static_cast<std::uint64_t>(m_end - m_next))
+        Throw<CKzException>(messages::UnexpectedEnd);
+    const std::span<const Byte> bytes(m_next, count);
+    m_next += count;
+    return bytes;
+}
+
+/// Reads an integer that starts in a byte read already.
+std::uint64_t CFastInfosetReader::ReadInteger(const IntegerRule& rule, Byte first) {
+    const Band* band = rule.AnnouncedBy(first);
+    if (!band)
+        throw CKzException(rule.failure);
+    return rule.Decode(*band, first, ReadBytes(band->followingBytes));
+}
+
+} // namespace KzXmlLib10
