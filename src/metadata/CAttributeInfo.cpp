@@ -1,6 +1,7 @@
 #include <KzXmlLib10/metadata/CAttributeInfo.h>
 
 #include "metadata/Messages.h"
+#include "object/NamespaceRestriction.h"
 #include "object/NotNull.h"
 
 #include <KzXmlLib10/conversions/FacetChecks.h>
@@ -27,6 +28,25 @@ void CAttributeInfo::AccessProperty(CXmlGeneratedClass* object, bool read, KzVar
 
 void CAttributeInfo::ReadProperty(const CXmlGeneratedClass* object, KzVariant& value) const {
     object->ReadProperty(m_propertyIndex, value);
+}
+
+void CAttributeInfo::ToXml_Int(const CXmlObjectBase* object, CXmlWriter* writer, bool isRoot,
+                               const char16_t* elementNamespace, const CXmlSerializationContext& context) {
+    object->ToXml_Int(writer, isRoot, elementNamespace, context, false);
+}
+
+std::u16string CAttributeInfo::GetTargetNamespace(const CXmlObjectBase* object) {
+    return object->GetTargetNamespace();
+}
+
+void CAttributeInfo::TestNamespace(const std::u16string& ns, const std::u16string& restriction,
+                                   const std::u16string& targetNamespace) {
+    KzXmlLib10::TestNamespace(ns, restriction, targetNamespace);
+}
+
+bool CAttributeInfo::IsNamespaceValid(const std::u16string& ns, const std::u16string& restriction,
+                                      const std::u16string& targetNamespace) {
+    return KzXmlLib10::IsNamespaceValid(ns, restriction, targetNamespace);
 }
 
 bool CAttributeInfo::IsThisAttribute(const CXmlSerializationContext& context, CXmlAttribute* attribute) {

@@ -1,8 +1,10 @@
 #include <KzXmlLib10/metadata/CElementInfoSeq.h>
 
+#include "metadata/Leaves.h"
 #include "metadata/Messages.h"
-#include "object/NotNull.h"
+#include "object/Throw.h"
 
+#include <KzXmlLib10/collections/CXmlCollectionBase.h>
 #include <KzXmlLib10/object/CXmlObjectBase.h>
 #include <KzXmlLib10/object/CXmlSerializationContext.h>
 #include <KzXmlLib10/xml/CXmlElement.h>
@@ -11,44 +13,12 @@ namespace KzXmlLib10Data {
 
 using namespace KzXmlLib10;
 
-CElementInfoSeq::CElementInfoSeq(const char16_t* name, const char16_t* namespaceUri, int propertyIndex)
-    : CElementInfo(name, namespaceUri, propertyIndex) {}
-CElementInfoSeq::CElementInfoSeq(const char16_t* name, const char16_t* namespaceUri, int propertyIndex,
-                                 bool nillable)
-    : CElementInfo(name, namespaceUri, propertyIndex, nillable) {}
-CElementInfoSeq::CElementInfoSeq(const char16_t* name, const char16_t* namespaceUri, int propertyIndex,
-                                 bool nillable, ItemType itemType, const char16_t* formatOverride,
-                                 CWhitespaceUtils::WhitespaceRule whitespaceRule,
-                                 const CPrimitiveRestrictions& restrictions)
-    : CElementInfo(name, namespaceUri, propertyIndex, nillable, itemType, formatOverride, whitespaceRule,
-                   restrictions) {}
-
-bool CElementInfoSeq::Validate(const CXmlSerializationContext&, const CXmlGeneratedClass*, bool, bool) const {
-    Throw<CKzException>(messages::ValidateNotImplemented);
-}
-
-CElementInfoSeqNonCol::CElementInfoSeqNonCol(const char16_t* name, const char16_t* namespaceUri,
-                                             int propertyIndex)
-    : CElementInfoSeq(name, namespaceUri, propertyIndex) {}
+QUILLON_VALIDATE(CElementInfoSeq) { Throw<CKzException>(messages::ValidateNotImplemented); }
 
 // Prim
 
-CElementInfoSeqPrimMnd::CElementInfoSeqPrimMnd(const char16_t* name, const char16_t* namespaceUri,
-                                               int propertyIndex, bool nillable, ItemType itemType,
-                                               const char16_t* formatOverride,
-                                               CWhitespaceUtils::WhitespaceRule whitespaceRule,
-                                               const CPrimitiveRestrictions& restrictions)
-    : CElementInfoSeq(name, namespaceUri, propertyIndex, nillable, itemType, formatOverride, whitespaceRule,
-                      restrictions) {}
-
-bool CElementInfoSeqPrimMnd::ElementToXml(const CXmlSerializationContext& context,
-                                          const CXmlGeneratedClass* object, CXmlWriter* writer) const {
-    return ElementToXmlPrim(context, object, writer);
-}
-
-bool CElementInfoSeqPrimMnd::ElementFromXml(const CXmlSerializationContext& context,
-                                            CXmlGeneratedClass* object, CXmlElement*, CXmlElement** current,
-                                            const char16_t*, XmlElementType ownerElementType) {
+QUILLON_TO_XML(CElementInfoSeqPrimMnd) { return ElementToXmlPrim(context, object, writer); }
+QUILLON_FROM_XML(CElementInfoSeqPrimMnd) {
     if (ownerElementType == XmlElementType_Element)
         return !SeekElement(context, current) || TakePrimitive(object, current);
     // What is skipped here stays skipped on a miss; the engine restores its own position.
@@ -61,89 +31,33 @@ bool CElementInfoSeqPrimMnd::ElementFromXml(const CXmlSerializationContext& cont
     return false;
 }
 
-CElementInfoSeqPrimOpt::CElementInfoSeqPrimOpt(const char16_t* name, const char16_t* namespaceUri,
-                                               int propertyIndex, bool nillable, ItemType itemType,
-                                               const char16_t* formatOverride,
-                                               CWhitespaceUtils::WhitespaceRule whitespaceRule,
-                                               const CPrimitiveRestrictions& restrictions)
-    : CElementInfoSeq(name, namespaceUri, propertyIndex, nillable, itemType, formatOverride, whitespaceRule,
-                      restrictions) {}
-
-bool CElementInfoSeqPrimOpt::ElementToXml(const CXmlSerializationContext& context,
-                                          const CXmlGeneratedClass* object, CXmlWriter* writer) const {
-    return ElementToXmlPrim(context, object, writer);
-}
-
-bool CElementInfoSeqPrimOpt::ElementFromXml(const CXmlSerializationContext& context,
-                                            CXmlGeneratedClass* object, CXmlElement*, CXmlElement** current,
-                                            const char16_t*, XmlElementType) {
+QUILLON_TO_XML(CElementInfoSeqPrimOpt) { return ElementToXmlPrim(context, object, writer); }
+QUILLON_FROM_XML(CElementInfoSeqPrimOpt) {
     return !IsThisElement(context, *current) || TakePrimitive(object, current);
 }
 
 // Enum
 
-CElementInfoSeqEnumMnd::CElementInfoSeqEnumMnd(const char16_t* name, const char16_t* namespaceUri,
-                                               int propertyIndex, bool nillable, EnumToString enumToString,
-                                               StringToEnum stringToEnum)
-    : CElementInfoSeq(name, namespaceUri, propertyIndex, nillable),
-      m_stringToEnum(NotNull(stringToEnum, u"stringToEnum")),
-      m_enumToString(NotNull(enumToString, u"enumToString")) {}
-
-bool CElementInfoSeqEnumMnd::ElementToXml(const CXmlSerializationContext& context,
-                                          const CXmlGeneratedClass* object, CXmlWriter* writer) const {
-    return ElementToXmlEnum(context, object, writer, m_enumToString);
-}
-
-bool CElementInfoSeqEnumMnd::ElementFromXml(const CXmlSerializationContext& context,
-                                            CXmlGeneratedClass* object, CXmlElement*, CXmlElement** current,
-                                            const char16_t*, XmlElementType ownerElementType) {
+QUILLON_TO_XML(CElementInfoSeqEnumMnd) { return ElementToXmlEnum(context, object, writer, m_enumToString); }
+QUILLON_FROM_XML(CElementInfoSeqEnumMnd) {
     if (ownerElementType == XmlElementType_Element)
         return !SeekElement(context, current) || TakeEnum(object, current, m_stringToEnum);
     // Deliberate: nothing is skipped in a group, other than by its sister for primitive values.
     return IsThisElement(context, *current) && TakeEnum(object, current, m_stringToEnum);
 }
 
-CElementInfoSeqEnumOpt::CElementInfoSeqEnumOpt(const char16_t* name, const char16_t* namespaceUri,
-                                               int propertyIndex, bool nillable, EnumToString enumToString,
-                                               StringToEnum stringToEnum)
-    : CElementInfoSeq(name, namespaceUri, propertyIndex, nillable),
-      m_enumToString(NotNull(enumToString, u"enumToString")),
-      m_stringToEnum(NotNull(stringToEnum, u"stringToEnum")) {}
-
-bool CElementInfoSeqEnumOpt::ElementToXml(const CXmlSerializationContext& context,
-                                          const CXmlGeneratedClass* object, CXmlWriter* writer) const {
-    return ElementToXmlEnum(context, object, writer, m_enumToString);
-}
-
-bool CElementInfoSeqEnumOpt::ElementFromXml(const CXmlSerializationContext& context,
-                                            CXmlGeneratedClass* object, CXmlElement*, CXmlElement** current,
-                                            const char16_t*, XmlElementType) {
+QUILLON_TO_XML(CElementInfoSeqEnumOpt) { return ElementToXmlEnum(context, object, writer, m_enumToString); }
+QUILLON_FROM_XML(CElementInfoSeqEnumOpt) {
     return !IsThisElement(context, *current) || TakeEnum(object, current, m_stringToEnum);
 }
 
 // Cls
 
-CElementInfoSeqClsMnd::CElementInfoSeqClsMnd(const char16_t* name, const char16_t* namespaceUri,
-                                             int propertyIndex, XmlElementType elementType,
-                                             ClassFactory factory, int classId, bool consumeRequired)
-    : CElementInfoSeq(name, namespaceUri, propertyIndex), m_elementType(elementType),
-      m_consumeRequired(consumeRequired), m_factory(factory), m_classId(classId) {}
-
-bool CElementInfoSeqClsMnd::ElementToXml(const CXmlSerializationContext& context,
-                                         const CXmlGeneratedClass* object, CXmlWriter* writer) const {
-    return ElementToXmlCls(context, object, writer, false);
-}
-
-void CElementInfoSeqClsMnd::PseudoChildAttributeToXml(const CXmlSerializationContext& context,
-                                                      const CXmlGeneratedClass* object,
-                                                      CXmlWriter* writer) const {
+QUILLON_TO_XML(CElementInfoSeqClsMnd) { return ElementToXmlCls(context, object, writer, false); }
+QUILLON_PSEUDO_ATTRIBUTES_TO_XML(CElementInfoSeqClsMnd) {
     PseudoAttributesToXml(context, object, writer, m_elementType);
 }
-
-bool CElementInfoSeqClsMnd::ElementFromXml(const CXmlSerializationContext& context,
-                                           CXmlGeneratedClass* object, CXmlElement* parent,
-                                           CXmlElement** current, const char16_t*,
-                                           XmlElementType ownerElementType) {
+QUILLON_FROM_XML(CElementInfoSeqClsMnd) {
     if (m_elementType == XmlElementType_Element)
         return ReadElement(context, object, current, ownerElementType);
     return m_consumeRequired ? ReadRequiredGroup(context, object, parent, current, ownerElementType)
@@ -189,26 +103,11 @@ bool CElementInfoSeqClsMnd::ReadRequiredGroup(const CXmlSerializationContext& co
     return false;
 }
 
-CElementInfoSeqClsOpt::CElementInfoSeqClsOpt(const char16_t* name, const char16_t* namespaceUri,
-                                             int propertyIndex, XmlElementType elementType,
-                                             ClassFactory factory, int classId)
-    : CElementInfoSeq(name, namespaceUri, propertyIndex), m_elementType(elementType),
-      m_factory(NotNull(factory, u"factory")), m_classId(classId) {}
-
-bool CElementInfoSeqClsOpt::ElementToXml(const CXmlSerializationContext& context,
-                                         const CXmlGeneratedClass* object, CXmlWriter* writer) const {
-    return ElementToXmlCls(context, object, writer, false);
-}
-
-void CElementInfoSeqClsOpt::PseudoChildAttributeToXml(const CXmlSerializationContext& context,
-                                                      const CXmlGeneratedClass* object,
-                                                      CXmlWriter* writer) const {
+QUILLON_TO_XML(CElementInfoSeqClsOpt) { return ElementToXmlCls(context, object, writer, false); }
+QUILLON_PSEUDO_ATTRIBUTES_TO_XML(CElementInfoSeqClsOpt) {
     PseudoAttributesToXml(context, object, writer, m_elementType);
 }
-
-bool CElementInfoSeqClsOpt::ElementFromXml(const CXmlSerializationContext& context,
-                                           CXmlGeneratedClass* object, CXmlElement* parent,
-                                           CXmlElement** current, const char16_t*, XmlElementType) {
+QUILLON_FROM_XML(CElementInfoSeqClsOpt) {
     // The object is stored after it was filled, so that a failed read leaves the property unset.
     if (m_elementType == XmlElementType_Element) {
         if (!IsThisElement(context, *current))
@@ -230,26 +129,11 @@ bool CElementInfoSeqClsOpt::ElementFromXml(const CXmlSerializationContext& conte
 
 // AbsCls
 
-CElementInfoSeqAbsClsMnd::CElementInfoSeqAbsClsMnd(const char16_t* name, const char16_t* namespaceUri,
-                                                   int propertyIndex, XmlElementType elementType,
-                                                   SubstitutionFactory substitutionFactory)
-    : CElementInfoSeq(name, namespaceUri, propertyIndex), m_elementType(elementType),
-      m_substitutionFactory(NotNull(substitutionFactory, u"substitutionFactory")) {}
-
-bool CElementInfoSeqAbsClsMnd::ElementToXml(const CXmlSerializationContext& context,
-                                            const CXmlGeneratedClass* object, CXmlWriter* writer) const {
-    return ElementToXmlCls(context, object, writer, false);
-}
-
-void CElementInfoSeqAbsClsMnd::PseudoChildAttributeToXml(const CXmlSerializationContext& context,
-                                                         const CXmlGeneratedClass* object,
-                                                         CXmlWriter* writer) const {
+QUILLON_TO_XML(CElementInfoSeqAbsClsMnd) { return ElementToXmlCls(context, object, writer, false); }
+QUILLON_PSEUDO_ATTRIBUTES_TO_XML(CElementInfoSeqAbsClsMnd) {
     PseudoAttributesToXml(context, object, writer, m_elementType);
 }
-
-bool CElementInfoSeqAbsClsMnd::ElementFromXml(const CXmlSerializationContext& context,
-                                              CXmlGeneratedClass* object, CXmlElement*, CXmlElement** current,
-                                              const char16_t*, XmlElementType ownerElementType) {
+QUILLON_FROM_XML(CElementInfoSeqAbsClsMnd) {
     CSmartPtr<CXmlObjectBase> child;
     if (IsThisElement(context, *current))
         child = m_substitutionFactory(*current);
@@ -262,31 +146,68 @@ bool CElementInfoSeqAbsClsMnd::ElementFromXml(const CXmlSerializationContext& co
     return true;
 }
 
-CElementInfoSeqAbsClsOpt::CElementInfoSeqAbsClsOpt(const char16_t* name, const char16_t* namespaceUri,
-                                                   int propertyIndex, XmlElementType elementType,
-                                                   SubstitutionFactory substitutionFactory)
-    : CElementInfoSeq(name, namespaceUri, propertyIndex), m_elementType(elementType),
-      m_substitutionFactory(NotNull(substitutionFactory, u"substitutionFactory")) {}
-
-bool CElementInfoSeqAbsClsOpt::ElementToXml(const CXmlSerializationContext& context,
-                                            const CXmlGeneratedClass* object, CXmlWriter* writer) const {
-    return ElementToXmlCls(context, object, writer, false);
-}
-
-void CElementInfoSeqAbsClsOpt::PseudoChildAttributeToXml(const CXmlSerializationContext& context,
-                                                         const CXmlGeneratedClass* object,
-                                                         CXmlWriter* writer) const {
+QUILLON_TO_XML(CElementInfoSeqAbsClsOpt) { return ElementToXmlCls(context, object, writer, false); }
+QUILLON_PSEUDO_ATTRIBUTES_TO_XML(CElementInfoSeqAbsClsOpt) {
     PseudoAttributesToXml(context, object, writer, m_elementType);
 }
-
-bool CElementInfoSeqAbsClsOpt::ElementFromXml(const CXmlSerializationContext& context,
-                                              CXmlGeneratedClass* object, CXmlElement*, CXmlElement** current,
-                                              const char16_t*, XmlElementType) {
+QUILLON_FROM_XML(CElementInfoSeqAbsClsOpt) {
     if (!IsThisElement(context, *current))
         return true;
     if (const CSmartPtr<CXmlObjectBase> child = m_substitutionFactory(*current))
         ReadAndStoreObject(context, object, child, current);
     return true;
+}
+
+// Untpd
+
+QUILLON_TO_XML(CElementInfoSeqUntpdMnd) { return ElementToXmlCls(context, object, writer, false); }
+QUILLON_FROM_XML(CElementInfoSeqUntpdMnd) {
+    // Deliberate: the end of the list is a failure even in a group, unlike for every other mandatory member.
+    if (!*current)
+        FailRequired();
+    CXmlElement* result = ReadUntyped(context, HeldObject(object), parent, *current);
+    if (result == *current) {
+        if (ownerElementType == XmlElementType_Element)
+            Throw<CKzValidationException>(messages::RequiredNamespaceNotFound, m_elementNamespace);
+        return false;
+    }
+    *current = result;
+    return true;
+}
+
+QUILLON_TO_XML(CElementInfoSeqUntpdOpt) { return ElementToXmlCls(context, object, writer, false); }
+QUILLON_FROM_XML(CElementInfoSeqUntpdOpt) {
+    if (!*current)
+        return true;
+    const CSmartPtr<CXmlObjectBase> untyped =
+        CreateUntyped(m_namespaceConstraint, m_targetNamespace, ownerNamespace);
+    CXmlElement* result = ReadUntyped(context, untyped, parent, *current);
+    if (result != *current)
+        StoreObject(object, untyped);
+    *current = result;
+    return true;
+}
+
+// Col
+
+QUILLON_TO_XML(CElementInfoSeqCol) { return CheckedElementToXmlCol(context, object, writer); }
+QUILLON_FROM_XML(CElementInfoSeqCol) {
+    const CSmartPtr<CXmlCollectionBase> collection = HeldCollection(object);
+    *current = ReadRun(context, collection, parent, *current);
+    return HasValidCount(context, *collection, ownerElementType);
+}
+
+QUILLON_PSEUDO_ATTRIBUTES_TO_XML(CElementInfoSeqClsCol) {
+    PseudoItemAttributesToXml(context, object, writer, m_elementType);
+}
+QUILLON_PSEUDO_ATTRIBUTES_TO_XML(CElementInfoSeqAbsClsCol) {
+    PseudoItemAttributesToXml(context, object, writer, m_elementType);
+}
+
+QUILLON_FROM_XML(CElementInfoSeqUntpdCol) {
+    const CSmartPtr<CXmlCollectionBase> collection = HeldCollection(object);
+    *current = ReadUntypedRun(context, collection, parent, *current);
+    return HasValidCount(context, *collection, ownerElementType);
 }
 
 } // namespace KzXmlLib10Data

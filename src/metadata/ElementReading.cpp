@@ -6,6 +6,8 @@
 #include "object/SchemaInstance.h"
 #include "object/Throw.h"
 
+#include <KzXmlLib10/collections/CElement.h>
+#include <KzXmlLib10/collections/CElementCol.h>
 #include <KzXmlLib10/object/CXmlGeneratedClass.h>
 #include <KzXmlLib10/object/CXmlObjectBase.h>
 #include <KzXmlLib10/object/CXmlSerializationContext.h>
@@ -99,6 +101,58 @@ CSmartPtr<CXmlObjectBase> CElementInfo::HeldObject(const CXmlGeneratedClass* obj
         Throw<CKzInvalidStateException>(messages::MandatoryMemberIsNull, m_elementName);
     return child;
 }
+
+CSmartPtr<CXmlCollectionBase> CElementInfo::HeldCollection(const CXmlGeneratedClass* object) const {
+    const CSmartPtr<CXmlObjectBase> held = HeldObject(object);
+    auto* collection = dynamic_cast<CXmlCollectionBase*>(static_cast<CXmlObjectBase*>(held));
+    if (!collection)
+        Throw<CKzInvalidStateException>(messages::NotACollection, m_elementName);
+    return collection;
+}
+
+CXmlElement* CElementInfo::ReadRun(const CXmlSerializationContext& context, CXmlCollectionBase* collection,
+                                   CXmlElement* parent, CXmlElement* current) const {
+    return FromXml_Int(collection, parent, current, context, false);
+}
+
+CXmlElement* CElementInfo::ReadUntypedRun(const CXmlSerializationContext& context,
+                                          CXmlCollectionBase* collection, CXmlElement* parent,
+                                          CXmlElement* current) const {
+    if (IsAnyElement())
+        return ReadRun(context, collection, parent, current);
+    auto* untyped = dynamic_cast<CElementCol*>(collection);
+    if (!untyped)
+        Throw<CKzInvalidStateException>(messages::NotAnElementCol, m_elementName);
+    return untyped->FromXmlLockElementName_Int(m_elementName, current ? current->GetNamespaceURI() : u"",
+                                               parent, current, context);
+}
+
+bool CElementInfo::HasValidCount(const CXmlSerializationContext& context,
+                                 const CXmlCollectionBase& collection, XmlElementType ownerElementType) {
+    if (ownerElementType != XmlElementType_Element)
+        return collection.IsValidCount(context);
+    collection.ValidateCount(context);
+    return true;
+}
+
+CSmartPtr<CXmlObjectBase> CElementInfo::CreateUntyped(const std::u16string& namespaceConstraint,
+                                                      const std::u16string& targetNamespace,
+                                                      const char16_t* ownerNamespace) const {
+    const std::u16string namespaceUri =
+        GetAnyDefaultNamespace(namespaceConstraint.c_str(), ownerNamespace, targetNamespace.c_str());
+    return new CElement(m_elementName.c_str(), namespaceUri.c_str(), namespaceConstraint.c_str(),
+                        targetNamespace.c_str());
+}
+
+CXmlElement* CElementInfo::ReadUntyped(const CXmlSerializationContext& context, CXmlObjectBase* untyped,
+                                       CXmlElement* parent, CXmlElement* current) const {
+    // The namespace is not compared here; the generic element applies the wildcard's constraint.
+    if (!IsAnyElement() && current->GetLocalName() != m_elementName)
+        return current;
+    return FromXml_Int(untyped, parent, current, context, false);
+}
+
+bool CElementInfo::IsAnyElement() const { return m_elementName == u"AnyElement"; }
 
 void CElementInfo::FailRequired() const {
     Throw<CKzValidationException>(messages::RequiredElementNotFound, m_elementName);

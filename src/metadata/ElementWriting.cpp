@@ -4,6 +4,7 @@
 
 #include "object/NotNull.h"
 
+#include <KzXmlLib10/collections/CXmlCollectionBase.h>
 #include <KzXmlLib10/object/CXmlGeneratedClass.h>
 #include <KzXmlLib10/object/CXmlObjectBase.h>
 #include <KzXmlLib10/object/CXmlSerializationContext.h>
@@ -68,6 +69,30 @@ bool CElementInfo::ElementToXmlCls(const CXmlSerializationContext& context, cons
     static_cast<const CXmlObjectBase&>(*child).ToXml_Int(writer, false, m_elementNamespace.c_str(), context,
                                                          isOptional);
     return true;
+}
+
+bool CElementInfo::ElementToXmlCol(const CXmlSerializationContext& context, const CXmlGeneratedClass* object,
+                                   CXmlWriter* writer) const {
+    const CSmartPtr<CXmlCollectionBase> collection = HeldCollection(object);
+    if (collection->GetCount() < 1)
+        return false;
+    const CXmlObjectBase* base = collection->GetBase();
+    base->ToXml_Int(writer, false, m_elementNamespace.c_str(), context, false);
+    return true;
+}
+
+bool CElementInfo::CheckedElementToXmlCol(const CXmlSerializationContext& context,
+                                          const CXmlGeneratedClass* object, CXmlWriter* writer) const {
+    if (!context.GetIgnoreInvalidCollectionCounts())
+        HeldCollection(object)->ValidateCount(context);
+    return ElementToXmlCol(context, object, writer);
+}
+
+void CElementInfo::PseudoItemAttributesToXml(const CXmlSerializationContext& context,
+                                             const CXmlGeneratedClass* object, CXmlWriter* writer,
+                                             XmlElementType elementType) const {
+    if (elementType == XmlElementType_Pseudo)
+        AttributesToXml_Int(HeldCollection(object), writer, context);
 }
 
 void CElementInfo::PseudoAttributesToXml(const CXmlSerializationContext& context,

@@ -45,11 +45,15 @@ CXmlElement* CXmlGeneratedClass::ReadObject(CXmlElement* element, CXmlElement* c
 }
 
 CXmlElement* CXmlGeneratedClass::ReadChildren(CXmlElement* element, CXmlElement* current,
-                                              const CXmlSerializationContext& context, bool) {
+                                              const CXmlSerializationContext& context, bool isOptional) {
     const CParentElementInfo* info = GetClassInfo();
     switch (info->GetElementGroupType()) {
     case XmlElementGroupType_Sequence:
         return ProcessElementSeqFromXml(context, element, current, info->GetElementType());
+    case XmlElementGroupType_Choice:
+        return ProcessElementChoiceFromXml(context, element, current, info->GetElementType(), isOptional);
+    case XmlElementGroupType_All:
+        return ProcessElementAllFromXml(context, element, current, info->GetElementType());
     default:
         Throw<CKzException>(messages::UnknownGroupTypeOnReading);
     }
@@ -132,12 +136,15 @@ CXmlElement* CXmlGeneratedClass::ProcessElementSeqFromXml(const CXmlSerializatio
         if (type != XmlElementType_Element || !current)
             return current;
         if (!context.GetIgnoreUnknownElements())
-            Throw<CKzValidationException>(messages::UnprocessedElement, element->GetLocalName(),
-                                          current->GetLocalName());
+            FailUnprocessed(*element, *current);
         current = current->GetNextSiblingElement();
         if (!current)
             return nullptr;
     }
+}
+
+void CXmlGeneratedClass::FailUnprocessed(const CXmlElement& element, const CXmlElement& left) {
+    Throw<CKzValidationException>(messages::UnprocessedElement, element.GetLocalName(), left.GetLocalName());
 }
 
 } // namespace KzXmlLib10

@@ -70,10 +70,12 @@ void CXmlGeneratedClass::StartElement(CXmlWriter* writer, bool isRoot, const cha
 }
 
 void CXmlGeneratedClass::WriteContent(CXmlWriter* writer, const CXmlSerializationContext& context,
-                                      bool) const {
+                                      bool isOptional) const {
     switch (GetClassInfo()->GetElementGroupType()) {
     case XmlElementGroupType_Sequence:
         return ProcessElementSeqToXml(context, GetClassElementInfo(), writer);
+    case XmlElementGroupType_Choice:
+        return ProcessElementChoiceToXml(context, GetClassElementInfo(), writer, isOptional);
     case XmlElementGroupType_All:
         return ProcessElementAllToXml(context, GetClassElementInfo(), writer);
     default:

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "object/SupportContact.h"
+
 /// The texts of failures of text input and output, whole, so that a text in a report is found by searching
 /// for it.
 namespace KzXmlLib10::messages {
@@ -31,7 +33,7 @@ inline constexpr char16_t OutputTooLarge[] =
 
 // Bytes and files
 inline constexpr char16_t UnknownEncoding[] =
-    u"Unknown Encoding, select UTF-8 (contact the Quillon Runtime maintainers for support)";
+    u"Unknown Encoding, select UTF-8 (contact " QUILLON_SUPPORT_CONTACT u" for support)";
 inline constexpr char16_t EncodedTextTooLong[] = u"The text needs more than 4294967295 bytes";
 inline constexpr char16_t FileNotWritten[] = u"Failed to write data to the file [%s] error [0x%08X]";
 inline constexpr char16_t FileBlockNotWritten[] = u"Failed to write data to the file. Error [0x%08X]";

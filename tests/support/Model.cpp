@@ -1,6 +1,9 @@
 #include "support/Model.h"
 
+#include <KzXmlLib10/metadata/CElementInfoAll.h>
+#include <KzXmlLib10/metadata/CElementInfoChoice.h>
 #include <KzXmlLib10/metadata/CElementInfoSeq.h>
+#include <KzXmlLib10/xml/CXmlElement.h>
 
 #include <stdexcept>
 #include <string_view>
@@ -37,11 +40,8 @@ void AddTo(std::vector<T*>& table, T* descriptor) {
 CModelObject::CModelObject(const Model& model, const char16_t* elementName)
     : properties(model.m_propertyChecks.size()), m_model(model) {
     SetElementName(elementName);
-    for (std::size_t i = 0; i < model.m_mandatoryChildren.size(); ++i) {
-        const auto& [property, child] = model.m_mandatoryChildren[i];
-        properties[static_cast<std::size_t>(property)].SetXmlObject(
-            child->New(model.m_childNames[i].c_str()));
-    }
+    for (const Model::Held& held : model.m_held)
+        properties[static_cast<std::size_t>(held.property)].SetXmlObject(held.make());
 }
 
 std::u16string CModelObject::GetTargetNamespace() const { return m_model.m_namespace; }
@@ -69,24 +69,63 @@ void CModelObject::AccessProperty(int propertyIndex, bool read, KzVariant& value
 }
 
 void CModelObject::Init() {
-    for (std::size_t i = 0; i < properties.size(); ++i) {
-        bool kept = false;
-        for (const auto& [property, child] : m_model.m_mandatoryChildren)
-            kept = kept || static_cast<std::size_t>(property) == i;
-        if (!kept)
-            properties[i] = KzVariant();
+    std::vector<KzVariant> fresh(properties.size());
+    for (const Model::Held& held : m_model.m_held) {
+        const auto index = static_cast<std::size_t>(held.property);
+        if (held.renewed)
+            fresh[index].SetXmlObject(held.make());
+        else
+            fresh[index] = properties[index];
     }
+    properties = std::move(fresh);
 }
 
 std::u16string CModelObject::Text(int property) const {
     const KzVariant& value = properties.at(static_cast<std::size_t>(property));
-    return value.IsNil() ? u"(nil)" : value.IsValid() ? value.ToString(nullptr) : u"(none)";
+    return value.IsNil() ? u"nil" : value.IsValid() ? value.ToString(nullptr) : u"-";
 }
 
-CModelObject* CModelObject::Child(int property) const {
+CXmlObjectBase* CModelObject::Held(int property) const {
     const KzVariant& value = properties.at(static_cast<std::size_t>(property));
-    return value.IsValid() ? dynamic_cast<CModelObject*>(static_cast<CXmlObjectBase*>(value.GetXmlObject()))
-                           : nullptr;
+    return value.IsValid() ? static_cast<CXmlObjectBase*>(value.GetXmlObject()) : nullptr;
+}
+
+CModelObject* CModelObject::Child(int property) const { return dynamic_cast<CModelObject*>(Held(property)); }
+
+CModelCol* CModelObject::Children(int property) const { return dynamic_cast<CModelCol*>(Held(property)); }
+
+CModelCol::CModelCol(const Model& item, const char16_t* elementName, const char16_t* elementNamespace,
+                     int minOccurs, int maxOccurs)
+    : CXmlCollection(elementName, elementNamespace, minOccurs, maxOccurs), m_model(item) {}
+
+CModelObject* CModelCol::Item(int index) const {
+    return dynamic_cast<CModelObject*>(static_cast<CXmlObjectBase*>(GetNodeAtIndex(index)->m_item));
+}
+
+void CModelCol::ToXml_Int(CXmlWriter* writer, bool, const char16_t* elementNamespace,
+                          const CXmlSerializationContext& context, bool) const {
+    for (int i = 0; i < GetCount(); ++i)
+        CXmlObjectBase::ToXml_Int(Item(i), writer, false, elementNamespace, context, false);
+}
+
+CXmlElement* CModelCol::FromXml_Int(CXmlElement* element, CXmlElement* current,
+                                    const CXmlSerializationContext& context, bool) {
+    while (current) {
+        const CSmartPtr<CModelObject> item = m_model.New(GetElementName().c_str());
+        if (m_model.IsPseudo()) {
+            CXmlElement* next = CXmlObjectBase::FromXml_Int(item, element, current, context);
+            if (next == current)
+                break;
+            current = next;
+        } else {
+            if (!DoesElementNameMatch(context, current, GetElementName().c_str(), m_elementNamespace.c_str()))
+                break;
+            CXmlObjectBase::FromXml_Int(item, current, current->GetFirstElement(), context);
+            current = current->GetNextSiblingElement();
+        }
+        AppendItem(item);
+    }
+    return current;
 }
 
 Model::Model(const char16_t* name, XmlElementGroupType group, XmlElementType type,
@@ -144,57 +183,104 @@ Model& Model::ColourAttribute(const char16_t* name, Use use, const char16_t* def
     return *this;
 }
 
-Model& Model::Element(CElementInfo* descriptor) {
+Model& Model::Element(CElementInfo* descriptor, Make make) {
     AddTo(m_elements, descriptor);
-    AddProperty();
+    const int property = AddProperty();
+    if (make)
+        m_held.push_back({property, std::move(make), true});
     return *this;
 }
 
+Model& Model::AddAttribute(CAttributeInfo* descriptor, Make make) {
+    AddTo(m_attributes, descriptor);
+    const int property = AddProperty();
+    if (make)
+        m_held.push_back({property, std::move(make), true});
+    return *this;
+}
+
+namespace {
+
+/// Makes the leaf of the group and cardinality; a choice has optional members only.
+template <class SeqMnd, class SeqOpt, class ChoiceOpt, class AllMnd, class AllOpt>
+struct Leaf {
+    template <class... Arguments>
+    static CElementInfo* Make(XmlElementGroupType group, Cardinality cardinality, Arguments... arguments) {
+        if (group == XmlElementGroupType_Choice)
+            return new ChoiceOpt(arguments...);
+        if (group == XmlElementGroupType_All)
+            return cardinality == Mnd ? static_cast<CElementInfo*>(new AllMnd(arguments...))
+                                      : new AllOpt(arguments...);
+        return cardinality == Mnd ? static_cast<CElementInfo*>(new SeqMnd(arguments...))
+                                  : new SeqOpt(arguments...);
+    }
+};
+
+} // namespace
+
 Model& Model::Prim(const char16_t* name, Cardinality cardinality, ItemType type, bool nillable,
                    const CPrimitiveRestrictions& facets, const char16_t* format) {
-    constexpr auto rule = CWhitespaceUtils::WhitespaceRule_Collapse;
-    const char16_t* ns = m_namespace.c_str();
-    const int property = NextProperty();
-    CElementInfo* descriptor;
-    if (cardinality == Mnd)
-        descriptor = new CElementInfoSeqPrimMnd(name, ns, property, nillable, type, format, rule, facets);
-    else
-        descriptor = new CElementInfoSeqPrimOpt(name, ns, property, nillable, type, format, rule, facets);
+    using Leaves = Leaf<CElementInfoSeqPrimMnd, CElementInfoSeqPrimOpt, CElementInfoChoicePrimOpt,
+                        CElementInfoAllPrimMnd, CElementInfoAllPrimOpt>;
+    CElementInfo* descriptor =
+        Leaves::Make(m_group, cardinality, name, m_namespace.c_str(), NextProperty(), nillable, type, format,
+                     CWhitespaceUtils::WhitespaceRule_Collapse, facets);
     Element(descriptor);
     m_propertyChecks.back() = [=](const KzVariant& value) { descriptor->CheckRestriction(value); };
     return *this;
 }
 
 Model& Model::Colour(const char16_t* name, Cardinality cardinality, bool nillable) {
-    const char16_t* ns = m_namespace.c_str();
-    const int property = NextProperty();
-    if (cardinality == Mnd)
-        return Element(
-            new CElementInfoSeqEnumMnd(name, ns, property, nillable, ColourToString, StringToColour));
-    return Element(new CElementInfoSeqEnumOpt(name, ns, property, nillable, ColourToString, StringToColour));
+    using Leaves = Leaf<CElementInfoSeqEnumMnd, CElementInfoSeqEnumOpt, CElementInfoChoiceEnumOpt,
+                        CElementInfoAllEnumMnd, CElementInfoAllEnumOpt>;
+    return Element(Leaves::Make(m_group, cardinality, name, m_namespace.c_str(), NextProperty(), nillable,
+                                ColourToString, StringToColour));
 }
 
 Model& Model::Class(const char16_t* name, Cardinality cardinality, const Model& child, bool consumeRequired) {
     const char16_t* ns = m_namespace.c_str();
     const int property = NextProperty();
-    if (cardinality == Mnd) {
-        m_mandatoryChildren.emplace_back(property, &child);
-        m_childNames.emplace_back(name);
+    if (cardinality == Mnd && m_group != XmlElementGroupType_Choice) {
+        const std::u16string childName = name;
+        m_held.push_back(
+            {property,
+             [&child, childName] { return static_cast<CXmlObjectBase*>(child.NewRaw(childName.c_str())); },
+             false});
+        if (m_group == XmlElementGroupType_All)
+            return Element(new CElementInfoAllClsMnd(name, ns, property, child.m_type, Create,
+                                                     child.m_classId, consumeRequired));
         return Element(new CElementInfoSeqClsMnd(name, ns, property, child.m_type, Create, child.m_classId,
                                                  consumeRequired));
     }
-    return Element(new CElementInfoSeqClsOpt(name, ns, property, child.m_type, Create, child.m_classId));
+    using Leaves = Leaf<CElementInfoSeqClsOpt, CElementInfoSeqClsOpt, CElementInfoChoiceClsOpt,
+                        CElementInfoAllClsOpt, CElementInfoAllClsOpt>;
+    return Element(Leaves::Make(m_group, Opt, name, ns, property, child.m_type, Create, child.m_classId));
 }
 
 Model& Model::Abstract(const char16_t* name, Cardinality cardinality, SubstitutionFactory factory) {
     const char16_t* ns = m_namespace.c_str();
     const int property = NextProperty();
-    if (cardinality == Mnd)
-        return Element(new CElementInfoSeqAbsClsMnd(name, ns, property, XmlElementType_Element, factory));
-    return Element(new CElementInfoSeqAbsClsOpt(name, ns, property, XmlElementType_Element, factory));
+    if (cardinality == Mnd && m_group == XmlElementGroupType_All)
+        return Element(new CElementInfoAllAbsClsMnd(name, ns, property, XmlElementType_Element, factory, 0));
+    using Leaves = Leaf<CElementInfoSeqAbsClsMnd, CElementInfoSeqAbsClsOpt, CElementInfoChoiceAbsClsOpt,
+                        CElementInfoAllAbsClsOpt, CElementInfoAllAbsClsOpt>;
+    return Element(Leaves::Make(m_group, cardinality, name, ns, property, XmlElementType_Element, factory));
 }
 
-CSmartPtr<CModelObject> Model::New(const char16_t* elementName) const {
+Model& Model::Collection(const char16_t* name, const Model& child, int minOccurs, int maxOccurs) {
+    const std::u16string itemName = name;
+    const int property = NextProperty();
+    const auto make = [this, &child, itemName, minOccurs, maxOccurs] {
+        return new CModelCol(child, itemName.c_str(), m_namespace.c_str(), minOccurs, maxOccurs);
+    };
+    if (m_group == XmlElementGroupType_Choice)
+        return Element(new CElementInfoChoiceClsCol(name, m_namespace.c_str(), property, child.m_type), make);
+    return Element(new CElementInfoSeqClsCol(name, m_namespace.c_str(), property, child.m_type), make);
+}
+
+CSmartPtr<CModelObject> Model::New(const char16_t* elementName) const { return NewRaw(elementName); }
+
+CModelObject* Model::NewRaw(const char16_t* elementName) const {
     const char16_t* name = elementName ? elementName : m_name.c_str();
     if (m_nillable)
         return new CNillableModelObject(*this, name);

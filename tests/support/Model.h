@@ -1,5 +1,6 @@
 #pragma once
 
+#include <KzXmlLib10/collections/CXmlCollection.h>
 #include <KzXmlLib10/conversions/CPrimitiveRestrictions.h>
 #include <KzXmlLib10/metadata/CAttributeInfo.h>
 #include <KzXmlLib10/metadata/CElementInfo.h>
@@ -24,15 +25,18 @@
 ///
 /// Each call adds one descriptor and one property; properties are numbered in the order of the calls. Setters
 /// check facets, mandatory objects are created by the constructor, Init resets everything else, as in
-/// generated code. A model must outlive its objects.
+/// generated code. The group of the model decides which leaf class a call adds. A model must outlive its
+/// objects.
 namespace kit {
 
 using namespace KzXmlLib10;
 using namespace KzXmlLib10Data;
 
 enum Cardinality { Mnd, Opt };
+constexpr int unbounded = -1;
 enum Use { Required, Optional };
 
+class CModelCol;
 class Model;
 
 CPrimitiveRestrictions Facets(const char16_t* pattern = u"", int minLength = -1, int maxLength = -1,
@@ -55,9 +59,11 @@ public:
 
     using CXmlObjectBase::SetElementName;
 
-    /// The property as text; "(none)" if it has no value, "(nil)" if it is nil.
+    /// The property as text; "-" if it has no value, "nil" if it is nil.
     std::u16string Text(int property) const;
     CModelObject* Child(int property) const;
+    CModelCol* Children(int property) const;
+    CXmlObjectBase* Held(int property) const;
 
     std::vector<KzVariant> properties;
 
@@ -78,6 +84,25 @@ public:
 
 private:
     bool m_nil = false;
+};
+
+/// A collection of objects of a model, as a generator would write it.
+class CModelCol : public CXmlCollection {
+public:
+    CModelCol(const Model& item, const char16_t* elementName, const char16_t* elementNamespace, int minOccurs,
+              int maxOccurs);
+
+    void Add(CModelObject* item) { AppendItem(item); }
+    CModelObject* Item(int index) const;
+
+protected:
+    void ToXml_Int(CXmlWriter* writer, bool isRoot, const char16_t* elementNamespace,
+                   const CXmlSerializationContext& context, bool isOptional) const override;
+    CXmlElement* FromXml_Int(CXmlElement* element, CXmlElement* current,
+                             const CXmlSerializationContext& context, bool isOptional) override;
+
+private:
+    const Model& m_model;
 };
 
 class Model {
@@ -105,19 +130,26 @@ public:
     Model& Class(const char16_t* name, Cardinality cardinality, const Model& child,
                  bool consumeRequired = false);
     Model& Abstract(const char16_t* name, Cardinality cardinality, SubstitutionFactory factory);
-    /// Any other descriptor, made with NextProperty().
-    Model& Element(CElementInfo* descriptor);
+    /// A CModelCol of objects of the child model.
+    Model& Collection(const char16_t* name, const Model& child, int minOccurs = 0, int maxOccurs = unbounded);
+    /// Any other descriptor, made with NextProperty(). `make` creates what the constructor and Init put into
+    /// its property, such as a collection.
+    using Make = std::function<CXmlObjectBase*()>;
+    Model& Element(CElementInfo* descriptor, Make make = nullptr);
+    Model& AddAttribute(CAttributeInfo* descriptor, Make make = nullptr);
     int NextProperty() const { return static_cast<int>(m_propertyChecks.size()); }
 
     CSmartPtr<CModelObject> New(const char16_t* elementName = nullptr) const;
 
 private:
+    friend class CModelCol;
     friend class CModelObject;
 
     using Check = std::function<void(const KzVariant&)>;
-    void Rebuild(XmlElementType type);
+    bool IsPseudo() const { return m_type != XmlElementType_Element; }
     int AddProperty(Check check = nullptr);
 
+    CModelObject* NewRaw(const char16_t* elementName) const;
     static CSmartPtr<CXmlObjectBase> Create(int classId, const char16_t* elementName);
 
     std::u16string m_name;
@@ -133,14 +165,19 @@ private:
     bool m_contentAsText = false;
     int m_classId;
     std::vector<Check> m_propertyChecks;
-    std::vector<std::pair<int, const Model*>> m_mandatoryChildren;
-    std::vector<std::u16string> m_childNames;
+    /// Objects that the constructor puts into properties; Init keeps single ones and renews collections.
+    struct Held {
+        int property;
+        Make make;
+        bool renewed;
+    };
+    std::vector<Held> m_held;
     mutable std::unique_ptr<CParentElementInfo> m_info;
     mutable std::vector<CElementInfo*> m_elements{nullptr};
     mutable std::vector<CAttributeInfo*> m_attributes{nullptr};
 };
 
-/// Reads a document into a fresh object of the model; the full message of the failure, or "".
+/// The full message of the failure of the action; "" if it does not fail.
 std::u16string FailureOf(const std::function<void()>& action);
 
 } // namespace kit

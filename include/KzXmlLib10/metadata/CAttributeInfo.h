@@ -36,6 +36,15 @@ protected:
     void AccessProperty(CXmlGeneratedClass* object, bool read, KzVariant& value);
     void ReadProperty(const CXmlGeneratedClass* object, KzVariant& value) const;
 
+    /// Forwarders to the protected operations of objects, and to the checks of namespaces.
+    static void ToXml_Int(const CXmlObjectBase* object, CXmlWriter* writer, bool isRoot,
+                          const char16_t* elementNamespace, const CXmlSerializationContext& context);
+    static std::u16string GetTargetNamespace(const CXmlObjectBase* object);
+    static void TestNamespace(const std::u16string& ns, const std::u16string& restriction,
+                              const std::u16string& targetNamespace);
+    static bool IsNamespaceValid(const std::u16string& ns, const std::u16string& restriction,
+                                 const std::u16string& targetNamespace);
+
     /// Whether the names agree; without namespaces where the context ignores them.
     bool IsThisAttribute(const CXmlSerializationContext& context, CXmlAttribute* attribute);
 

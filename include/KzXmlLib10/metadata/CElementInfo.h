@@ -85,9 +85,17 @@ protected:
                           CXmlWriter* writer, EnumToString enumToString) const;
     bool ElementToXmlCls(const CXmlSerializationContext& context, const CXmlGeneratedClass* object,
                          CXmlWriter* writer, bool isOptional) const;
+    bool ElementToXmlCol(const CXmlSerializationContext& context, const CXmlGeneratedClass* object,
+                         CXmlWriter* writer) const;
+    /// ElementToXmlCol behind a check of the count, which throws as CXmlCollectionBase::ValidateCount does.
+    bool CheckedElementToXmlCol(const CXmlSerializationContext& context, const CXmlGeneratedClass* object,
+                                CXmlWriter* writer) const;
     /// Writes the attributes of the held object if the group has attributes on the parent's start tag.
     void PseudoAttributesToXml(const CXmlSerializationContext& context, const CXmlGeneratedClass* object,
                                CXmlWriter* writer, XmlElementType elementType) const;
+    /// The same for each item of the held collection.
+    void PseudoItemAttributesToXml(const CXmlSerializationContext& context, const CXmlGeneratedClass* object,
+                                   CXmlWriter* writer, XmlElementType elementType) const;
 
     // Reading: the steps that leaves are composed of.
     /// Looks for the element from `*current` on, past unknown elements where the context ignores them. False
@@ -111,6 +119,27 @@ protected:
     /// The object that the generated class created for a mandatory member. Throws CKzInvalidStateException if
     /// it created none.
     CSmartPtr<CXmlObjectBase> HeldObject(const CXmlGeneratedClass* object) const;
+    /// The collection that the generated class created. Throws CKzInvalidStateException if it is none.
+    CSmartPtr<CXmlCollectionBase> HeldCollection(const CXmlGeneratedClass* object) const;
+    /// Lets the collection read from `current` on; returns the first element that it did not take.
+    CXmlElement* ReadRun(const CXmlSerializationContext& context, CXmlCollectionBase* collection,
+                         CXmlElement* parent, CXmlElement* current) const;
+    /// The same for generic elements: any, or a run under one name, the element name of the descriptor.
+    CXmlElement* ReadUntypedRun(const CXmlSerializationContext& context, CXmlCollectionBase* collection,
+                                CXmlElement* parent, CXmlElement* current) const;
+    /// Whether the count of the collection is within its bounds. An owner with a tag of its own makes it a
+    /// failure if not.
+    static bool HasValidCount(const CXmlSerializationContext& context, const CXmlCollectionBase& collection,
+                              XmlElementType ownerElementType);
+    /// A new generic element under a wildcard.
+    CSmartPtr<CXmlObjectBase> CreateUntyped(const std::u16string& namespaceConstraint,
+                                            const std::u16string& targetNamespace,
+                                            const char16_t* ownerNamespace) const;
+    /// Lets a generic element read the current one, if the names agree; returns `current` if it took nothing.
+    CXmlElement* ReadUntyped(const CXmlSerializationContext& context, CXmlObjectBase* untyped,
+                             CXmlElement* parent, CXmlElement* current) const;
+    /// Whether the descriptor takes generic elements of any name.
+    bool IsAnyElement() const;
     [[noreturn]] void FailRequired() const;
 
     std::u16string m_elementName;
@@ -128,13 +157,17 @@ private:
     bool StoreAndAdvance(CXmlGeneratedClass* object, KzVariant& value, CXmlElement** current);
 };
 
+/// Declares the operation by which a leaf reads.
+#define QUILLON_ELEMENT_READING                                                                              \
+    bool ElementFromXml(const CXmlSerializationContext& context, CXmlGeneratedClass* object,                 \
+                        CXmlElement* parent, CXmlElement** current, const char16_t* ownerNamespace,          \
+                        XmlElementType ownerElementType) override;
+
 /// Declares the operations that every complete leaf overrides.
 #define QUILLON_ELEMENT_OPERATIONS                                                                           \
     bool ElementToXml(const CXmlSerializationContext& context, const CXmlGeneratedClass* object,             \
                       CXmlWriter* writer) const override;                                                    \
-    bool ElementFromXml(const CXmlSerializationContext& context, CXmlGeneratedClass* object,                 \
-                        CXmlElement* parent, CXmlElement** current, const char16_t* ownerNamespace,          \
-                        XmlElementType ownerElementType) override;
+    QUILLON_ELEMENT_READING
 
 /// Declares the operation that leaves with objects override, whose group may put attributes on the parent.
 #define QUILLON_PSEUDO_ATTRIBUTES                                                                            \

@@ -14,6 +14,7 @@ using KzXmlLib10::CPrimitiveRestrictions;
 using KzXmlLib10::CSmartPtr;
 using KzXmlLib10::CWhitespaceUtils;
 using KzXmlLib10::CXmlAttribute;
+using KzXmlLib10::CXmlCollectionBase;
 using KzXmlLib10::CXmlElement;
 using KzXmlLib10::CXmlGeneratedClass;
 using KzXmlLib10::CXmlObjectBase;

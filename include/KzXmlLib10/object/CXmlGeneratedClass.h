@@ -16,10 +16,10 @@ namespace KzXmlLib10 {
 ///         ...
 ///     };
 ///
-/// A class says what it is through three tables, built once under m_csInit by the first getter that is called,
-/// and gives access to its members through AccessProperty. The library does the rest. The tables belong to the
-/// class, are shared by its objects, and never change; an empty table holds just its null entry. The getters are
-/// called several times an element, so they must be cheap.
+/// A class says what it is through three tables, built once under m_csInit by the first getter that is
+/// called, and gives access to its members through AccessProperty. The library does the rest. The tables
+/// belong to the class, are shared by its objects, and never change; an empty table holds just its null
+/// entry. The getters are called several times an element, so they must be cheap.
 ///
 /// A nillable class inherits INillable beside this class. Reading and writing different objects is safe from
 /// several threads at once.
@@ -57,6 +57,8 @@ protected:
     /// Whether a descriptor of this class names the element.
     bool IsElementInList(const CXmlSerializationContext& context, CXmlElement* element) const;
     void ReadProperty(int propertyIndex, KzVariant& value) const;
+    /// Whether an empty choice is acceptable: a member is optional, or a repeated one may be absent.
+    bool DoesElementContainOptionalElements() const;
     void ProcessAttributesFromXml(const CXmlSerializationContext& context, CXmlElement* element,
                                   bool failIfUnknown);
 
@@ -86,8 +88,12 @@ private:
     void ProcessElementAllToXml(const CXmlSerializationContext& context,
                                 KzXmlLib10Data::CElementInfo** elements, CXmlWriter* writer) const;
 
-    CXmlElement* ReadObject(CXmlElement* element, CXmlElement* current, const CXmlSerializationContext& context,
-                            bool isOptional);
+    void ProcessElementChoiceToXml(const CXmlSerializationContext& context,
+                                   KzXmlLib10Data::CElementInfo** elements, CXmlWriter* writer,
+                                   bool isOptional) const;
+
+    CXmlElement* ReadObject(CXmlElement* element, CXmlElement* current,
+                            const CXmlSerializationContext& context, bool isOptional);
     CXmlElement* ReadChildren(CXmlElement* element, CXmlElement* current,
                               const CXmlSerializationContext& context, bool isOptional);
     void ReadPrimitiveValue(const CXmlElement& element);
@@ -96,6 +102,15 @@ private:
                         std::vector<char>& found);
     CXmlElement* ProcessElementSeqFromXml(const CXmlSerializationContext& context, CXmlElement* element,
                                           CXmlElement* current, KzXmlLib10Data::XmlElementType type);
+
+    CXmlElement* ProcessElementChoiceFromXml(const CXmlSerializationContext& context, CXmlElement* element,
+                                             CXmlElement* current, KzXmlLib10Data::XmlElementType type,
+                                             bool isOptional);
+    bool FindChoice(const CXmlSerializationContext& context, CXmlElement* element, CXmlElement*& current,
+                    KzXmlLib10Data::XmlElementType type);
+    CXmlElement* ProcessElementAllFromXml(const CXmlSerializationContext& context, CXmlElement* element,
+                                          CXmlElement* current, KzXmlLib10Data::XmlElementType type);
+    [[noreturn]] static void FailUnprocessed(const CXmlElement& element, const CXmlElement& left);
 
     int GetClassElementInfoCount() const;
 };

@@ -1,0 +1,94 @@
+/// All groups: children in any order, each at most once.
+
+#include "support/Roundtrip.h"
+
+#include <gtest/gtest.h>
+
+using namespace kit;
+
+namespace {
+
+constexpr auto All = XmlElementGroupType_All;
+constexpr auto Pseudo = XmlElementType_Pseudo;
+
+const std::u16string failedR = u"Failed to process the element [r]\n";
+
+TEST(AllGroup, ReadsInAnyOrderAndWritesInTableOrder) {
+    Model point(u"point");
+    point.Prim(u"x", Mnd, ItemType_i4);
+    Model r(u"r", All);
+    r.Prim(u"a", Mnd, ItemType_i4).Colour(u"c", Opt).Class(u"p", Mnd, point).Class(u"q", Opt, point);
+    EXPECT_EQ(Read(r, u"<r><q><x>4</x></q><p><x>3</x></p><c>red</c><a>1</a></r>"), u"1|1|{3}|{4}");
+    EXPECT_EQ(Read(r, u"<r><p><x>3</x></p><a>1</a></r>"), u"1|-|{3}|-");
+    const auto object = r.New();
+    object->FromXml(u"<r><p><x>3</x></p><a>1</a></r>", {});
+    EXPECT_EQ(Write(*object), u"<r><a>1</a><p><x>3</x></p></r>");
+}
+
+TEST(AllGroup, ReportsMissingMembersBeforeLeftOverChildren) {
+    Model r(u"r", All);
+    r.Prim(u"a", Mnd, ItemType_i4).Prim(u"b", Opt, ItemType_i4);
+    EXPECT_EQ(Read(r, u"<r><u/><a>1</a></r>"), failedR + u"Failed to find the mandatory element [a]");
+    EXPECT_EQ(Read(r, u"<r><b>1</b></r>"), failedR + u"Failed to find the mandatory element [a]");
+    EXPECT_EQ(Read(r, u"<r><b>1</b></r>", missingElements),
+              failedR + u"Failed to find the mandatory element [a]");
+    EXPECT_EQ(
+        Read(r, u"<r><a>1</a><a>2</a></r>"),
+        failedR +
+            u"Failed read all the elements held within the element [r]. The unexpected element [a] remains "
+            u"un processed");
+    EXPECT_EQ(Read(r, u"<r><a>1</a><u/></r>", unknownElements), u"1|-");
+    // Nothing is skipped: a member behind an unknown child is lost.
+    EXPECT_EQ(Read(r, u"<r><a>1</a><u/><b>2</b></r>", unknownElements), u"1|-");
+}
+
+TEST(AllGroup, InAGroupGivesThePositionBack) {
+    Model all(u"all", All, Pseudo);
+    all.Prim(u"a", Mnd, ItemType_i4).Prim(u"b", Mnd, ItemType_i4);
+    Model r(u"r");
+    r.Class(u"all", Opt, all).Prim(u"b", Opt, ItemType_i4).Prim(u"a", Opt, ItemType_i4);
+    EXPECT_EQ(Read(r, u"<r><b>2</b><a>1</a></r>"), u"{1,2}|-|-");
+    EXPECT_EQ(Read(r, u"<r><b>2</b></r>"), u"-|2|-");
+}
+
+TEST(AllGroup, MandatoryObjectMayBeMissingUnlessItMustConsumeOrHasNoTag) {
+    Model child(u"child");
+    child.Prim(u"x", Opt, ItemType_i4);
+    Model group(u"group", XmlElementGroupType_Sequence, Pseudo);
+    group.Prim(u"x", Opt, ItemType_i4);
+    Model relaxed(u"r", All);
+    relaxed.Class(u"p", Mnd, child, false);
+    EXPECT_EQ(Read(relaxed, u"<r/>"), u"{-}");
+    Model strict(u"r", All);
+    strict.Class(u"p", Mnd, child, true);
+    EXPECT_EQ(Read(strict, u"<r/>"), failedR + u"Failed to find the mandatory element [p]");
+    Model pseudo(u"r", All);
+    pseudo.Class(u"g", Mnd, group, false);
+    EXPECT_EQ(Read(pseudo, u"<r/>"), failedR + u"Failed to find the mandatory element [g]");
+    EXPECT_EQ(Read(pseudo, u"<r><x>1</x></r>"), u"{1}");
+}
+
+TEST(AllGroup, AbstractMembersAreWrittenButNotRead) {
+    const auto factory = [](CXmlElement*) { return CSmartPtr<CXmlObjectBase>(); };
+    Model circle(u"circle");
+    Model mandatory(u"r", All);
+    mandatory.Abstract(u"s", Mnd, factory);
+    EXPECT_EQ(
+        Read(mandatory, u"<r><any/></r>"),
+        failedR +
+            u"CElementInfoAllAbsClsMnd::ElementFromXml, has not been implemented fully, contact the Quillon "
+            u"Runtime maintainers");
+    Model optional(u"r", All);
+    optional.Abstract(u"s", Opt, factory);
+    EXPECT_EQ(
+        Read(optional, u"<r><s/></r>"),
+        failedR +
+            u"CElementInfoAllAbsClsOpt::ElementFromXml, has not been implemented fully, contact the Quillon "
+            u"Runtime maintainers");
+    EXPECT_EQ(Read(optional, u"<r/>"), u"-");
+    const auto object = optional.New();
+    object->properties[0].SetXmlObject(circle.New(u"s"));
+    EXPECT_EQ(Write(*object), u"<r><s/></r>");
+}
+
+} // namespace

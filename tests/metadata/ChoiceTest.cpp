@@ -1,0 +1,205 @@
+/// Choices: one member, none, two; nested groups that give the position back; repeated members.
+
+#include "support/Roundtrip.h"
+
+#include <KzXmlLib10/metadata/CElementInfoChoice.h>
+
+#include <gtest/gtest.h>
+
+using namespace kit;
+
+namespace {
+
+constexpr auto Choice = XmlElementGroupType_Choice;
+constexpr auto Element = XmlElementType_Element;
+constexpr auto Pseudo = XmlElementType_Pseudo;
+
+const std::u16string failedR = u"Failed to process the element [r]\n";
+const std::u16string noneIn =
+    u"No child elements within the element [r] were populated. The element represents a "
+    u"choice, so one and only one element should be populated. The element contained no "
+    u"sutable child elements";
+const std::u16string noneSet =
+    u"Failed to convert the element [r] to XML\nThis element is a choice, and as such must "
+    u"have at one (and only one) valid item, currently there are none set";
+
+std::u16string LeftOver(const char16_t* name) {
+    return failedR + u"Failed read all the elements held within the element [r]. The unexpected element [" +
+           name + u"] remains un processed";
+}
+
+class ChoiceOfMembers : public testing::Test {
+protected:
+    ChoiceOfMembers() {
+        point.Prim(u"x", Mnd, ItemType_i4);
+        r.Prim(u"a", Opt, ItemType_i4).Colour(u"c", Opt).Class(u"p", Opt, point);
+    }
+    Model point{u"point"};
+    Model r{u"r", Choice};
+};
+
+TEST_F(ChoiceOfMembers, TakesExactlyOne) {
+    EXPECT_EQ(Read(r, u"<r><a>1</a></r>"), u"1|-|-");
+    EXPECT_EQ(Read(r, u"<r><c>blue</c></r>"), u"-|3|-");
+    EXPECT_EQ(Read(r, u"<r><p><x>7</x></p></r>"), u"-|-|{7}");
+    EXPECT_EQ(Read(r, u"<r/>"), u"-|-|-"); // its members are optional
+    EXPECT_EQ(Read(r, u"<r><a>1</a><c>red</c></r>"), LeftOver(u"c"));
+    EXPECT_EQ(Read(r, u"<r><a>1</a><a>2</a></r>"), LeftOver(u"a"));
+    EXPECT_EQ(Read(r, u"<r><u/></r>"), LeftOver(u"u"));
+    EXPECT_EQ(Read(r, u"<r><u/><c>red</c><a>2</a></r>", unknownElements), u"-|1|-");
+    EXPECT_EQ(Read(r, u"<r><p><x>no</x></p></r>"),
+              failedR + u"Failed to process the element [p]\nThe value [no] can not be converted to a i4");
+}
+
+TEST_F(ChoiceOfMembers, WritesTheFirstInTableOrder) {
+    const auto object = r.New();
+    EXPECT_EQ(Write(*object), u"<r/>");
+    object->properties[1].SetI4(2);
+    EXPECT_EQ(Write(*object), u"<r><c>green</c></r>");
+    object->properties[0].SetI4(1);
+    EXPECT_EQ(Write(*object), u"<r><a>1</a></r>");
+}
+
+TEST_F(ChoiceOfMembers, ObjectIsInPlaceBeforeItIsRead) {
+    const auto object = r.New();
+    EXPECT_NE(FailureOf([&] { object->FromXml(u"<r><p><x>no</x></p></r>", {}); }), u"");
+    ASSERT_NE(object->Child(2), nullptr);
+    EXPECT_EQ(object->Child(2)->Text(0), u"-");
+}
+
+TEST(EmptyChoice, IsAFailureOnlyWhereEveryMemberMustOccur) {
+    Model item(u"item");
+    item.Prim(u"x", Opt, ItemType_i4);
+    Model r(u"r", Choice);
+    r.Collection(u"a", item, 1).Collection(u"b", item, 2);
+    EXPECT_EQ(Read(r, u"<r/>"), failedR + noneIn);
+    EXPECT_EQ(Read(r, u"<r/>", missingChoice), u"[]|[]");
+    EXPECT_EQ(Write(*r.New()), noneSet);
+    CXmlSerializationContext context;
+    context.SetIgnoreMissingChoice(true);
+    EXPECT_EQ(Write(*r.New(), context), u"<r/>");
+    r.Collection(u"c", item, 0);
+    EXPECT_EQ(Read(r, u"<r/>"), u"[]|[]|[]");
+    EXPECT_EQ(Write(*r.New()), u"<r/>");
+
+    Model empty(u"r", Choice);
+    EXPECT_EQ(Read(empty, u"<r/>"), failedR + noneIn);
+}
+
+TEST(EmptyChoice, IsAllowedInsideAnOptionalMember) {
+    Model item(u"item");
+    Model inner(u"inner", Choice);
+    inner.Collection(u"a", item, 1);
+    Model r(u"r", Choice);
+    r.Class(u"inner", Opt, inner);
+    EXPECT_EQ(Read(r, u"<r><inner/></r>"), u"{[]}");
+    const auto object = r.New();
+    object->FromXml(u"<r><inner/></r>", {});
+    EXPECT_EQ(Write(*object), u"<r><inner/></r>");
+    Model sequence(u"r");
+    sequence.Class(u"inner", Opt, inner);
+    EXPECT_TRUE(Read(sequence, u"<r><inner/></r>")
+                    .starts_with(failedR + u"Failed to process the element [inner]\nNo child"));
+}
+
+TEST(ChoiceOfCollections, TakesOneRunAndChecksItsCount) {
+    Model item(u"item");
+    item.Content(ItemType_i4);
+    Model r(u"r", Choice);
+    r.Collection(u"a", item, 0, 2).Collection(u"b", item, 2);
+    EXPECT_EQ(Read(r, u"<r><a>1</a><a>2</a></r>"), u"[{1}{2}]|[]");
+    EXPECT_EQ(Read(r, u"<r><b>1</b><b>2</b><b>3</b></r>"), u"[]|[{1}{2}{3}]");
+    EXPECT_EQ(Read(r, u"<r><a>1</a><b>2</b><b>3</b></r>"), LeftOver(u"b"));
+    EXPECT_EQ(Read(r, u"<r><a>1</a><a>2</a><a>3</a></r>"),
+              failedR + u"The Maximum number of [a] elements allowed in this collection is 2");
+    EXPECT_EQ(Read(r, u"<r><b>1</b></r>"),
+              failedR + u"The Minimum number of [b] elements allowed in this collection is 2");
+    EXPECT_EQ(Read(r, u"<r><b>1</b></r>", invalidCounts), u"[]|[{1}]");
+
+    // On writing a choice never looks at counts.
+    const auto object = r.New();
+    object->Children(1)->Add(item.New(u"b"));
+    object->Children(1)->Item(0)->properties[0].SetI4(5);
+    EXPECT_EQ(Write(*object), u"<r><b>5</b></r>");
+}
+
+TEST(ChoiceOfGroups, GivesThePositionBackAndClearsWhatItTried) {
+    Model pair(u"pair", XmlElementGroupType_Sequence, Pseudo);
+    pair.Prim(u"a", Mnd, ItemType_i4).Prim(u"b", Mnd, ItemType_i4);
+    Model r(u"r", Choice);
+    r.Class(u"pair", Opt, pair).Prim(u"a", Opt, ItemType_i4);
+    EXPECT_EQ(Read(r, u"<r><a>1</a><b>2</b></r>"), u"{1,2}|-");
+    EXPECT_EQ(Read(r, u"<r><a>1</a></r>"), u"-|1");
+    EXPECT_EQ(Read(r, u"<r><a>1</a><c/></r>"), LeftOver(u"c"));
+}
+
+TEST(ChoiceOfGroups, NestsInSequencesAndChoices) {
+    // r = (head, ((x | (y, z)) | w*), tail?)
+    Model yz(u"yz", XmlElementGroupType_Sequence, Pseudo);
+    yz.Prim(u"y", Mnd, ItemType_i4).Prim(u"z", Mnd, ItemType_i4);
+    Model inner(u"inner", Choice, Pseudo);
+    inner.Prim(u"x", Opt, ItemType_i4).Class(u"yz", Opt, yz);
+    Model w(u"w");
+    w.Content(ItemType_i4);
+    Model outer(u"outer", Choice, Pseudo);
+    outer.Class(u"inner", Opt, inner).Collection(u"w", w, 0, 2);
+    Model r(u"r");
+    r.Prim(u"head", Mnd, ItemType_i4).Class(u"outer", Mnd, outer, true).Prim(u"tail", Opt, ItemType_i4);
+    EXPECT_EQ(Read(r, u"<r><head>0</head><x>1</x><tail>9</tail></r>"), u"0|{{1,-},[]}|9");
+    EXPECT_EQ(Read(r, u"<r><head>0</head><y>1</y><z>2</z></r>"), u"0|{{-,{1,2}},[]}|-");
+    EXPECT_EQ(Read(r, u"<r><head>0</head><w>1</w><w>2</w><tail>9</tail></r>"), u"0|{-,[{1}{2}]}|9");
+    EXPECT_EQ(Read(r, u"<r><head>0</head><tail>9</tail></r>"),
+              failedR + u"Failed to find a required element [outer]");
+    EXPECT_EQ(Read(r, u"<r><head>0</head><y>1</y></r>"),
+              failedR + u"Failed to find a required element [outer]");
+    // In a group the count is told by false, so the run is as if it had not been there.
+    EXPECT_EQ(Read(r, u"<r><head>0</head><w>1</w><w>2</w><w>3</w></r>"),
+              failedR + u"Failed to find a required element [outer]");
+    EXPECT_EQ(Read(r, u"<r><head>0</head><y>1</y><z>bad</z></r>"),
+              failedR + failedR + failedR + failedR + u"The value [bad] can not be converted to a i4");
+
+    const auto object = r.New();
+    object->FromXml(u"<r><head>0</head><y>1</y><z>2</z></r>", {});
+    EXPECT_EQ(Write(*object), u"<r><head>0</head><y>1</y><z>2</z></r>");
+}
+
+TEST(ChoiceOfGroups, WithoutAttributesKeepThePositionAMemberLeft) {
+    Model skipping(u"skipping", XmlElementGroupType_Sequence, Pseudo);
+    skipping.Prim(u"a", Mnd, ItemType_i4);
+    Model choice(u"choice", Choice, Pseudo);
+    choice.Class(u"skipping", Opt, skipping);
+    Model r(u"r");
+    r.Class(u"choice", Opt, choice).Prim(u"b", Opt, ItemType_i4);
+    EXPECT_EQ(Read(r, u"<r><u/><a>1</a><b>2</b></r>", unknownElements), u"{{1}}|2");
+    EXPECT_EQ(Read(r, u"<r><b>2</b></r>", unknownElements), u"-|2");
+}
+
+TEST(RepeatedChoice, TakesOneAlternativeAfterTheOther) {
+    Model alternative(u"alternative", Choice, Pseudo);
+    alternative.Prim(u"a", Opt, ItemType_i4).Prim(u"b", Opt, ItemType_i4);
+    Model r(u"r");
+    r.Collection(u"alternative", alternative, 1, 3);
+    EXPECT_EQ(Read(r, u"<r><a>1</a><b>2</b><a>3</a></r>"), u"[{1,-}{-,2}{3,-}]");
+    EXPECT_EQ(Read(r, u"<r/>"),
+              failedR + u"The Minimum number of [alternative] elements allowed in this collection is 1");
+    const auto object = r.New();
+    object->FromXml(u"<r><b>2</b><a>1</a></r>", {});
+    EXPECT_EQ(Write(*object), u"<r><b>2</b><a>1</a></r>");
+}
+
+TEST(AbstractChoice, StoresNothingWhereTheFactoryDeclines) {
+    static Model circle(u"circle");
+    Model r(u"r", Choice);
+    r.Abstract(u"shape", Opt,
+               [](CXmlElement*) -> CSmartPtr<CXmlObjectBase> { return CSmartPtr<CXmlObjectBase>(); });
+    r.Prim(u"shape", Opt, ItemType_string);
+    EXPECT_EQ(Read(r, u"<r><shape>x</shape></r>"), u"-|x");
+}
+
+TEST(Validate, BelongsToAllGroups) {
+    const CElementInfoChoicePrimCol member(u"a", u"", 0);
+    EXPECT_EQ(FailureOf([&] { member.Validate({}, nullptr, false, true); }),
+              u"Not implemented, should never be called");
+}
+
+} // namespace

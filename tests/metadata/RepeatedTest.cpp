@@ -1,0 +1,194 @@
+/// Repeated members and wildcards of sequences, and attribute wildcards.
+
+#include "support/Roundtrip.h"
+
+#include <KzXmlLib10/collections/CAttributeCol.h>
+#include <KzXmlLib10/collections/CElement.h>
+#include <KzXmlLib10/collections/CElementCol.h>
+#include <KzXmlLib10/metadata/CAttributeInfoAny.h>
+#include <KzXmlLib10/metadata/CElementInfoAll.h>
+#include <KzXmlLib10/metadata/CElementInfoChoice.h>
+#include <KzXmlLib10/metadata/CElementInfoSeq.h>
+
+#include <gtest/gtest.h>
+
+using namespace kit;
+
+namespace {
+
+constexpr auto Pseudo = XmlElementType_Pseudo;
+const std::u16string failedR = u"Failed to process the element [r]\n";
+
+CXmlObjectBase* NewElements() { return new CElementCol(u"", u"##any", u"urn:t", 0, unbounded); }
+
+TEST(RepeatedMember, TakesOneRunAndChecksItsCount) {
+    Model item(u"item");
+    item.Content(ItemType_i4);
+    Model r(u"r");
+    r.Collection(u"a", item, 1, 2).Prim(u"b", Opt, ItemType_i4);
+    EXPECT_EQ(Read(r, u"<r><a>1</a><a>2</a><b>3</b></r>"), u"[{1}{2}]|3");
+    EXPECT_EQ(Read(r, u"<r><b>3</b></r>"),
+              failedR + u"The Minimum number of [a] elements allowed in this collection is 1");
+    EXPECT_EQ(Read(r, u"<r><a>1</a><a>2</a><a>3</a></r>"),
+              failedR + u"The Maximum number of [a] elements allowed in this collection is 2");
+    EXPECT_EQ(Read(r, u"<r><a>1</a><a>2</a><a>3</a></r>", invalidCounts), u"[{1}{2}{3}]|-");
+    EXPECT_EQ(Read(r, u"<r><a>1</a><a>x</a></r>"),
+              failedR + u"Failed to process the element [a]\nThe value [x] can not be converted to a i4");
+    EXPECT_EQ(
+        Read(r, u"<r><a>1</a><b>2</b><a>3</a></r>"),
+        failedR +
+            u"Failed read all the elements held within the element [r]. The unexpected element [a] remains "
+            u"un processed");
+
+    // Under the flag, what stands between is skipped and the repeated member, which moved last, looks again.
+    Model last(u"r");
+    last.Prim(u"b", Opt, ItemType_i4).Collection(u"a", item);
+    EXPECT_EQ(Read(last, u"<r><b>1</b><a>1</a><u/><a>2</a><u/></r>", unknownElements), u"1|[{1}{2}]");
+}
+
+TEST(RepeatedMember, IsCountedOnWritingInASequence) {
+    Model item(u"item");
+    Model r(u"r");
+    r.Collection(u"a", item, 1);
+    EXPECT_EQ(Write(*r.New()),
+              u"Failed to convert the element [r] to XML\nThe Minimum number of [a] elements allowed in "
+              u"this collection is 1");
+    CXmlSerializationContext context;
+    context.SetIgnoreInvalidCollectionCounts(true);
+    EXPECT_EQ(Write(*r.New(), context), u"<r/>");
+}
+
+TEST(RepeatedMember, OfAGroupStopsWhereTheGroupTakesNothing) {
+    Model pair(u"pair", XmlElementGroupType_Sequence, Pseudo);
+    pair.Attribute(u"n", Optional, ItemType_i4).Prim(u"a", Mnd, ItemType_i4).Prim(u"b", Mnd, ItemType_i4);
+    Model r(u"r");
+    r.Collection(u"pair", pair, 0).Prim(u"a", Opt, ItemType_i4);
+    EXPECT_EQ(Read(r, u"<r><a>1</a><b>2</b><a>3</a><b>4</b><a>5</a></r>"), u"[{-,1,2}{-,3,4}]|5");
+    const auto object = r.New();
+    object->FromXml(u"<r><a>1</a><b>2</b></r>", {});
+    object->Children(0)->Item(0)->properties[0].SetI4(6);
+    EXPECT_EQ(Write(*object), u"<r n=\"6\"><a>1</a><b>2</b></r>");
+
+    Model group(u"group", XmlElementGroupType_Sequence, Pseudo);
+    Model item(u"item");
+    group.Collection(u"i", item, 2);
+    Model owner(u"r");
+    owner.Class(u"group", Opt, group)
+        .Element(new CElementInfoSeqUntpdOpt(u"AnyElement", u"", 1, u"##any", u""));
+    EXPECT_EQ(Read(owner, u"<r><i/></r>"), u"-|<i/>"); // too few for the group, so it gives the item back
+}
+
+TEST(Wildcard, TakesOneElementOfAnyName) {
+    Model r(u"r");
+    r.Prim(u"a", Opt, ItemType_i4)
+        .Element(new CElementInfoSeqUntpdOpt(u"AnyElement", u"", 1, u"##any", u"urn:t"))
+        .Prim(u"z", Opt, ItemType_i4);
+    EXPECT_EQ(Read(r, u"<r><a>1</a><x k='v'><y>t</y></x><z>2</z></r>"), u"1|<x k=\"v\"><y>t</y></x>|2");
+    EXPECT_EQ(Read(r, u"<r><a>1</a></r>"), u"1|-|-");
+    EXPECT_EQ(Read(r, u"<r><z>2</z></r>"), u"-|<z>2</z>|-"); // it stands first, so it takes it
+
+    Model named(u"r");
+    named.Element(new CElementInfoSeqUntpdOpt(u"x", u"", 0, u"##any", u""));
+    EXPECT_EQ(Read(named, u"<r><p:x xmlns:p='urn:p'/></r>"), u"<AA:x xmlns:AA=\"urn:p\"/>");
+    EXPECT_EQ(
+        Read(named, u"<r><y/></r>"),
+        failedR +
+            u"Failed read all the elements held within the element [r]. The unexpected element [y] remains "
+            u"un processed");
+}
+
+TEST(Wildcard, MandatoryFailsInItsOwnWords) {
+    const auto make = []() -> CXmlObjectBase* {
+        return new CElement(u"AnyElement", u"", u"##local", u"urn:t");
+    };
+    Model r(u"r");
+    r.Element(new CElementInfoSeqUntpdMnd(u"AnyElement", u"urn:n", 0, u"##local", u"urn:t"), make);
+    EXPECT_EQ(Read(r, u"<r><x/></r>"), u"<x/>");
+    EXPECT_EQ(Read(r, u"<r><x xmlns='urn:t'/></r>"),
+              failedR + u"Failed to find the required element from namespace [urn:n]");
+    EXPECT_EQ(Read(r, u"<r/>"), failedR + u"Failed to find a required element [AnyElement]");
+    // Even in a group the end of the list is a failure.
+    Model group(u"group", XmlElementGroupType_Sequence, Pseudo);
+    group.Prim(u"a", Mnd, ItemType_i4)
+        .Element(new CElementInfoSeqUntpdMnd(u"AnyElement", u"", 1, u"##local", u"urn:t"), make);
+    Model owner(u"r");
+    owner.Class(u"group", Opt, group);
+    EXPECT_EQ(Read(owner, u"<r><a>1</a></r>"),
+              failedR + failedR + u"Failed to find a required element [AnyElement]");
+}
+
+TEST(Wildcard, RepeatedTakesTheRest) {
+    Model r(u"r");
+    r.Prim(u"a", Opt, ItemType_i4).Element(new CElementInfoSeqUntpdCol(u"AnyElement", u"", 1), NewElements);
+    EXPECT_EQ(Read(r, u"<r><a>1</a><x/><p:y xmlns:p='urn:p'>t</p:y></r>"),
+              u"1|[<x/><AA:y xmlns:AA=\"urn:p\">t</AA:y>]");
+    EXPECT_EQ(Read(r, u"<r/>"), u"-|[]");
+    // Locked to one name, in the namespace of the first.
+    Model locked(u"r");
+    locked.Element(new CElementInfoSeqUntpdCol(u"x", u"", 0), NewElements).Prim(u"y", Opt, ItemType_i4);
+    EXPECT_EQ(Read(locked, u"<r><x/><x>2</x><y>3</y></r>"), u"[<x/><x>2</x>]|3");
+    EXPECT_EQ(Read(locked, u"<r/>"), u"[]|-");
+}
+
+TEST(Wildcard, InAChoice) {
+    Model r(u"r", XmlElementGroupType_Choice);
+    r.Prim(u"a", Opt, ItemType_i4).Element(new CElementInfoChoiceUntpdCol(u"x", u"", 1), NewElements);
+    EXPECT_EQ(Read(r, u"<r><x/><x/></r>"), u"-|[<x/><x/>]");
+    EXPECT_EQ(Read(r, u"<r><a>1</a></r>"), u"1|[]");
+    EXPECT_EQ(Read(r, u"<r/>"), u"-|[]"); // nothing left, nothing taken
+    Model single(u"r", XmlElementGroupType_Choice);
+    single.Element(new CElementInfoChoiceUntpdOpt(u"x", u"", 0, u"##any", u"")).Prim(u"y", Opt, ItemType_i4);
+    EXPECT_EQ(Read(single, u"<r><x>t</x></r>"), u"<x>t</x>|-");
+    EXPECT_EQ(Read(single, u"<r><y>1</y></r>"), u"-|1");
+}
+
+TEST(Wildcard, InAnAllGroup) {
+    Model r(u"r", XmlElementGroupType_All);
+    r.Element(new CElementInfoAllUntpdOpt(u"x", u"", 0, u"##any", u"")).Prim(u"a", Mnd, ItemType_i4);
+    EXPECT_EQ(Read(r, u"<r><a>1</a><x>t</x></r>"), u"<x>t</x>|1");
+    EXPECT_EQ(Read(r, u"<r><a>1</a></r>"), u"-|1");
+    Model mandatory(u"r", XmlElementGroupType_All);
+    mandatory.Element(new CElementInfoAllUntpdMnd(u"x", u"", 0, u"##any", u""),
+                      []() -> CXmlObjectBase* { return new CElement(u"x"); });
+    EXPECT_EQ(Read(mandatory, u"<r/>"), failedR + u"Failed to find the mandatory element [x]");
+    EXPECT_EQ(Read(mandatory, u"<r><x>t</x></r>"), u"<x>t</x>");
+}
+
+TEST(AttributeWildcard, TakesWhatItsConstraintAdmits) {
+    const auto make = []() -> CXmlObjectBase* { return new CAttributeCol(u"", u"##any", u"urn:t"); };
+    Model r(u"r", XmlElementGroupType_Sequence, XmlElementType_Element, u"urn:t");
+    r.Attribute(u"id", Required, ItemType_i4)
+        .AddAttribute(new CAttributeInfoAny(u"", u"", 1, true, u"##other", u"urn:t", u""), make);
+    const std::u16string ns = u" xmlns='urn:t' xmlns:p='urn:p' xmlns:t='urn:t'";
+    EXPECT_EQ(Read(r, u"<r" + ns + u" id='1' p:x='2' y='3'/>"), u"1|[x=2 y=3 ]");
+    EXPECT_EQ(Read(r, u"<r" + ns + u" id='1' t:x='2'/>"), failedR + u"Unexpected Attribute [x] found.");
+    const auto object = r.New();
+    object->FromXml((u"<r" + ns + u" id='1' p:x='2'/>").c_str(), {});
+    EXPECT_EQ(Write(*object), u"<AA:r xmlns:AA=\"urn:t\" id=\"1\" xmlns:AB=\"urn:p\" AB:x=\"2\"/>");
+
+    // In front of a named attribute it takes that too.
+    Model first(u"r");
+    first.AddAttribute(new CAttributeInfoAny(u"", u"", 0, true, u"##any", u"", u""), make)
+        .Attribute(u"id", Optional, ItemType_i4);
+    EXPECT_EQ(Read(first, u"<r id='1'/>"), u"[id=1 ]|-");
+
+    Model wrong(u"r");
+    wrong.AddAttribute(new CAttributeInfoAny(u"", u"", 0, true, u"##any", u"", u""), NewElements);
+    EXPECT_EQ(Read(wrong, u"<r id='1'/>"),
+              failedR + u"Serialization Data Error : The collection should be a CAttributeCol, it was not!");
+}
+
+TEST(DefaultNamespaceOfAWildcard, FollowsTheFirstWordOfItsConstraint) {
+    const auto get = [](const char16_t* constraint, const char16_t* owner) {
+        return CElementInfo::GetAnyDefaultNamespace(constraint, owner, u"urn:t");
+    };
+    EXPECT_EQ(get(u"##any", u"urn:o"), u"urn:o");
+    EXPECT_EQ(get(u"##any ##other", u"urn:o"), u"urn:o");
+    EXPECT_EQ(get(u"##other", u""), u"DefaultNamespace");
+    EXPECT_EQ(get(u"##other", u"urn:o"), u"");
+    EXPECT_EQ(get(u"##local", u"urn:o"), u"");
+    EXPECT_EQ(get(u"##targetNamespace ##local", u"urn:o"), u"urn:t");
+    EXPECT_EQ(get(u"urn:a urn:b", u"urn:o"), u"");
+}
+
+} // namespace

@@ -1,0 +1,66 @@
+#include "support/Roundtrip.h"
+
+#include <KzXmlLib10/collections/CAttribute.h>
+#include <KzXmlLib10/collections/CAttributeCol.h>
+#include <KzXmlLib10/collections/CElement.h>
+#include <KzXmlLib10/collections/CElementCol.h>
+
+namespace kit {
+
+namespace {
+
+std::u16string ShowObject(const CXmlObjectBase* object);
+
+std::u16string ShowProperties(const CModelObject& object, const char16_t* separator) {
+    std::u16string text;
+    for (std::size_t i = 0; i < object.properties.size(); ++i) {
+        const int property = static_cast<int>(i);
+        const bool isObject = object.properties[i].GetTypeAsEnum() >= ItemType_xmlObject;
+        text += i ? separator : u"";
+        text += isObject ? ShowObject(object.Held(property)) : object.Text(property);
+    }
+    return text;
+}
+
+std::u16string ShowObject(const CXmlObjectBase* object) {
+    if (const auto* child = dynamic_cast<const CModelObject*>(object))
+        return u"{" + ShowProperties(*child, u",") + u"}";
+    std::u16string text;
+    if (const auto* children = dynamic_cast<const CModelCol*>(object)) {
+        for (int i = 0; i < children->GetCount(); ++i)
+            text += ShowObject(children->Item(i));
+        return u"[" + text + u"]";
+    }
+    if (const auto* attributes = dynamic_cast<const CAttributeCol*>(object)) {
+        for (const CAttribute& attribute : *attributes)
+            text += attribute.GetName() + u"=" + attribute.GetValue() + u" ";
+        return u"[" + text + u"]";
+    }
+    if (const auto* elements = dynamic_cast<const CElementCol*>(object)) {
+        for (const CElement& element : *elements)
+            text += ShowObject(&element);
+        return u"[" + text + u"]";
+    }
+    return object ? Write(*object) : u"-";
+}
+
+} // namespace
+
+std::u16string Show(const CModelObject& object) { return ShowProperties(object, u"|"); }
+
+std::u16string Read(const Model& model, const std::u16string& xml, Flag flag) {
+    CXmlSerializationContext context;
+    if (flag)
+        (context.*flag)(true);
+    const CSmartPtr<CModelObject> object = model.New();
+    const std::u16string failure = FailureOf([&] { object->FromXml(xml.c_str(), context); });
+    return failure.empty() ? Show(*object) : failure;
+}
+
+std::u16string Write(const CXmlObjectBase& object, const CXmlSerializationContext& context) {
+    std::u16string text;
+    const std::u16string failure = FailureOf([&] { text = object.ToXml(false, false, EOLType_LF, context); });
+    return failure.empty() ? text : failure;
+}
+
+} // namespace kit
