@@ -1,0 +1,37 @@
+#include "ClassFactory.h"
+
+#include "CCarrier.h"
+#include "CCustomer.h"
+
+#include <KzXmlLib10/object/Register.h>
+
+namespace orders {
+
+namespace {
+
+[[maybe_unused]] const bool isRegistered = (Register(10, 1), true);
+
+} // namespace
+
+CSmartPtr<CXmlObjectBase> CClassFactory::CreateObject(int classId, const char16_t* elementName) {
+    switch (classId) {
+    case ClassId_Address:
+        return new CAddress(elementName);
+    case ClassId_Customer:
+        return new CCustomer(elementName);
+    }
+    return nullptr;
+}
+
+CSmartPtr<CXmlObjectBase> CClassFactory::CreateCarrier(CXmlElement* element) {
+    if (GetElementTypeNamespaceUri(element) != shipmentNamespace)
+        return nullptr;
+    const std::u16string type = GetElementType(element);
+    if (type == u"CourierType")
+        return new CCourier(u"carrier");
+    if (type == u"PostType")
+        return new CPost(u"carrier");
+    return nullptr;
+}
+
+} // namespace orders
