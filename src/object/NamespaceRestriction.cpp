@@ -8,27 +8,31 @@
 
 namespace KzXmlLib10 {
 
+namespace {
+
+bool TokenAdmits(std::u16string_view token, std::u16string_view ns, std::u16string_view restriction,
+                 std::u16string_view targetNamespace) {
+    if (token == u"##any")
+        return true;
+    if (token == u"##other")
+        return ns != targetNamespace;
+    if (token == u"##local")
+        return ns.empty();
+    if (token == u"##targetNamespace")
+        return ns == targetNamespace;
+    // Deliberate: an empty namespace passes, and the whole restriction is compared, not the token.
+    return ns == restriction || ns.empty();
+}
+
+} // namespace
+
 bool IsNamespaceValid(std::u16string_view ns, std::u16string_view restriction,
                       std::u16string_view targetNamespace) {
     const std::size_t space = restriction.find(u' ');
-    const std::u16string_view token = restriction.substr(0, space);
-    // Deliberate: an empty namespace passes against a namespace, and a namespace is compared with the whole
-    // restriction, not with the token.
-    const bool isWholeRestriction = ns == restriction || ns.empty();
-    if (token == u"##any")
+    if (TokenAdmits(restriction.substr(0, space), ns, restriction, targetNamespace))
         return true;
-    if (token == u"##other" && ns != targetNamespace)
-        return true;
-    if (token == u"##targetNamespace" && ns == targetNamespace)
-        return true;
-    if (token == u"##local" && ns.empty())
-        return true;
-    const bool isKeyword = token == u"##other" || token == u"##targetNamespace" || token == u"##local";
-    if (!isKeyword && isWholeRestriction)
-        return true;
-    // Deliberate: behind the first token of several the walk meets none but empty tokens, which are no
-    // keywords.
-    return space != std::u16string_view::npos && isWholeRestriction;
+    // Deliberate: what follows the first token counts as empty tokens, however many, so one look tells all.
+    return space != std::u16string_view::npos && TokenAdmits(u"", ns, restriction, targetNamespace);
 }
 
 void TestNamespace(std::u16string_view ns, std::u16string_view restriction,
