@@ -28,7 +28,7 @@ std::u16string CElementCol::GetNamespace() const { return m_targetNamespace; }
 std::u16string CElementCol::GetTargetNamespace() const { return m_targetNamespace; }
 
 CSmartPtr<CElement> CElementCol::Add(CElement* element) {
-    KzXmlLib10::TestNamespace(NotNull(element, u"element")->GetNamespace(), m_namespaceRestriction,
+    KzXmlLib10::TestNamespace(NotNull(element, u"element")->m_namespace, m_namespaceRestriction,
                               m_targetNamespace);
     AppendItem(element);
     return element;

@@ -96,6 +96,7 @@ protected:
     void FireOnChangeText();
 
 private:
+    friend class CElementCol;
     friend class KzXmlLib10Data::CAttributeInfo;
     friend class KzXmlLib10Data::CElementInfo;
 
