@@ -175,10 +175,10 @@ TEST(CXmlCollection, IdentityDecidesAndTheFirstNodeIsFound) {
 
 TEST(CXmlCollection, WhatAListenerThrowsStopsTheChangeWhereItStands) {
     EventLog log(NameOf);
+    IEventSink::MsgType refused{};
     CItemCol items;
     items.Fill(u"a");
     log.Watch(items);
-    IEventSink::MsgType refused{};
     log.during = [&](IEventSink::MsgType type) {
         if (type == refused)
             throw Refusal();
@@ -241,10 +241,10 @@ TEST(CXmlCollection, ListenersMayComeAndGoDuringAnEvent) {
 
 TEST(CXmlCollection, AListenerMayRemoveTheItemThatTheEventIsAbout) {
     EventLog log(NameOf), second(NameOf);
-    CItemCol items;
-    log.Watch(items);
     bool busy = false;
     IEventSink::MsgType trigger = IEventSink::MsgType_CollectionAddComplete;
+    CItemCol items;
+    log.Watch(items);
     log.during = [&](IEventSink::MsgType type) {
         if (busy || type != trigger)
             return;
