@@ -15,7 +15,15 @@ inline constexpr char16_t MinimumNotReached[] =
     u"The Minimum number of [%s] elements allowed in this collection is %d";
 inline constexpr char16_t InsertIndexOutOfRange[] = u"Index out of range";
 inline constexpr char16_t ItemIndexOutOfRange[] = u"Index %d is out of range, use 0 - %d";
+inline constexpr char16_t CollectionFull[] = u"A collection cannot hold more than %d items";
 inline constexpr char16_t ItemNotFound[] = u"The object was not found in the collection";
+inline constexpr char16_t NotOfKindDateTime[] = u"Dates added to this collection must be of type dt_dateTime";
+inline constexpr char16_t NotOfKindDate[] = u"Dates added to this collection must be of type dt_date";
+inline constexpr char16_t NotOfKindTime[] = u"Dates added to this collection must be of type dt_time";
+inline constexpr char16_t NotOfKindGYearMonth[] =
+    u"Dates added to this collection must be of type dt_gYearMonth";
+inline constexpr char16_t NotOfKindGMonthDay[] =
+    u"Dates added to this collection must be of type dt_gMonthDay";
 inline constexpr char16_t NoTargetNamespace[] =
     u"CXmlCollectionBase::GetTargetNamespace Should not be used from within a Collection (program logic "
     u"error)";

@@ -343,24 +343,32 @@ TEST(CFastInfosetReader, DepthNeedsNoStack) {
     EXPECT_EQ(levels, depth);
 }
 
-/// Reads a string of 65536 characters, whose length stands `more` below that, and references to it.
-std::string ReadReferences(const std::string& start, std::size_t more, const std::string& reference,
-                           std::size_t count) {
-    CBinaryData bytes = Concatenated("E0 00 00 01 00" + start + "00010000", Bytes("78"), 65536 + more, "");
-    bytes.Append(Concatenated("", Bytes(reference), count, ""));
-    const std::string limit = std::to_string((64ull << 20) + 256ull * bytes.GetLength());
-    const std::string result = Read(bytes);
-    return result == "The names, values and texts of the document come to more than " + limit + " bytes"
-               ? "refused"
-               : result;
-}
-
 TEST(CFastInfosetReader, WhatReferencesAddIsLimited) {
-    EXPECT_EQ(ReadReferences("3C 00 'a' 93", 259, "A0", 100), "Unexpected End of File.");
-    EXPECT_EQ(ReadReferences("3C 00 'a' 93", 259, "A0", 1000), "refused");
-    EXPECT_EQ(ReadReferences("3C 60", 321, "00", 1000), "refused");
-    EXPECT_EQ(ReadReferences("38 CD 60", 321, "CD 81", 1000), "refused");
-    EXPECT_EQ(ReadReferences("7C 00 'a' 78 00 'b' 4C", 265, "00 80", 1000), "refused");
+    struct Shape {
+        const char* start; // up to the length of a string of 65536 characters and `more`
+        std::size_t more;
+        const char* reference;
+    };
+    for (const auto& [start, more, reference] : std::initializer_list<Shape>{
+             {"3C 00 'a' 93 00010000", 259, "A0"},
+             {"3C 60 00010000", 321, "00"},
+             {"38 CD 60 00010000", 321, "CD 81"},
+             {"7C 00 'a' 78 00 'b' 4C 00010000", 265, "00 80"},
+         }) {
+        const auto read = [&](std::size_t references) {
+            CBinaryData bytes =
+                Concatenated(std::string("E0 00 00 01 00") + start, Bytes("78"), 65536 + more, "");
+            bytes.Append(Concatenated("", Bytes(reference), references, ""));
+            const std::string limit = std::to_string((64ull << 20) + 256ull * bytes.GetLength());
+            const std::string result = Read(bytes);
+            return result ==
+                           "The names, values and texts of the document come to more than " + limit + " bytes"
+                       ? "refused"
+                       : result;
+        };
+        EXPECT_EQ(read(100), "Unexpected End of File.") << start;
+        EXPECT_EQ(read(1000), "refused") << start;
+    }
 }
 
 /// A document with names, values and texts of all sizes, and indices into all tables.

@@ -216,14 +216,16 @@ TEST(CFastInfosetWriter, EncodesValuesByKind) {
         {{ByAlphabet, 1}, u"-1.", "60 01 A1CF", "98 01 A1CF"},  // F pads
         {{ByAlphabet, 2}, u"1Z ", "60 11 1DEF", "98 05 1DEF"},
     };
-    for (const Case& row : cases) {
-        const auto script = [&](CXmlWriter& writer) {
-            Attribute(writer, u"b", row.value, ItemType_char);
-            Text(writer, row.value, ItemType_char);
-            Text(writer, row.value, ItemType_string); // by its index, whatever its kind
-        };
-        EXPECT_EQ(Inside(script, WithEncoding(row.encoding, ItemType_char)),
-                  Root("78 00 'b'" + std::string(row.attribute) + "F0" + row.chunk + "A0 FF", "78 F0"));
+    for (const auto& [encoding, value, attribute, chunk] : cases) {
+        const CXmlSerializationContext context = WithEncoding(encoding, ItemType_char);
+        EXPECT_EQ(Inside(
+                      [&](CXmlWriter& writer) {
+                          Attribute(writer, u"b", value, ItemType_char);
+                          Text(writer, value, ItemType_char);
+                          Text(writer, value, ItemType_string); // by its index, whatever its kind
+                      },
+                      context),
+                  Root("78 00 'b'" + std::string(attribute) + "F0" + chunk + "A0 FF", "78 F0"));
     }
 }
 

@@ -1,0 +1,123 @@
+#pragma once
+
+#include <KzXmlLib10/collections/CPrimitiveCol.h>
+#include <KzXmlLib10/conversions/CConversions.h>
+#include <KzXmlLib10/conversions/FacetChecks.h>
+#include <KzXmlLib10/xml/CXmlWriter.h>
+
+#include "collections/ItemIndex.h"
+
+#include <type_traits>
+#include <typeinfo>
+#include <utility>
+
+/// The operations of CPrimitiveCol. The source of a family gives the facts of each of its classes and
+/// instantiates the template for it.
+namespace KzXmlLib10 {
+
+/// All that tells one class from the others, besides the type of its values.
+template <class ToText, class FromText, class Check>
+struct PrimitiveColFacts {
+    const char16_t* className;
+    ItemType itemType;
+    ToText toText;     ///< of a value, or of a value and the format
+    FromText fromText; ///< of a text and the whitespace rule
+    Check check;       ///< of the facets; null for none
+};
+
+template <class ToText, class FromText, class Check>
+PrimitiveColFacts(const char16_t*, ItemType, ToText, FromText, Check)
+    -> PrimitiveColFacts<ToText, FromText, Check>;
+
+/// The row of facts of a class.
+template <class Collection>
+inline constexpr auto primitiveColFacts = nullptr;
+
+template <class Collection, class T>
+CPrimitiveCol<Collection, T>::CPrimitiveCol(const char16_t* elementName, const char16_t* elementNamespace,
+                                            int minOccurs, int maxOccurs, const char16_t* pattern,
+                                            int minLength, int maxLength, const char16_t* minInclusive,
+                                            const char16_t* maxInclusive, const char16_t* minExclusive,
+                                            const char16_t* maxExclusive, int length,
+                                            CWhitespaceUtils::WhitespaceRule whitespaceRule,
+                                            const char16_t* formatOverride)
+    : CXmlTypeCollection(primitiveColFacts<Collection>.itemType, elementName, elementNamespace, minOccurs,
+                         maxOccurs, pattern, minLength, maxLength, minInclusive, maxInclusive, minExclusive,
+                         maxExclusive, length, whitespaceRule, formatOverride),
+      CInstanceMonitor(primitiveColFacts<Collection>.className) {}
+
+template <class Collection, class T>
+CPrimitiveCol<Collection, T>::CPrimitiveCol(const CPrimitiveCol& other) = default;
+template <class Collection, class T>
+CPrimitiveCol<Collection, T>& CPrimitiveCol<Collection, T>::operator=(const CPrimitiveCol& other) = default;
+template <class Collection, class T>
+CPrimitiveCol<Collection, T>::~CPrimitiveCol() = default;
+
+template <class Collection, class T>
+void CPrimitiveCol<Collection, T>::Add(T value) {
+    AddAt(GetCount(), std::move(value));
+}
+
+template <class Collection, class T>
+void CPrimitiveCol<Collection, T>::AddAt(int index, T value) {
+    FireOnCollectionAdd(&value); // Deliberate: also for an index that is refused below.
+    RequireInsertIndex(index, GetCount());
+    if constexpr (!std::is_null_pointer_v<decltype(primitiveColFacts<Collection>.check)>)
+        primitiveColFacts<Collection>.check(GetElementName().c_str(), value, m_restrictions);
+    // Listeners still see the value afterwards; without any it is moved.
+    m_items.insert(m_items.begin() + index, HasEventListeners() ? value : std::move(value));
+    FireOnCollectionAddComplete(&value);
+    FireOnCollectionChange();
+}
+
+template <class Collection, class T>
+T CPrimitiveCol<Collection, T>::Item(int index) const {
+    RequireItemIndex(index, GetCount());
+    return m_items[static_cast<std::size_t>(index)];
+}
+
+template <class Collection, class T>
+int CPrimitiveCol<Collection, T>::GetCount() const {
+    return static_cast<int>(m_items.size());
+}
+
+template <class Collection, class T>
+void CPrimitiveCol<Collection, T>::Clear() {
+    // Nobody can tell the difference, except a subclass whose Remove does more.
+    if (!HasEventListeners() && typeid(*this) == typeid(Collection))
+        m_items.clear();
+    while (!m_items.empty())
+        Remove(0);
+}
+
+template <class Collection, class T>
+void CPrimitiveCol<Collection, T>::Remove(int index) {
+    FireOnCollectionRemove(index); // Deliberate: also for an index that is refused below.
+    RequireItemIndex(index, GetCount());
+    m_items.erase(m_items.begin() + index);
+    FireOnCollectionRemoveComplete(0); // Deliberate: 0 whatever the index.
+    FireOnCollectionChange();
+}
+
+template <class Collection, class T>
+void CPrimitiveCol<Collection, T>::AddFromString(std::u16string text) {
+    Add(primitiveColFacts<Collection>.fromText(text, m_whitespaceRule));
+}
+
+template <class Collection, class T>
+void CPrimitiveCol<Collection, T>::ToXml_Int(CXmlWriter* writer, bool, const char16_t*,
+                                             const CXmlSerializationContext& context, bool) const {
+    constexpr auto toText = primitiveColFacts<Collection>.toText;
+    ValidateCount(context);
+    const std::u16string name = GetElementName();
+    for (auto&& item : m_items) {
+        writer->StartElement(name, m_elementNamespace);
+        if constexpr (std::is_invocable_v<decltype(toText), const T&, const std::u16string&>)
+            writer->WriteText(toText(item, m_formatOverride), m_itemType);
+        else
+            writer->WriteText(toText(item), m_itemType);
+        writer->EndElement();
+    }
+}
+
+} // namespace KzXmlLib10

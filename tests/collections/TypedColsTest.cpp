@@ -1,0 +1,362 @@
+#include "support/EventLog.h"
+#include "support/Failure.h"
+#include "support/Model.h"
+#include "support/TypedCollection.h"
+
+#include <KzXmlLib10/collections/BinaryCols.h>
+#include <KzXmlLib10/collections/CalendarCols.h>
+#include <KzXmlLib10/collections/CbooleanCol.h>
+#include <KzXmlLib10/collections/CdurationCol.h>
+#include <KzXmlLib10/collections/CstringCol.h>
+#include <KzXmlLib10/collections/DateTimeCols.h>
+#include <KzXmlLib10/collections/ExactNumberCols.h>
+#include <KzXmlLib10/collections/IntegerCols.h>
+#include <KzXmlLib10/collections/RealCols.h>
+#include <KzXmlLib10/conversions/CConversions.h>
+#include <KzXmlLib10/metadata/CElementInfoSeq.h>
+
+#include <gtest/gtest.h>
+
+#include <chrono>
+#include <numeric>
+#include <type_traits>
+#include <utility>
+
+using namespace KzXmlLib10;
+using namespace KzXmlLib10::support;
+
+namespace {
+
+// Bases and conversions that callers rely on.
+static_assert(std::is_base_of_v<CInstanceMonitor, Ci4Col> && std::is_base_of_v<CInstanceMonitor, CdateCol>);
+static_assert(!std::is_base_of_v<CInstanceMonitor, CdatetimeBaseCol> && std::is_abstract_v<CdatetimeBaseCol>);
+static_assert(std::is_same_v<decltype(std::declval<Cui4Col>().Item(0)), std::uint32_t>);
+
+using Parameter = CKzInvalidParamException;
+
+template <class Collection>
+std::string Items(const Collection& items) {
+    return CollectionOwner(const_cast<Collection&>(items)).Calls();
+}
+
+/// What a collection writes of the items that it read.
+template <class Collection>
+std::string ReadAndWrite(const char16_t* content) {
+    auto items = Make<Collection>();
+    CollectionOwner(items).Read(content);
+    const Collection copy(items);
+    auto assigned = Make<Collection>({.maxOccurs = 0});
+    assigned = copy;
+    items.Clear();
+    EXPECT_EQ(items.GetCount(), 0);
+    EXPECT_EQ(Items(assigned), Items(copy));
+    return Items(copy);
+}
+
+TEST(TypedCols, ReadAndWriteTheValuesOfTheirKind) {
+    struct Row {
+        std::string (*readAndWrite)(const char16_t*);
+        const char16_t* content;
+        const char* calls;
+    };
+    const Row rows[] = {
+        {ReadAndWrite<CbooleanCol>, u"<i>1</i><i>FALSE</i>", "<i 24:true><i 24:false>"},
+        {ReadAndWrite<Ci1Col>, u"<i> -128</i><i>127 </i>", "<i 3:-128><i 3:127>"},
+        {ReadAndWrite<Ci2Col>, u"<i>-32768</i>", "<i 4:-32768>"},
+        {ReadAndWrite<Ci4Col>, u"<i>-2147483648</i><i/>", "<i 5:-2147483648><i 5:0>"},
+        {ReadAndWrite<Ci8Col>, u"<i>-9223372036854775808</i>", "<i 6:-9223372036854775808>"},
+        {ReadAndWrite<Cui1Col>, u"<i>255</i>", "<i 7:255>"},
+        {ReadAndWrite<Cui2Col>, u"<i>65535</i>", "<i 8:65535>"},
+        {ReadAndWrite<Cui4Col>, u"<i>4294967295</i>", "<i 9:4294967295>"},
+        {ReadAndWrite<Cui8Col>, u"<i>18446744073709551615</i>", "<i 10:18446744073709551615>"},
+        {ReadAndWrite<Cr4Col>, u"<i>0.1</i><i>INF</i>", "<i 11:0.1><i 11:INF>"},
+        {ReadAndWrite<Cr8Col>, u"<i>0.10</i><i/>", "<i 12:0.1><i 12:NaN>"},
+        {ReadAndWrite<CdecimalCol>, u"<i>-0.50</i>", "<i 25:-0.5>"},
+        {ReadAndWrite<CintegerCol>, u"<i>-00100000000000000000000</i>", "<i 26:-100000000000000000000>"},
+        {ReadAndWrite<CstringCol>, u"<i>  a  b </i><i/>", "<i 23:a b><i 23:>"},
+        {ReadAndWrite<ChexBinaryCol>, u"<i> 0aff </i><i/>", "<i 1:0AFF><i 1:>"},
+        {ReadAndWrite<Cbase64BinaryCol>, u"<i>Cv 8=</i><i>*</i>", "<i 2:Cv8=><i 2:>"},
+        {ReadAndWrite<CdurationCol>, u"<i>-P1YT0.50S</i>", "<i 13:-P1YT0.5S>"},
+        {ReadAndWrite<CyearCol>, u"<i>0987</i><i>2001-05-06</i>", "<i 16:987><i 16:2001>"},
+        {ReadAndWrite<CmonthCol>, u"<i>--05--</i>", "<i 17:--05>"},
+        {ReadAndWrite<CdayCol>, u"<i>---06</i>", "<i 18:---06>"},
+        // Deliberate: the type handed to the writer is datetime for all of these.
+        {ReadAndWrite<CdatetimeCol>, u"<i>2001-05-06T07:08:09.10Z</i>", "<i 20:2001-05-06T07:08:09.1Z>"},
+        {ReadAndWrite<CdateCol>, u"<i> 2001-05-06 </i><i>-0001-01-01</i>",
+         "<i 20:2001-05-06><i 20:-0001-01-01>"},
+        {ReadAndWrite<CtimeCol>, u"<i>00:00:00</i>", "<i 20:00:00:00>"},
+        {ReadAndWrite<CyearMonthCol>, u"<i>2001-05+01:00</i>", "<i 20:2001-05+01:00>"},
+        {ReadAndWrite<CmonthDayCol>, u"<i>--02-29</i>", "<i 20:--02-29>"},
+    };
+    for (const Row& row : rows)
+        EXPECT_EQ(row.readAndWrite(row.content), row.calls);
+}
+
+TEST(TypedCols, ReadAndWriteWholeDocuments) {
+    auto items = Make<CdecimalCol>();
+    CollectionOwner owner(items);
+    owner.Read(u"<i>1.50</i> <!-- and --> <i>2</i>");
+    EXPECT_EQ(owner.Write(), u"<r><i>1.5</i><i>2</i></r>");
+    items.Clear();
+    EXPECT_EQ(owner.Write(), u"<r/>");
+    // One run is taken, and a nil attribute is not looked at.
+    owner.Read(u"<i i:nil='true' xmlns:i='http://www.w3.org/2001/XMLSchema-instance'/><x/><i>3</i>");
+    EXPECT_EQ(owner.Write(), u"<r><i>0</i></r>");
+
+    Ci4Col qualified(u"i", u"urn:i", 0, -1, u"", -1, -1, u"", u"", u"", u"", -1,
+                     CWhitespaceUtils::WhitespaceRule_Collapse, nullptr);
+    CollectionOwner qualifiedOwner(qualified);
+    qualifiedOwner.Read(u"<p:i xmlns:p='urn:i'>7</p:i>");
+    EXPECT_EQ(qualifiedOwner.Write(), u"<r><AA:i xmlns:AA=\"urn:i\">7</AA:i></r>");
+}
+
+TEST(TypedCols, AreMembersOfGeneratedClasses) {
+    using KzXmlLib10Data::CElementInfoSeqClsCol;
+    kit::Model game(u"game");
+    game.Prim(u"title", kit::Mnd, ItemType_string);
+    game.Element(new CElementInfoSeqClsCol(u"i", u"", 1, KzXmlLib10Data::XmlElementType_Element), [] {
+        return new auto(Make<Ci4Col>({.minOccurs = 1, .maxOccurs = 3, .maxInclusive = u"100"}));
+    });
+    game.Prim(u"day", kit::Opt, ItemType_date);
+    const auto object = game.New();
+    const std::u16string text = u"<game><title>t</title><i>1</i><i>-2</i><day>2001-05-06</day></game>";
+    for (int round = 0; round < 2; ++round) {
+        object->FromXml(text.c_str(), {});
+        EXPECT_EQ(object->ToXml(false, false, EOLType_LF, {}), text);
+    }
+    const auto failure = [&](const std::u16string& items) {
+        return Failure<CKzValidationException>(
+            [&] { object->FromXml((u"<game><title/>" + items + u"</game>").c_str(), {}); });
+    };
+    EXPECT_EQ(failure(u"<i>1</i><i>101</i>"),
+              "Failed to process the element [game]\nInvalid Value for i [101]");
+    EXPECT_EQ(failure(u""), "Failed to process the element [game]\nThe Minimum number of [i] elements "
+                            "allowed in this collection is 1");
+    EXPECT_EQ(failure(u"<i/><i/><i/><i/>"), "Failed to process the element [game]\nThe Maximum number of [i] "
+                                            "elements allowed in this collection is 3");
+}
+
+TEST(TypedCols, AViolationInADocumentLeavesTheItemsBeforeIt) {
+    auto items = Make<Cui1Col>({.maxInclusive = u"100"});
+    CollectionOwner owner(items);
+    EXPECT_EQ(Failure([&] { owner.Read(u"<i>1</i><i>100</i><i>101</i><i>2</i>"); }),
+              "Invalid Value for i [101]");
+    EXPECT_EQ(Items(items), "<i 7:1><i 7:100>");
+    EXPECT_EQ(Failure<CKzInvalidValueException>([&] { owner.Read(u"<i>256</i>"); }),
+              "The value [256] is to large to fit in a ui1");
+    EXPECT_EQ(items.GetCount(), 2);
+}
+
+TEST(TypedCols, TheCountIsCheckedBeforeTheFirstElementIsWritten) {
+    CXmlSerializationContext lenient;
+    lenient.SetIgnoreInvalidCollectionCounts(true);
+    auto numbers = Make<Ci4Col>({.minOccurs = 2});
+    numbers.Add(1);
+    EXPECT_EQ(Failure<CKzValidationException>([&] { CollectionOwner(numbers).Calls(); }),
+              "The Minimum number of [i] elements allowed in this collection is 2");
+    EXPECT_EQ(CollectionOwner(numbers).Calls(lenient), "<i 5:1>");
+    auto dates = Make<CdateCol>({.maxOccurs = 0});
+    dates.Add(CDateTime(2001, 5, 6));
+    EXPECT_EQ(Failure<CKzValidationException>([&] { CollectionOwner(dates).Calls(); }),
+              "The Maximum number of [i] elements allowed in this collection is 0");
+    EXPECT_EQ(CollectionOwner(dates).Calls(lenient), "<i 20:2001-05-06>");
+}
+
+TEST(TypedCols, RealsAndDecimalsAloneHeedTheFormat) {
+    auto reals = Make<Cr8Col>({.format = u"%.2f"});
+    reals.Add(0.5);
+    reals.Add(-2);
+    EXPECT_EQ(Items(reals), "<i 12:0.50><i 12:-2.00>");
+    auto floats = Make<Cr4Col>({.format = u"%.2f"});
+    floats.Add(0.5f);
+    EXPECT_EQ(Items(floats), "<i 11:0.50>");
+    auto decimals = Make<CdecimalCol>({.format = u"2"});
+    decimals.Add(CDecimal(u"1.235"));
+    EXPECT_EQ(Items(decimals), "<i 25:1.24>");
+    auto integers = Make<Ci4Col>({.format = u"%.2f"});
+    integers.Add(5);
+    EXPECT_EQ(Items(integers), "<i 5:5>");
+}
+
+/// A log in which `describe` turns an item into text.
+template <class T, class Describe>
+EventLog LogOf(Describe describe) {
+    return EventLog([=](void* item) { return ToUtf8(describe(*static_cast<T*>(item))); });
+}
+
+TEST(PrimitiveCol, AddsBeforeItChecksIndexAndThenFacets) {
+    EventLog log = LogOf<std::int32_t>(CConversions::i4ToString);
+    auto items = Make<Ci4Col>({.minInclusive = u"0"});
+    log.Watch(items);
+    items.Add(2);
+    EXPECT_EQ(log.Take(), "add(2) added(2) change ");
+    items.AddAt(0, 1);
+    items.AddAt(2, 3);
+    EXPECT_EQ(Items(items), "<i 5:1><i 5:2><i 5:3>");
+    log.Take();
+    for (const int index : {-1, 4}) {
+        EXPECT_EQ(Failure<Parameter>([&] { items.AddAt(index, -7); }), "Index out of range");
+        EXPECT_EQ(log.Take(), "add(-7) ");
+    }
+    EXPECT_EQ(Failure([&] { items.Add(-8); }), "Invalid Value for i [-8]");
+    EXPECT_EQ(log.Take(), "add(-8) ");
+    EXPECT_EQ(items.GetCount(), 3);
+    EXPECT_EQ(items.Item(2), 3);
+    for (const int index : {-1, 3})
+        EXPECT_EQ(Failure<Parameter>([&] { items.Item(index); }),
+                  "Index " + std::to_string(index) + " is out of range, use 0 - 3");
+    EXPECT_EQ(std::accumulate(items.begin(), items.end(), 0), 6);
+}
+
+/// Both models share the events of removals.
+template <class Collection, class T>
+void ExpectEventsOfRemovals(T value) {
+    EventLog log([](void*) { return ""; });
+    auto items = Make<Collection>();
+    log.Watch(items);
+    EXPECT_EQ(Failure<Parameter>([&] { items.Remove(0); }), "Index 0 is out of range, use 0 - 0");
+    EXPECT_EQ(log.Take(), "remove(0) ");
+    for (int i = 0; i < 4; ++i)
+        items.Add(value);
+    log.Take();
+    items.Remove(3);
+    EXPECT_EQ(log.Take(), "remove(3) removed(0) change ");
+    EXPECT_EQ(Failure<Parameter>([&] { items.Remove(3); }), "Index 3 is out of range, use 0 - 3");
+    EXPECT_EQ(Failure<Parameter>([&] { items.Remove(-1); }), "Index -1 is out of range, use 0 - 3");
+    EXPECT_EQ(log.Take(), "remove(3) remove(null) ");
+    {
+        const Collection copy(items); // has no events when it goes, though it has the listener
+    }
+    items.Clear();
+    EXPECT_EQ(log.Take(),
+              "remove(0) removed(0) change remove(0) removed(0) change remove(0) removed(0) change ");
+}
+
+TEST(TypedCols, RemoveCompleteReportsIndexZero) {
+    ExpectEventsOfRemovals<Ci4Col>(7);
+    ExpectEventsOfRemovals<CbooleanCol>(true);
+    ExpectEventsOfRemovals<CstringCol>(u"text");
+    ExpectEventsOfRemovals<CdateCol>(CDateTime(2001, 5, 6));
+}
+
+template <class Collection>
+struct CountingCol : Collection {
+    using Collection::Collection;
+    void Remove(int index) override {
+        ++removals;
+        Collection::Remove(index);
+    }
+    int removals = 0;
+};
+
+TEST(TypedCols, ClearHonoursAnOverriddenRemoveAndIsLinearWithout) {
+    auto numbers = Make<CountingCol<Ci4Col>>();
+    numbers.Add(1);
+    numbers.Add(2);
+    numbers.Clear();
+    EXPECT_EQ(numbers.removals, 2);
+    auto dates = Make<CountingCol<CdateCol>>();
+    dates.Add(CDateTime(2001, 5, 6));
+    dates.Clear();
+    EXPECT_EQ(dates.removals, 1);
+
+    const auto start = std::chrono::steady_clock::now();
+    auto texts = Make<CstringCol>();
+    auto days = Make<CdateCol>();
+    for (int i = 0; i < 200'000; ++i) {
+        texts.Add(u"text");
+        days.Add(CDateTime(2001, 5, 6));
+    }
+    texts.Clear();
+    days.Clear();
+    EXPECT_EQ(texts.GetCount() + days.GetCount(), 0);
+    EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(20));
+}
+
+TEST(TypedCols, TextsFromCodeStandAsTheyAre) {
+    EventLog log = LogOf<std::u16string>(CConversions::stringToString);
+    auto items = Make<CstringCol>({.pattern = u"[a-z ]+", .minLength = 3});
+    log.Watch(items);
+    const std::u16string text = u" a text longer than a short one ";
+    items.Add(text);
+    EXPECT_EQ(log.Take(),
+              "add( a text longer than a short one ) added( a text longer than a short one ) change ");
+    EXPECT_EQ(items.Item(0), text);
+    EXPECT_EQ(Failure([&] { items.Add(u"AB"); }), "Invalid Value for i [AB]");
+    items.Add(u" a ");
+    EXPECT_EQ(Failure([&] { CollectionOwner(items).Read(u"<i> a </i>"); }), "Invalid Value for i [a]");
+    EXPECT_EQ(items.GetCount(), 2);
+}
+
+TEST(TypedCols, BooleansHaveNoFacetsAndBinaryDataHasLengths) {
+    EventLog log = LogOf<bool>(CConversions::booleanToString);
+    auto flags = Make<CbooleanCol>({.pattern = u"(", .minLength = 9, .minInclusive = u"x"});
+    log.Watch(flags);
+    for (const bool flag : {true, false, true})
+        flags.Add(flag);
+    flags.AddAt(1, true);
+    flags.Remove(0);
+    EXPECT_EQ(Items(flags), "<i 24:true><i 24:false><i 24:true>");
+    EXPECT_TRUE(flags.Item(2));
+    EXPECT_EQ(log.Take().substr(0, 31), "add(true) added(true) change ad");
+
+    auto blobs = Make<Cbase64BinaryCol>({.minLength = 2});
+    CBinaryData data;
+    data.SetAsHexString(u"0A0B");
+    blobs.Add(data);
+    data.Append(static_cast<unsigned char>(0xC));
+    EXPECT_EQ(blobs.Item(0).GetAsHexString(), u"0A0B");
+    data.SetAsHexString(u"0A");
+    EXPECT_EQ(Failure([&] { blobs.Add(data); }), "Invalid Value for i [0A]");
+    // What is checked once is not checked again by writing.
+    *blobs.begin() = data;
+    EXPECT_EQ(Items(blobs), "<i 2:Cg==>");
+}
+
+TEST(DateTimeCols, CheckKindAndFacetsBeforeTheEventAndTheIndexBehindIt) {
+    EventLog log = LogOf<CDateTime>(CConversions::dateToString);
+    auto items = Make<CdateCol>({.minInclusive = u"2001-05-05"});
+    log.Watch(items);
+    CdatetimeBaseCol& base = items;
+    base.Add(CDateTime(2001, 5, 6));
+    EXPECT_EQ(log.Take(), "add(2001-05-06) added(2001-05-06) change ");
+    base.AddAt(0, CDateTime(2001, 5, 5));
+    base.AddAt(2, *base.begin()); // a value of its own
+    EXPECT_EQ(Items(items), "<i 20:2001-05-05><i 20:2001-05-06><i 20:2001-05-05>");
+    EXPECT_EQ(base.Item(1), CDateTime(2001, 5, 6));
+    EXPECT_EQ(Failure<Parameter>([&] { base.Item(3); }), "Index 3 is out of range, use 0 - 3");
+    log.Take();
+
+    const CDateTime wrongKind(2001, 1, 1, 0, 0, 0), tooLow(2001, 5, 4), good(2001, 5, 7);
+    EXPECT_EQ(Failure<Parameter>([&] { base.AddAt(9, wrongKind); }),
+              "Dates added to this collection must be of type dt_date");
+    EXPECT_EQ(Failure([&] { base.AddAt(9, tooLow); }), "Invalid Value for i [2001-05-04]");
+    EXPECT_EQ(log.Take(), "");
+    for (const int index : {-1, 4}) {
+        EXPECT_EQ(Failure<Parameter>([&] { base.AddAt(index, good); }), "Index out of range");
+        EXPECT_EQ(log.Take(), "add(2001-05-07) ");
+    }
+    EXPECT_EQ(base.GetCount(), 3);
+}
+
+TEST(DateTimeCols, AdmitTheirKindAlone) {
+    const auto refusal = [](auto items, const CDateTime& value) {
+        return Failure<Parameter>([&] { items.Add(value); });
+    };
+    const CDateTime date(2001, 5, 6), unset;
+    EXPECT_EQ(refusal(Make<CdatetimeCol>(), date),
+              "Dates added to this collection must be of type dt_dateTime");
+    EXPECT_EQ(refusal(Make<CdateCol>(), unset), "Dates added to this collection must be of type dt_date");
+    EXPECT_EQ(refusal(Make<CtimeCol>(), date), "Dates added to this collection must be of type dt_time");
+    EXPECT_EQ(refusal(Make<CyearMonthCol>(), date),
+              "Dates added to this collection must be of type dt_gYearMonth");
+    EXPECT_EQ(refusal(Make<CmonthDayCol>(), date),
+              "Dates added to this collection must be of type dt_gMonthDay");
+    // The form of a text decides on its kind.
+    auto items = Make<CdateCol>();
+    EXPECT_EQ(Failure<Parameter>([&] { CollectionOwner(items).Read(u"<i>2001-05-06</i><i>2001</i>"); }),
+              "Dates added to this collection must be of type dt_date");
+    EXPECT_EQ(items.GetCount(), 1);
+}
+
+} // namespace
