@@ -5,7 +5,7 @@
 #
 # Floors: 0 ground, 1 text rules, 2 values, 3 settings, 4 XML, 5 core, 6 collections, 7 metadata,
 # 8 second format. A folder's headers stand on the floor of the folder, except those named below. The header
-# that includes all others stands above all floors. Sources (.cpp) may include any header.
+# that includes all others stands above all floors and includes every public header. Sources (.cpp) may include any header.
 cmake_minimum_required(VERSION 3.25)
 
 set(floor_of_conversions 2)
@@ -71,6 +71,7 @@ endfunction()
 cmake_path(GET CMAKE_CURRENT_LIST_DIR PARENT_PATH root)
 file(GLOB_RECURSE files RELATIVE "${root}" "${root}/include/*.h" "${root}/src/*.h")
 list(REMOVE_ITEM files include/KzXmlLib10/KzXmlLib10.h)
+file(READ "${root}/include/KzXmlLib10/KzXmlLib10.h" all_headers)
 
 foreach(file IN LISTS files)
     string(REGEX REPLACE "^(include/KzXmlLib10|src)/(.*)\\.h$" "\\2" header "${file}")
@@ -78,6 +79,12 @@ foreach(file IN LISTS files)
     if(floor STREQUAL "")
         message(SEND_ERROR "${file}: its folder has no floor; name one in cmake/CheckFloors.cmake")
         continue()
+    endif()
+    if(file MATCHES "^include/(.*)$")
+        string(FIND "${all_headers}" "#include <${CMAKE_MATCH_1}>" position)
+        if(position EQUAL -1)
+            message(SEND_ERROR "${file} is missing in include/KzXmlLib10/KzXmlLib10.h")
+        endif()
     endif()
     file(STRINGS "${root}/${file}" lines REGEX "^[ \t]*#[ \t]*include[ \t]*[<\"]")
     foreach(line IN LISTS lines)
