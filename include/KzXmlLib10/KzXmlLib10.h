@@ -53,14 +53,24 @@
 #include <KzXmlLib10/xml/CXmlWriter.h>
 #include <KzXmlLib10/xml/Compression.h>
 
+#include <KzXmlLib10/collections/BinaryCols.h>
 #include <KzXmlLib10/collections/CAttribute.h>
 #include <KzXmlLib10/collections/CAttributeCol.h>
 #include <KzXmlLib10/collections/CElement.h>
 #include <KzXmlLib10/collections/CElementCol.h>
 #include <KzXmlLib10/collections/CKzIterator.h>
+#include <KzXmlLib10/collections/CPrimitiveCol.h>
 #include <KzXmlLib10/collections/CXmlCollection.h>
 #include <KzXmlLib10/collections/CXmlCollectionBase.h>
 #include <KzXmlLib10/collections/CXmlTypeCollection.h>
+#include <KzXmlLib10/collections/CalendarCols.h>
+#include <KzXmlLib10/collections/CbooleanCol.h>
+#include <KzXmlLib10/collections/CdurationCol.h>
+#include <KzXmlLib10/collections/CstringCol.h>
+#include <KzXmlLib10/collections/DateTimeCols.h>
+#include <KzXmlLib10/collections/ExactNumberCols.h>
+#include <KzXmlLib10/collections/IntegerCols.h>
+#include <KzXmlLib10/collections/RealCols.h>
 
 #include <KzXmlLib10/metadata/CAttributeInfo.h>
 #include <KzXmlLib10/metadata/CAttributeInfoAny.h>

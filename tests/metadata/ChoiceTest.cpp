@@ -11,7 +11,6 @@ using namespace kit;
 namespace {
 
 constexpr auto Choice = XmlElementGroupType_Choice;
-constexpr auto Element = XmlElementType_Element;
 constexpr auto Pseudo = XmlElementType_Pseudo;
 
 const std::u16string failedR = u"Failed to process the element [r]\n";
