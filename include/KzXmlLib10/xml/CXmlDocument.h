@@ -64,12 +64,12 @@ public:
     /// A whole file may be in any form that LoadXmlStream takes.
     void Load(const char16_t* fileName);
     /// Reads a copy of `size` bytes: text, in the encoding that its mark or its declaration tells, or a Fast
-    /// Infoset document (ITU-T X.891), or a gzip or zlib stream of either, which is found out by trying, up to
-    /// the size of SetMaxInflatedSize. No bytes fail with "XML Stream is empty!".
+    /// Infoset document (ITU-T X.891), or a gzip or zlib stream of either, which is found out by trying, up
+    /// to the size of SetMaxInflatedSize. No bytes fail with "XML Stream is empty!".
     ///
-    /// Of Fast Infoset the names, values and texts may come to 64 MiB and 256 times the size of the input. The
-    /// callback is not called for it, SchemaType_NoNamespaces leaves its namespaces, and its strings may hold
-    /// what XML forbids.
+    /// Of Fast Infoset the names, values and texts may come to 64 MiB and 256 times the size of the input.
+    /// The callback is not called for it, SchemaType_NoNamespaces leaves its namespaces, and its strings may
+    /// hold what XML forbids.
     void LoadXmlStream(const unsigned char* data, unsigned long size);
 
     /// The root, or null: before a load, and where a Fast Infoset document has none.
