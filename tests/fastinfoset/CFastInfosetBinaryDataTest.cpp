@@ -21,19 +21,6 @@ std::string Decoded(unsigned long algorithm, const char16_t* hex) {
     return ToUtf8(data.GetAsString(algorithm));
 }
 
-TEST(CFastInfosetBinaryData, EncodesOneValue) {
-    EXPECT_EQ(Encoded(1, u"0aff"), "0AFF");
-    EXPECT_EQ(Encoded(2, u"Cv8B"), "0AFF01");
-    EXPECT_EQ(Encoded(3, u"-2"), "FFFE");
-    EXPECT_EQ(Encoded(4, u" 258"), "00000102");
-    EXPECT_EQ(Encoded(5, u"-9223372036854775808"), "8000000000000000");
-    EXPECT_EQ(Encoded(6, u"false") + Encoded(6, u"1"), "3038");
-    EXPECT_EQ(Encoded(7, u"1.5"), "3FC00000");
-    EXPECT_EQ(Encoded(8, u"-INF"), "FFF0000000000000");
-    EXPECT_EQ(Encoded(9, u"00112233445566778899aabbccddeeff"), "00112233445566778899AABBCCDDEEFF");
-    EXPECT_EQ(Encoded(10, u"\u00E9<"), "C3A93C");
-}
-
 TEST(CFastInfosetBinaryData, DecodesTheValuesInTheBytes) {
     EXPECT_EQ(Decoded(1, u"0aff"), "0AFF");
     EXPECT_EQ(Decoded(2, u"0aff01"), "Cv8B");

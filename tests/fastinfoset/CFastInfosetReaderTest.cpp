@@ -1,5 +1,6 @@
 #include "fastinfoset/CFastInfosetReader.h"
 
+#include "support/Bytes.h"
 #include "support/DumpTree.h"
 #include "support/Failure.h"
 #include "support/FastInfoset.h"
@@ -9,8 +10,6 @@
 #include <KzXmlLib10/xml/Compression.h>
 
 #include <gtest/gtest.h>
-
-#include <functional>
 
 using namespace KzXmlLib10;
 using namespace KzXmlLib10::support;
@@ -33,130 +32,119 @@ std::string Read(const CBinaryData& bytes, const CXmlSerializationContext& conte
     return failure.starts_with(start) ? failure.substr(start.size()) : failure;
 }
 
-/// The same for what stands behind the identification and the byte of options.
-std::string ReadBody(const std::string& body) { return Read(Bytes("E0 00 00 01 00" + body)); }
+const std::string start = "E0 00 00 01 00";
 
-/// The same for what stands in the root, an element "a", up to its end.
-std::string ReadContent(const std::string& content) { return ReadBody("3C 00 'a'" + content + "FF"); }
-
-/// The same for the attributes of the root, up to the end of their list.
-std::string ReadAttributes(const std::string& attributes) {
-    return ReadBody("7C 00 'a'" + attributes + "FF F0");
-}
-
-CBinaryData Concatenated(const std::string& start, const CBinaryData& piece, std::size_t count,
-                         const std::string& end) {
-    CBinaryData bytes = Bytes(start);
+CBinaryData Concatenated(const std::string& head, const CBinaryData& piece, std::size_t count) {
+    CBinaryData bytes = HexBytes(head);
     for (std::size_t i = 0; i < count; ++i)
         bytes.Append(piece);
-    bytes.Append(Bytes(end));
     return bytes;
 }
 
 struct Row {
-    const char* bytes;
-    const char* result;
+    /// What stands behind the identification and the byte of options. Behind a "@", the attributes of a root
+    /// "a"; behind a ".", its content.
+    std::string bytes;
+    std::string result;
 };
 
-void Check(std::string (*read)(const std::string&), std::initializer_list<Row> rows) {
-    for (const auto& [bytes, result] : rows)
-        EXPECT_EQ(read(bytes), result) << bytes;
+template <std::size_t N>
+void Check(const Row (&rows)[N]) {
+    for (const auto& [bytes, result] : rows) {
+        const std::string body = bytes[0] == '@'   ? "7C 00 'a'" + bytes.substr(1) + "FF F0"
+                                 : bytes[0] == '.' ? "3C 00 'a'" + bytes.substr(1) + "FF"
+                                                   : bytes;
+        EXPECT_EQ(Read(HexBytes(start + body)), result) << bytes;
+    }
 }
 
 TEST(CFastInfosetReader, ReadsNamesInAllForms) {
-    Check(ReadBody,
-          {
-              {"3C 00 'a' FF", "a"},
-              {"3D 04 'urn:p' 00 'a' FF", "{urn:p}a"},
-              {"3F 00 'p' 04 'urn:p' 00 'a' FF", "{urn:p}a"},
-              {"3F 00 'p' 04 'urn:p' 00 'a' 00 FF F0", "{urn:p}a[{urn:p}a]"}, // by index
-              {"3F 00 'p' 04 'urn:p' 00 'a' 3F 81 81 80 FF F0",
-               "{urn:p}a[{urn:p}a]"},                                            // by indices of its parts
-              {"3F 80 80 00 'a' FF", "{http://www.w3.org/XML/1998/namespace}a"}, // known from the start
-              {"3D 04 'urn:p' 00 'a' 3C 80 01 00 FF FF", "{urn:p}a[a[a[{urn:p}a]]]"},
-              {"38 CC CD 04 'urn:d' CE 00 'p' CF 81 81 F0 3D 81 00 'a' FF", "{urn:d}a"},
-              {"7C 00 'a' 7B 00 'p' 04 'urn:p' 00 'b' 40 '1' 00 80 79 81 80 FF FF",
-               "a[@{urn:p}b=1 @{urn:p}b=1 @{urn:p}a=]"},
-              {"3C 02 62 00 63 FF", "b"}, // a name ends at a zero
-              {"3C 02 62 C0 63 FF", "b"}, // and at malformed UTF-8
-          });
+    const std::string literal = "3F 00 'p' 04 'urn:p' 00 'a'";
+    const Row rows[] = {
+        {"3C 00 'a' FF", "a"},
+        {"3D 04 'urn:p' 00 'a' FF", "{urn:p}a"},
+        {literal + "FF", "{urn:p}a"},
+        {literal + "00 FF F0", "{urn:p}a[{urn:p}a]"},                      // by index
+        {literal + "3F 81 81 80 FF F0", "{urn:p}a[{urn:p}a]"},             // by indices of its parts
+        {"3F 80 80 00 'a' FF", "{http://www.w3.org/XML/1998/namespace}a"}, // known from the start
+        {"3D 04 'urn:p' 00 'a' 3C 80 01 00 FF FF", "{urn:p}a[a[a[{urn:p}a]]]"},
+        {"38 CC CD 04 'urn:d' CE 00 'p' CF 81 81 F0 3D 81 00 'a' FF", "{urn:d}a"},
+        {"@ 7B 00 'p' 04 'urn:p' 00 'b' 40 '1' 00 80 79 81 80 FF", "a[@{urn:p}b=1 @{urn:p}b=1 @{urn:p}a=]"},
+        {"3C 02 62 00 63 FF", "b"}, // a name ends at a zero
+        {"3C 02 62 C0 63 FF", "b"}, // and at malformed UTF-8
+    };
+    Check(rows);
 }
 
 TEST(CFastInfosetReader, KeepsTheLastDeclarationOfAPrefix) {
     CXmlDocument document;
-    Load(document, Bytes("E0 00 00 01 00 38 CD 04 'urn:d' CF 00 'p' 04 'urn:p' F0 3C 00 'a'"
-                         "38 CF 81 81 CE 00 'q' F0 00 FF F0"));
+    Load(document, HexBytes(start + "38 CD 04 'urn:d' CF 00 'p' 04 'urn:p' F0 3C 00 'a'"
+                                    "38 CF 81 81 CE 00 'q' F0 00 FF F0"));
     EXPECT_EQ(document.LookupNamespaceFromAlias(u""), u"urn:d");
     EXPECT_EQ(document.LookupNamespaceFromAlias(u"p"), u"urn:d");
     EXPECT_EQ(document.LookupNamespaceFromAlias(u"q"), u"");
 }
 
 TEST(CFastInfosetReader, ReadsValuesInAllForms) {
-    Check(ReadAttributes, {
-                              {"78 00 'b' 00 'v'", "a[@b=v]"},
-                              {"78 00 'b' FF", "a[@b=]"},
-                              // Only those with the bit for the table are counted.
-                              {"78 00 'b' 00 'u' 00 40 'v' 00 00 'w' 00 40 'x' 00 80 00 81",
-                               "a[@b=u @b=v @b=w @b=x @b=v @b=x]"},
-                              {"78 00 'b' 02 'v' 0D 'w'", "a[@b=v\\rw]"},
-                          });
-    Check(ReadContent, {
-                           {"80 'u' 92 00 'vwx' 90 'y' A0 A1", "a[\"uvwxyvwxy\"]"},
-                           {"81 C3A9 C8 00 'e' 80 '1' CB 00 'e' 00 's' 80 80 '2'", "a[\"\u00E9"
-                                                                                   "12\"]"},
-                           {"80 '1' E1 00 't' 00 'd' 80 '2' E2 00 'c' 80 '3'", "a[\"123\"]"},
-                           {"82 00 'x' 0D 'y'", "a[\"xy\"]"},        // carriage returns go
-                           {"82 00 'x' 00 'y' 80 'z'", "a[\"xz\"]"}, // a piece of text ends at a zero
-                           {"82 00 'x' C0 'y' 80 'z'", "a[\"xz\"]"}, // and at malformed UTF-8
-                       });
+    const Row rows[] = {
+        {"@ 78 00 'b' 00 'v'", "a[@b=v]"},
+        {"@ 78 00 'b' FF", "a[@b=]"},
+        {"@ 78 00 'b' 00 'u' 00 40 'v' 00 00 'w' 00 40 'x' 00 80 00 81", // some of them for the table
+         "a[@b=u @b=v @b=w @b=x @b=v @b=x]"},
+        {"@ 78 00 'b' 02 'v' 0D 'w'", "a[@b=v\\rw]"},
+        {". 80 'u' 92 00 'vwx' 90 'y' A0 A1", "a[\"uvwxyvwxy\"]"},
+        {". 81 C3A9 C8 00 'e' 80 '1' CB 00 'e' 00 's' 80 80 '2'", "a[\"\u00E9"
+                                                                  "12\"]"},
+        {". 80 '1' E1 00 't' 00 'd' 80 '2' E2 00 'c' 80 '3'", "a[\"123\"]"},
+        {". 82 00 'x' 0D 'y'", "a[\"xy\"]"},        // carriage returns go
+        {". 82 00 'x' 00 'y' 80 'z'", "a[\"xz\"]"}, // a piece of text ends at a zero
+        {". 82 00 'x' C0 'y' 80 'z'", "a[\"xz\"]"}, // and at malformed UTF-8
+    };
+    Check(rows);
 }
 
 TEST(CFastInfosetReader, DecodesEveryAlgorithmAndAlphabet) {
-    Check(
-        ReadAttributes,
-        {
-            {"78 00 'b' 70 01 0AFF", "a[@b=0AFF]"},
-            {"78 00 'b' 70 12 0AFF01", "a[@b=Cv8B]"},
-            {"78 00 'b' 70 23 FFFE0001", "a[@b=-2 1]"},
-            {"78 00 'b' 70 33 80000000", "a[@b=-2147483648]"},
-            {"78 00 'b' 70 47 7FFFFFFFFFFFFFFF", "a[@b=9223372036854775807]"},
-            {"78 00 'b' 70 50 38", "a[@b=true]"},
-            {"78 00 'b' 70 63 3FC00000", "a[@b=0.7470588]"}, // the first byte stands for all four
-            {"78 00 'b' 70 77 3FF8000000000000", "a[@b=1.5]"},
-            {"78 00 'b' 70 88 07 00112233445566778899AABBCCDDEEFF", "a[@b=00112233445566778899AABBCCDDEEFF]"},
-            {"78 00 'b' 70 91 C3A9", "a[@b=\u00E9]"},
-            {"78 00 'b' 60 01 A12D", "a[@b=-12e]"},
-            {"78 00 'b' 60 11 1DEF", "a[@b=1Z ]"},
-            {"78 00 'b' 70 20 00", "Invalid value for SHORT byte encoding."},
-            {"78 00 'b' 70 A0 00", "Unknown byte encoding."},
-            {"78 00 'b' 7F F0 00", "Unknown byte encoding."},
-            {"78 00 'b' 60 00 F1", "The position [15] lies beyond the Restricted Alphabet."},
-        });
-    Check(ReadContent, {
-                           {"9C 09 FFFE A0", "a[\"-2-2\"]"},
-                           {"8C 25 C3A9", "a[\"\u00E9\"]"},
-                           {"88 05 1DEF", "a[\"1Z \"]"},
-                           {"8F FC 00", "Unknown byte encoding."},
-                       });
-    const std::string noAlphabet =
-        "Invalid Encoding of Restricted Alphabet. Alphabet must contain between 2 and "
-        "2^20 characters.";
-    EXPECT_EQ(ReadAttributes("78 00 'b' 60 20 00"), noAlphabet);
-    EXPECT_EQ(ReadContent("8B FC 00"), noAlphabet);
-    EXPECT_EQ(ReadAttributes("78 00 'b' 11 0041"), "Unsupported Feature UTF16BE string.");
-    EXPECT_EQ(ReadContent("85 0041"), "Unsupported Feature UTF16BE string.");
+    const std::string noAlphabet = "Invalid Encoding of Restricted Alphabet. Alphabet must contain between 2 "
+                                   "and 2^20 characters.";
+    const std::string uuid = "00112233445566778899AABBCCDDEEFF";
+    const Row rows[] = {
+        {"@ 78 00 'b' 70 01 0AFF", "a[@b=0AFF]"},
+        {"@ 78 00 'b' 70 12 0AFF01", "a[@b=Cv8B]"},
+        {"@ 78 00 'b' 70 23 FFFE0001", "a[@b=-2 1]"},
+        {"@ 78 00 'b' 70 33 80000000", "a[@b=-2147483648]"},
+        {"@ 78 00 'b' 70 47 7FFFFFFFFFFFFFFF", "a[@b=9223372036854775807]"},
+        {"@ 78 00 'b' 70 50 38", "a[@b=true]"},
+        {"@ 78 00 'b' 70 63 3FC00000", "a[@b=0.7470588]"}, // the first byte stands for all four
+        {"@ 78 00 'b' 70 77 3FF8000000000000", "a[@b=1.5]"},
+        {"@ 78 00 'b' 70 88 07" + uuid, "a[@b=" + uuid + "]"},
+        {"@ 78 00 'b' 70 91 C3A9", "a[@b=\u00E9]"},
+        {"@ 78 00 'b' 60 01 A12D", "a[@b=-12e]"},
+        {"@ 78 00 'b' 60 11 1DEF", "a[@b=1Z ]"},
+        {". 9C 09 FFFE A0", "a[\"-2-2\"]"},
+        {". 8C 25 C3A9", "a[\"\u00E9\"]"},
+        {". 88 05 1DEF", "a[\"1Z \"]"},
+        {"@ 78 00 'b' 70 20 00", "Invalid value for SHORT byte encoding."},
+        {"@ 78 00 'b' 7F F0 00", "Unknown byte encoding."},
+        {". 8C 28 00", "Unknown byte encoding."},
+        {"@ 78 00 'b' 60 00 F1", "The position [15] lies beyond the Restricted Alphabet."},
+        {"@ 78 00 'b' 60 20 00", noAlphabet},
+        {". 8B FC 00", noAlphabet},
+        {"@ 78 00 'b' 11 0041", "Unsupported Feature UTF16BE string."},
+        {". 85 0041", "Unsupported Feature UTF16BE string."},
+    };
+    Check(rows);
 }
 
 TEST(CFastInfosetReader, EndsStandAloneOrInPairs) {
-    Check(ReadBody,
-          {
-              {"3C 00 'a' 00 F0 F0 F0", "a[a]"},
-              {"3C 00 'a' 00 00 FF 00 FF", "a[a[a] a]"},
-              {"3C 00 'a' 00 FF", "a[a]"},                // what follows the root is not looked at
-              {"7C 00 'a' 78 00 'b' FF F0 FF", "a[@b=]"}, // of the attributes and, on its own, of the element
-              {"3C 00 'a' 7C 80 78 80 FF FF 00 FF", "a[a[@a=] a]"}, // of both together
-              {"7C 00 'a' F0 F0", "a"},
-          });
+    const Row rows[] = {
+        {"3C 00 'a' 00 F0 F0 F0", "a[a]"},
+        {"3C 00 'a' 00 00 FF 00 FF", "a[a[a] a]"},
+        {"3C 00 'a' 00 FF", "a[a]"},                          // what follows the root is not looked at
+        {"7C 00 'a' 78 00 'b' FF F0 FF", "a[@b=]"},           // of the attributes; of element and document
+        {"3C 00 'a' 7C 80 78 80 FF FF 00 FF", "a[a[@a=] a]"}, // of attributes and element
+        {"7C 00 'a' F0 F0", "a"},
+    };
+    Check(rows);
 }
 
 /// One with all optional components, and each of their optional parts once there and once not.
@@ -181,147 +169,95 @@ const std::string everything =
     "92 01 'text'  3C 00 'x' A0 8C 12 05 0000000000000007 F0  00 40 00 FF FF FF";
 
 TEST(CFastInfosetReader, ReadsPastWhatItDoesNotKeep) {
-    EXPECT_EQ(Read(Bytes("E0 00 00 01" + everything)),
+    EXPECT_EQ(Read(HexBytes("E0 00 00 01" + everything)),
               "{urn:d}a[@b=value @{urn:d}c=value @b=1Z  \"text\" x[\"text7\"] {urn:d}a[{urn:d}a[@b=]]]");
-    Check(ReadBody, {
-                        {"C4 F0 3C 00 'a' FF", "a"},
-                        {"C6 00 's' 3C 00 'a' FF", "a"}, // a document type without its end
-                        {"D5 E0 C3 3C 00 'a' FF", "a"},  // unknown items
-                        {"F0 3C 00 'a' FF", "null"},
-                        {"E2 00 'c' FF", "null"},
-                    });
+    const Row rows[] = {
+        {"C4 F0 3C 00 'a' FF", "a"},    {"C6 00 's' 3C 00 'a' FF", "a"}, // a document type without its end
+        {"D5 E0 C3 3C 00 'a' FF", "a"},                                  // unknown items
+        {"F0 3C 00 'a' FF", "null"},                                     // the end of the document
+        {"E2 00 'c' FF", "null"},
+    };
+    Check(rows);
     const std::string head = "E0 00 00 01";
-    // 129 items have a length of three bytes.
-    EXPECT_EQ(Read(Concatenated(head + "40 800000", Bytes("00 'u' 00 'd'"), 129, "3C 00 'a' FF")), "a");
+    CBinaryData manyItems = Concatenated(head + "40 800000", HexBytes("00 'u' 00 'd'"), 129);
+    manyItems.Append(HexBytes("3C 00 'a' FF"));
+    EXPECT_EQ(Read(manyItems), "a");
     // The tables in the document have no effect.
-    EXPECT_EQ(Read(Bytes(head + "20 0100 00 00 'n' 3D 81 00 'a' FF")),
+    EXPECT_EQ(Read(HexBytes(head + "20 0100 00 00 'n' 3D 81 00 'a' FF")),
               "The index [2] lies beyond its table.");
-    EXPECT_EQ(Read(Bytes(head + "40 90 00")), "Invalid Encoding of the length of a sequence.");
-    EXPECT_EQ(Read(Bytes(head + "10 C8 00")), "Invalid Encoding of Notations or Unparsed Entities.");
-    EXPECT_EQ(Read(Bytes(head + "08 C0 00")), "Invalid Encoding of Notations or Unparsed Entities.");
+    EXPECT_EQ(Read(HexBytes(head + "40 90 00")), "Invalid Encoding of the length of a sequence.");
+    EXPECT_EQ(Read(HexBytes(head + "10 C8 00")), "Invalid Encoding of Notations or Unparsed Entities.");
+    EXPECT_EQ(Read(HexBytes(head + "08 C0 00")), "Invalid Encoding of Notations or Unparsed Entities.");
 }
 
 TEST(CFastInfosetReader, RefusesWhatHasNoMeaning) {
-    const char* const second = "Invalid Encoding of integers 1 To 2^20 type  on the second bit of an octet.";
-    Check(ReadBody,
-          {
-              {"3E 00 'p' 00 'a' FF", "Invalid QName type Prefix without Namespace."},
-              {"3C 41", "Invalid NonEmptyOctetString type  on the second bit of an octet."},
-              {"3C 61", "Invalid NonEmptyOctetString type  on the second bit of an octet."},
-              {"31", "Invalid Encoding of integers 1 To 2^20 type  on the third bit of an octet."},
-              {"3F F0", second},
-              {"3C 60 FFFFFFFF 'a'", "Unexpected End of File."}, // 2^32 + 320 bytes, which is not 320
-          });
-    Check(ReadAttributes,
-          {
-              {"77", second},
-              {"78 00 'b' F0", "Invalid Encoding of integers 0 To 2^20 type  on the second bit of an octet."},
-              {"78 00 'b' 09", "Invalid NonEmptyOctetString type  on the fifth bit of an octet."},
-              {"78 00 'b' 0C FFFFFFFF", "Unexpected End of File."},
-          });
-    Check(ReadContent,
-          {
-              {"B9", "Invalid Encoding of integers 1 To 2^20 type  on the fourth bit of an octet."},
-              {"83 FFFFFFFF", "Unexpected End of File."},
-              {"CC", "Invalid Encoding of Element type."},
-              {"E0", "Invalid Encoding of Element type."},
-              {"F1", "Invalid Encoding of Element type."},
-          });
+    const std::string octets = "Invalid NonEmptyOctetString type  on the ";
+    const std::string from1 = "Invalid Encoding of integers 1 To 2^20 type  on the ";
+    const std::string from0 = "Invalid Encoding of integers 0 To 2^20 type  on the ";
+    const Row rows[] = {
+        {"3E 00 'p' 00 'a' FF", "Invalid QName type Prefix without Namespace."},
+        {"3C 41", octets + "second bit of an octet."},
+        {"@ 78 00 'b' 09", octets + "fifth bit of an octet."},
+        {"@ 77", from1 + "second bit of an octet."},
+        {"31", from1 + "third bit of an octet."},
+        {". B9", from1 + "fourth bit of an octet."},
+        {"@ 78 00 'b' F0", from0 + "second bit of an octet."},
+        {". CC", "Invalid Encoding of Element type."},
+        {". E0", "Invalid Encoding of Element type."},
+        {". F1", "Invalid Encoding of Element type."},
+        {"3C 60 FFFFFFFF 'a'", "Unexpected End of File."}, // 2^32 + 320 bytes, which are not 320
+        {"@ 78 00 'b' 0C FFFFFFFF", "Unexpected End of File."},
+        {". 83 FFFFFFFF", "Unexpected End of File."},
+    };
+    Check(rows);
 }
 
 TEST(CFastInfosetReader, ChecksEveryIndexAgainstItsTable) {
-    Check(ReadBody, {
-                        {"00 F0", "The index [1] lies beyond its table."},
-                        {"3D 81 00 'a' FF", "The index [2] lies beyond its table."},
-                        {"3F 81 80 00 'a' FF", "The index [2] lies beyond its table."},
-                        {"3C 80 FF", "The index [1] lies beyond its table."},
-                        {"30 0FFFFF FF", "The index [1574944] lies beyond its table."},
-                        {"38 CE 81 F0", "The index [2] lies beyond its table."},
-                        {"38 CD E00000 F0", "The index [8257] lies beyond its table."},
-                    });
-    Check(ReadAttributes, {
-                              {"00", "The index [1] lies beyond its table."},
-                              {"78 00 'b' 80", "The index [1] lies beyond its table."},
-                          });
-    Check(ReadContent, {
-                           {"A0", "The index [1] lies beyond its table."},
-                           {"B8 000000", "The index [263185] lies beyond its table."},
-                       });
+    const Row rows[] = {
+        {"00 F0", "The index [1] lies beyond its table."},
+        {"3D 81 00 'a' FF", "The index [2] lies beyond its table."},
+        {"3F 81 80 00 'a' FF", "The index [2] lies beyond its table."},
+        {"3C 80 FF", "The index [1] lies beyond its table."},
+        {"38 CE 81 F0", "The index [2] lies beyond its table."},
+        {"38 CD E00000 F0", "The index [8257] lies beyond its table."},
+        {"@ 00", "The index [1] lies beyond its table."},
+        {"@ 78 00 'b' 80", "The index [1] lies beyond its table."},
+        {". A0", "The index [1] lies beyond its table."},
+    };
+    Check(rows);
 }
 
 TEST(CFastInfosetReader, RecognisesDocumentsByTheirFirstBytes) {
-    const CBinaryData document = FastInfosetOf([](CXmlWriter& writer) {
-        writer.StartElement(u"a", u"");
-        writer.WriteText(std::u16string(500, u'x'), ItemType_string);
-        writer.EndElement();
-    });
+    const ScriptedObject object("<a '" + std::string(500, 'x') + " >");
     const std::string tree = "a[\"" + std::string(500, 'x') + "\"]";
-    for (int declaration = FInfoDecl_NoVersion; declaration <= FInfoDecl_11NotStandalone; ++declaration)
-        EXPECT_EQ(Read(FastInfosetOf(
-                      [](CXmlWriter& writer) {
-                          writer.StartElement(u"a", u"");
-                          writer.EndElement();
-                      },
-                      defaults, static_cast<FInfoDecl>(declaration))),
-                  "a");
-    for (const CompressionType type : {CompressionType_GZip, CompressionType_ZLib}) {
-        CBinaryData packed = document;
-        Compress(packed, type);
-        EXPECT_EQ(Read(packed), tree);
-    }
-    // Anything else is text.
-    EXPECT_EQ(Read(Bytes("E0 00 00 01")), "syntax error at line 1");
-    EXPECT_EQ(Read(Bytes("'<?xml encoding=\"finf\"?>' E0 00 00 01 00")),
-              "XML declaration not well-formed at line 1");
-    const CBinaryData declared = FastInfosetOf([](CXmlWriter&) {}, defaults, FInfoDecl_10);
-    for (std::uint32_t length = 1; length < declared.GetLength() - 2; ++length) {
-        CBinaryData cut;
-        cut.SetBuffer(declared.GetData(), length);
-        EXPECT_TRUE(Read(cut).ends_with(" at line 1")) << length;
-    }
+    for (int declaration = FInfoDecl_None; declaration <= FInfoDecl_11NotStandalone; ++declaration)
+        EXPECT_EQ(Read(object.Written(defaults, static_cast<FInfoDecl>(declaration))), tree);
+    for (const CompressionType type : {CompressionType_GZip, CompressionType_ZLib})
+        EXPECT_EQ(Read(object.ToFastInfosetStream(FInfoDecl_None, defaults, type)), tree);
+    // Anything else is text, also what ends with the identification.
+    const std::string declared = "<?xml version='1.0' encoding='finf'?>\xE0\0\0\1";
+    for (std::size_t length = 1; length <= declared.size(); ++length)
+        EXPECT_TRUE(Read(ToBinary(declared.substr(0, length))).ends_with(" at line 1")) << length;
 }
 
 TEST(CFastInfosetReader, ADocumentWithoutARootFillsNoObject) {
-    const kit::Model model(u"a");
-    const CSmartPtr<kit::CModelObject> object = model.New();
-    EXPECT_EQ(Failure([&] { object->FromXmlStream(Bytes("E0 00 00 01 00 F0"), defaults); }),
+    const CSmartPtr<ScriptedObject> object = new ScriptedObject("");
+    EXPECT_EQ(Failure([&] { object->FromXmlStream(HexBytes(start + "F0"), defaults); }),
               "Invalid or empty XML document");
 }
 
 TEST(CFastInfosetReader, LeavesTheCallbackForElementsAlone) {
     CXmlDocument document([](CXmlElement*) { return true; });
-    Load(document, Bytes("E0 00 00 01 00 3C 00 'a' 3C 00 'b' FF F0"));
+    Load(document, HexBytes(start + "3C 00 'a' 3C 00 'b' FF F0"));
     EXPECT_EQ(DumpTree(document.GetDocumentElement()), "a[b]");
 }
 
 TEST(CFastInfosetReader, DamagedDocumentsAreReadOrRefused) {
-    const CBinaryData handMade = Bytes("E0 00 00 01" + everything);
-    const CBinaryData written = FastInfosetOf(
-        [](CXmlWriter& writer) {
-            writer.AddNamespace(u"p", u"urn:p");
-            writer.StartElement(u"order", u"urn:p");
-            for (int i = 0; i < 3; ++i) {
-                writer.StartElement(u"item", u"urn:q");
-                writer.WriteAttribute(u"id", u"", u"1234567", ItemType_string);
-                writer.WriteXsiNil();
-                writer.WriteText(u"some text", ItemType_string);
-                writer.EndElement();
-            }
-            writer.EndElement();
-        },
-        defaults, FInfoDecl_NoVersion);
-    EXPECT_EQ(Failure([&] {
-                  CXmlDocument document;
-                  Load(document, written);
-              }),
-              "no failure");
-    for (const CBinaryData& whole : {handMade, written}) {
-        const std::uint32_t start = whole == written ? 24 + 4 : 4;
-        for (std::uint32_t length = start + 1; length < whole.GetLength() - 1; ++length) {
-            CBinaryData cut;
-            cut.SetBuffer(whole.GetData(), length);
-            EXPECT_EQ(Read(cut), "Unexpected End of File.") << length;
-        }
+    const CBinaryData written =
+        ScriptedObject("+p=urn:p <{urn:p}a <{urn:q}b @c=1234567 nil 'text > <{urn:q}b 'text > >").Written();
+    for (const CBinaryData& whole : {HexBytes("E0 00 00 01" + everything), written}) {
+        for (std::uint32_t length = 5; length < whole.GetLength() - 1; ++length)
+            EXPECT_EQ(Read(CBinaryData(whole.GetData(), length, false)), "Unexpected End of File.") << length;
         for (std::uint32_t bit = 0; bit < 8 * whole.GetLength(); ++bit) {
             CBinaryData flipped = whole;
             flipped[bit / 8] ^= static_cast<unsigned char>(1 << bit % 8);
@@ -333,8 +269,8 @@ TEST(CFastInfosetReader, DamagedDocumentsAreReadOrRefused) {
 
 TEST(CFastInfosetReader, DepthNeedsNoStack) {
     constexpr std::size_t depth = 200000;
-    CBinaryData bytes = Concatenated("E0 00 00 01 00 3C 00 'a'", Bytes("00"), depth - 1, "");
-    bytes.Append(Concatenated("", Bytes("FF"), depth / 2, "F0"));
+    CBinaryData bytes = Concatenated(start + "3C 00 'a'", HexBytes("00"), depth - 1);
+    bytes.Append(Concatenated("", HexBytes("FF"), depth / 2));
     CXmlDocument document;
     Load(document, bytes);
     std::size_t levels = 0;
@@ -343,68 +279,43 @@ TEST(CFastInfosetReader, DepthNeedsNoStack) {
     EXPECT_EQ(levels, depth);
 }
 
-TEST(CFastInfosetReader, WhatReferencesAddIsLimited) {
-    struct Shape {
-        const char* start; // up to the length of a string of 65536 characters and `more`
-        std::size_t more;
-        const char* reference;
-    };
-    for (const auto& [start, more, reference] : std::initializer_list<Shape>{
-             {"3C 00 'a' 93 00010000", 259, "A0"},
-             {"3C 60 00010000", 321, "00"},
-             {"38 CD 60 00010000", 321, "CD 81"},
-             {"7C 00 'a' 78 00 'b' 4C 00010000", 265, "00 80"},
-         }) {
-        const auto read = [&](std::size_t references) {
-            CBinaryData bytes =
-                Concatenated(std::string("E0 00 00 01 00") + start, Bytes("78"), 65536 + more, "");
-            bytes.Append(Concatenated("", Bytes(reference), references, ""));
-            const std::string limit = std::to_string((64ull << 20) + 256ull * bytes.GetLength());
-            const std::string result = Read(bytes);
-            return result ==
-                           "The names, values and texts of the document come to more than " + limit + " bytes"
-                       ? "refused"
-                       : result;
-        };
-        EXPECT_EQ(read(100), "Unexpected End of File.") << start;
-        EXPECT_EQ(read(1000), "refused") << start;
-    }
+/// Reads a string of 65536 characters, whose length stands `more` below that, and references to it.
+std::string ReadReferences(const std::string& head, std::size_t more, const std::string& reference,
+                           std::size_t count) {
+    CBinaryData bytes = Concatenated(start + head + "00010000", HexBytes("78"), 65536 + more);
+    bytes.Append(Concatenated("", HexBytes(reference), count));
+    const std::string limit = std::to_string((64ull << 20) + 256ull * bytes.GetLength());
+    const std::string result = Read(bytes);
+    return result == "The names, values and texts of the document come to more than " + limit + " bytes"
+               ? "refused"
+               : result;
 }
 
-/// A document with names, values and texts of all sizes, and indices into all tables.
-void WriteManySizes(CXmlWriter& writer) {
-    const auto name = [](int i) {
-        const std::string digits = "n" + std::to_string(i);
-        return std::u16string(digits.begin(), digits.end());
-    };
-    writer.AddNamespace(u"p", u"urn:p");
-    writer.SetDefaultNamespace(u"urn:d");
-    writer.StartElement(u"root", u"urn:d");
-    writer.WriteAttribute(u"b", u"urn:p", u"v", ItemType_string);
-    for (const int length : {1, 8, 9, 64, 65, 258, 264, 265, 320, 321, 70000}) {
-        const std::u16string text(static_cast<std::size_t>(length), u'\u00E9');
-        writer.StartElement(std::u16string(static_cast<std::size_t>(length), u'n'), u"urn:new");
-        writer.WriteAttribute(u"b", u"", text, ItemType_string);
-        writer.WriteText(text, ItemType_string);
-        writer.EndElement();
-    }
-    for (const int round : {1, 2}) {
-        for (int i = 1; i <= 2100; ++i) {
-            writer.StartElement(name(i), round == 1 ? u"urn:p" : u"urn:d");
-            writer.WriteAttribute(name(i), u"", name(i), ItemType_string);
-            writer.WriteText(name(i), ItemType_string);
-            writer.EndElement();
-        }
-    }
-    writer.EndElement();
+TEST(CFastInfosetReader, WhatReferencesAddIsLimited) {
+    EXPECT_EQ(ReadReferences("3C 00 'a' 93", 259, "A0", 100), "Unexpected End of File.");
+    EXPECT_EQ(ReadReferences("3C 00 'a' 93", 259, "A0", 1000), "refused");
+    EXPECT_EQ(ReadReferences("3C 60", 321, "00", 1000), "refused");
+    EXPECT_EQ(ReadReferences("38 CD 60", 321, "CD 81", 1000), "refused");
+    EXPECT_EQ(ReadReferences("7C 00 'a' 78 00 'b' 4C", 265, "00 80", 1000), "refused");
 }
 
 TEST(CFastInfosetReader, ReadsTheTreeThatTheTextHas) {
-    const ScriptedObject object(WriteManySizes);
+    // Names, values and texts of all sizes, and indices into all tables.
+    std::string words = "+p=urn:p +=urn:d <{urn:d}root @{urn:p}b=v ";
+    for (const std::size_t length : {1, 8, 9, 64, 65, 258, 264, 265, 320, 321, 70000}) {
+        const std::string text = std::string(length / 2, 'n') + "\u00E9";
+        words += "<{urn:new}" + text + " @b=" + text + " '" + text + " > ";
+    }
+    for (const std::string uri : {"{urn:p}", "{urn:d}"}) {
+        for (int i = 1; i <= 2100; ++i) {
+            const std::string name = "n" + std::to_string(i);
+            words += "<" + uri + name + " @" + name + "=" + name + " '" + name + " > ";
+        }
+    }
+    const ScriptedObject object(words + ">");
     CXmlDocument text;
     text.LoadXml(object.ToXml(false, false, EOLType_LF, defaults).c_str());
-    EXPECT_EQ(Read(object.ToFastInfosetStream(FInfoDecl_None, defaults, CompressionType_None)),
-              DumpTree(text.GetDocumentElement()));
+    EXPECT_EQ(Read(object.Written()), DumpTree(text.GetDocumentElement()));
 }
 
 TEST(CFastInfosetReader, ObjectsComeBackAsTheyWent) {

@@ -1,10 +1,10 @@
 #include <KzXmlLib10/fastinfoset/CFastInfosetWriter.h>
 
+#include "support/Bytes.h"
 #include "support/Failure.h"
 #include "support/FastInfoset.h"
 #include "support/TempDir.h"
 
-#include <KzXmlLib10/xml/CBinaryStream.h>
 #include <KzXmlLib10/xml/Compression.h>
 
 #include <gtest/gtest.h>
@@ -20,32 +20,15 @@ using Encoding = CFastInfosetContext::EncodedCharacterString;
 constexpr auto ByAlphabet = CFastInfosetContext::EncodingType_RestrictedAlphabet;
 constexpr auto ByAlgorithm = CFastInfosetContext::EncodingType_Algorithm;
 
+const CXmlSerializationContext defaults;
+const std::string header = "E0 00 00 01 00";
+const std::string xsi = "28 'http://www.w3.org/2001/XMLSchema-instance'";
+
 std::string Hex(const CBinaryData& data) { return ToUtf8(data.GetAsHexString()); }
+std::string Hex(const std::string& bytes) { return Hex(HexBytes(bytes)); }
 
-/// The hexadecimal form of a document without options whose root, "a", has `body` behind its name.
-std::string Root(const std::string& body, const char* start = "38 F0") {
-    return Hex(Bytes("E0 00 00 01 00" + std::string(start) + "3C 00 'a'" + body));
-}
-
-void Text(CXmlWriter& writer, const std::u16string& text, ItemType type = ItemType_string) {
-    writer.WriteText(text, type);
-}
-
-void Attribute(CXmlWriter& writer, const std::u16string& name, const std::u16string& value,
-               ItemType type = ItemType_string) {
-    writer.WriteAttribute(name, u"", value, type);
-}
-
-/// What the calls write inside an element "a" in no namespace.
-std::string Inside(const ScriptedObject::Script& script,
-                   const CXmlSerializationContext& context = CXmlSerializationContext()) {
-    return Hex(FastInfosetOf(
-        [&](CXmlWriter& writer) {
-            writer.StartElement(u"a", u"");
-            script(writer);
-            writer.EndElement();
-        },
-        context));
+std::string Write(const std::string& words, const CXmlSerializationContext& context = defaults) {
+    return Hex(ScriptedObject(words).Written(context));
 }
 
 CXmlSerializationContext WithEncoding(Encoding encoding, ItemType type = ItemType_string) {
@@ -54,195 +37,115 @@ CXmlSerializationContext WithEncoding(Encoding encoding, ItemType type = ItemTyp
     return context;
 }
 
-TEST(CFastInfosetWriter, EndsShareAByteInPairs) {
-    const auto nested = [](int depth) {
-        return Inside([=](CXmlWriter& writer) {
-            for (int i = 0; i < depth; ++i)
-                writer.StartElement(u"a", u"");
-            for (int i = 0; i < depth; ++i)
-                writer.EndElement();
-        });
-    };
-    EXPECT_EQ(nested(0), Root("FF"));          // root and document
-    EXPECT_EQ(nested(1), Root("00 FF F0"));    // element and root; the document alone
-    EXPECT_EQ(nested(2), Root("00 00 FF FF")); // an index of a name in one byte
-    EXPECT_EQ(nested(3), Root("00 00 00 FF FF F0"));
+TEST(CFastInfosetWriter, WritesElementsAttributesAndText) {
+    EXPECT_EQ(Write("<a @b=1 @c= <d @b=1 'x > <d 'x 'longer > <d ' > >"),
+              Hex(header + "78 F0"            // an element with attributes; no namespaces
+                           "3C 00 'a'"        // its name
+                           "78 00 'b' 40 '1'" // attribute b, a literal; value 1, to the table
+                           "78 00 'c' FF"     // attribute c, the empty value
+                           "F0"               // end of the attributes
+                           "7C 00 'd'"        // element d, with attributes
+                           "00 80"            // attribute 1, value 1
+                           "F0"               // end of the attributes, a byte of its own
+                           "90 'x'"           // text x, to the table
+                           "F0"               // end of d
+                           "01 A0"            // element 2, text 1
+                           "82 03 'longer'"   // text of 6 characters, not to the table
+                           "F0"               // end of d
+                           "01 FF"            // element 2, without content; ends of d and a
+                           "F0"));            // end of the document
 }
 
-TEST(CFastInfosetWriter, WritesElementsAttributesAndText) {
-    const auto written = Inside([](CXmlWriter& writer) {
-        Attribute(writer, u"b", u"1");
-        Attribute(writer, u"c", u"");
-        writer.StartElement(u"d", u"");
-        Attribute(writer, u"b", u"1");
-        Text(writer, u"x");
-        writer.EndElement();
-        writer.StartElement(u"d", u"");
-        Text(writer, u"x");
-        Text(writer, u"longer");
-        writer.EndElement();
-        writer.StartElement(u"d", u"");
-        Text(writer, u"");
-        writer.EndElement();
-    });
-    EXPECT_EQ(written, Root("78 00 'b' 40 '1'" // attribute b, a literal; value 1, to the table
-                            "78 00 'c' FF"     // attribute c, the empty value
-                            "F0"               // end of the attributes
-                            "7C 00 'd'"        // element d, with attributes
-                            "00 80"            // attribute 1, value 1
-                            "F0"               // end of the attributes, a byte of its own
-                            "90 'x'"           // text x, to the table
-                            "F0"               // end of d
-                            "01"               // element 2
-                            "A0"               // text 1
-                            "82 03 'longer'"   // text of 6 characters, not to the table
-                            "F0"
-                            "01"       // element 2, without content
-                            "FF F0",   // ends of d and a; end of the document
-                            "78 F0")); // the flag of attributes stands in front of the namespaces
+TEST(CFastInfosetWriter, EndsShareAByteInPairs) {
+    const std::string start = header + "38 F0 3C 00 'a'";
+    EXPECT_EQ(Write("<a >"), Hex(start + "FF")); // root and document
+    EXPECT_EQ(Write("<a <a > >"), Hex(start + "00 FF F0"));
+    EXPECT_EQ(Write("<a <a <a > > <a > >"), Hex(start + "00 00 FF 00 FF F0"));
+    // Text behind a child comes without the mark that ends the child.
+    EXPECT_EQ(Write("<a <a > 'x >"), Hex(start + "00 90 'x' FF F0"));
 }
 
 TEST(CFastInfosetWriter, ShortValuesGoToTheTables) {
-    const ScriptedObject::Script script = [](CXmlWriter& writer) {
-        for (const char16_t* name : {u"b", u"c"}) {
-            Attribute(writer, name, u"12345");
-            Attribute(writer, name, u"123456");
-        }
-        for (int i = 0; i < 2; ++i) {
-            Text(writer, u"12345");
-            Text(writer, u"123456");
-        }
-    };
-    EXPECT_EQ(Inside(script), Root("78 00 'b' 44 '12345'  00 05 '123456'"
-                                   "78 00 'c' 80          01 05 '123456'  F0"
-                                   "92 02 '12345'  82 03 '123456'  A0  82 03 '123456'  FF",
-                                   "78 F0"));
+    const std::string words = "<a @b=12345 @c=123456 @d=12345 @e=123456 '12345 '123456 '12345 '123456 >";
+    const std::string start = header + "78 F0 3C 00 'a' 78 00 'b' 44 '12345' 78 00 'c'";
+    EXPECT_EQ(Write(words), Hex(start + "05 '123456'  78 00 'd' 80  78 00 'e' 05 '123456'  F0"
+                                        "92 02 '12345' 82 03 '123456'  A0 82 03 '123456'  FF"));
     CXmlSerializationContext context;
     context.GetFIContext().SetAttributeMaxAddLength(7);
     context.GetFIContext().SetElementMaxAddLength(0);
-    EXPECT_EQ(Inside(script, context),
-              Root("78 00 'b' 44 '12345'  00 45 '123456'"
-                   "78 00 'c' 80          01 81  F0"
-                   "82 02 '12345'  82 03 '123456'  82 02 '12345'  82 03 '123456'  FF",
-                   "78 F0"));
+    EXPECT_EQ(Write(words, context),
+              Hex(start + "45 '123456'  78 00 'd' 80  78 00 'e' 81  F0"
+                          "82 02 '12345' 82 03 '123456'  82 02 '12345' 82 03 '123456'  FF"));
 }
 
 TEST(CFastInfosetWriter, NamespaceAttributesStandOnTheRootOnly) {
-    const auto written = FastInfosetOf([](CXmlWriter& writer) {
-        writer.AddNamespace(u"p", u"urn:p");
-        writer.AddNamespace(u"x", u"http://www.w3.org/XML/1998/namespace/more");
-        writer.AddNamespace(u"", u"urn:e");
-        writer.AddNamespace(u"q", u"");
-        writer.SetDefaultNamespace(u"urn:d");
-        writer.StartElement(u"a", u"urn:d");
-        writer.StartElement(u"a", u"urn:p");
-        writer.WriteAttribute(u"b", u"urn:p", u"1", ItemType_string);
-        writer.WriteAttribute(u"b", u"urn:new", u"1", ItemType_string);
-        writer.EndElement();
-        writer.StartElement(u"a", u"urn:new");
-        writer.EndElement();
-        writer.EndElement();
-    });
-    EXPECT_EQ(Hex(written), Hex(Bytes("E0 00 00 01 00"
-                                      "38"
-                                      "CD 04 'urn:d'"        // the default namespace first
-                                      "CE 00 'q'"            // then in the order of URIs: none
-                                      "CD 04 'urn:e'"        // an empty prefix
-                                      "CF 00 'p' 04 'urn:p'" // that of XML is left out
-                                      "F0"
-                                      "3D 81 00 'a'" // namespace 2
-                                      "7F 82 83 80"  // prefix 3, namespace 4, local name 1
-                                      "7B 82 83 00 'b' 40 '1'"
-                                      "7B 01 'AA' 06 'urn:new' 81 80" // a prefix made up, declared nowhere
-                                      "F0"                            // end of the attributes
-                                      "F0"                            // end of p:a
-                                      "3F 83 84 80"                   // the same prefix, made up again
-                                      "FF F0")));
-}
-
-TEST(CFastInfosetWriter, TextBehindAChildComesWithoutTheMarkOfTheChild) {
-    EXPECT_EQ(Inside([](CXmlWriter& writer) {
-                  writer.StartElement(u"b", u"");
-                  writer.EndElement();
-                  Text(writer, u"x");
-              }),
-              Root("3C 00 'b' 90 'x' FF F0"));
+    EXPECT_EQ(Write("+p=urn:p +x=http://www.w3.org/XML/1998/namespace/more +q= +=urn:d "
+                    "<{urn:d}a <{urn:p}a @{urn:p}b=1 @{urn:new}b=1 > <{urn:new}a > >"),
+              Hex(header + "38 CD 04 'urn:d'"              // the default namespace first
+                           "CE 00 'q'"                     // then in the order of URIs: none
+                           "CF 00 'p' 04 'urn:p'"          // that of XML is left out
+                           "F0 3D 81 00 'a'"               // namespace 2, a new local name
+                           "7F 82 82 80"                   // prefix 3, namespace 3, local name 1
+                           "7B 82 82 00 'b' 40 '1'"        // the same prefix and namespace
+                           "7B 01 'AA' 06 'urn:new' 81 80" // a prefix made up, declared nowhere
+                           "F0 F0"                         // ends of the attributes and of p:a
+                           "3F 83 83 80 FF F0"));          // the same prefix, made up again
 }
 
 TEST(CFastInfosetWriter, XsiTypeHasTwoFormsForPrefixes) {
-    const std::string xsi = "28 'http://www.w3.org/2001/XMLSchema-instance'";
-    EXPECT_EQ(Inside([](CXmlWriter& writer) {
-                  writer.WriteXsiType(u"", u"T", ItemType_string);
-                  writer.WriteXsiNil();
-              }),
-              Root("7B 01 'AA'" + xsi +
-                       "03 'type' 40 'T'" // in no namespace: plain
-                       "7B 81 81 02 'nil' 43 'true' F0 FF",
-                   "78 F0"));
-    const auto typed = [](bool hasPrefix) {
-        return Hex(FastInfosetOf([=](CXmlWriter& writer) {
-            if (hasPrefix)
-                writer.AddNamespace(u"p", u"urn:p");
-            writer.StartElement(u"a", u"");
-            writer.WriteXsiType(u"urn:p", u"T", ItemType_string);
-            writer.EndElement();
-        }));
-    };
-    // The prefix of the type's namespace, with the namespace of xsi.
-    EXPECT_EQ(typed(true), Root("7B 81" + xsi + "03 'type' 42 'p:T' F0 FF", "78 CF 00 'p' 04 'urn:p' F0"));
-    // The name and namespace of the type itself.
-    EXPECT_EQ(typed(false), Root("7B 01 'AA' 04 'urn:p' 00 'T' 43 'AA:T' F0 FF", "78 F0"));
+    EXPECT_EQ(Write("<a type=T nil >"), // in no namespace
+              Hex(header + "78 F0 3C 00 'a' 7B 01 'AA'" + xsi +
+                  "03 'type' 40 'T'  7B 81 81 02 'nil' 43 'true'  F0 FF"));
+    EXPECT_EQ(Write("+p=urn:p <a type={urn:p}T >"), // the prefix of the type with the namespace of xsi
+              Hex(header + "78 CF 00 'p' 04 'urn:p' F0 3C 00 'a' 7B 81" + xsi + "03 'type' 42 'p:T' F0 FF"));
+    EXPECT_EQ(Write("<a type={urn:p}T >"), // the name and namespace of the type itself
+              Hex(header + "78 F0 3C 00 'a' 7B 01 'AA' 04 'urn:p' 00 'T' 43 'AA:T' F0 FF"));
 }
 
 TEST(CFastInfosetWriter, EncodesValuesByKind) {
-    struct Case {
+    struct Row {
         Encoding encoding;
-        const char16_t* value;
-        const char* attribute; // behind the bits that tell a literal and the table
-        const char* chunk;
+        const char* value;
+        const char* bytes;
     };
-    const Case cases[] = {
-        {{ByAlgorithm, 1}, u"0aff", "70 01 0AFF", "9C 01 0AFF"},
-        {{ByAlgorithm, 2}, u"Cv8B", "70 12 0AFF01", "9C 06 00 0AFF01"},
-        {{ByAlgorithm, 3}, u"-2", "70 21 FFFE", "9C 09 FFFE"},
-        {{ByAlgorithm, 4}, u"7", "70 33 00000007", "9C 0E 01 00000007"},
-        {{ByAlgorithm, 5}, u"7", "70 47 0000000000000007", "9C 12 05 0000000000000007"},
-        {{ByAlgorithm, 6}, u"true", "70 50 38", "9C 14 38"},
-        {{ByAlgorithm, 7}, u"1.5", "70 63 3FC00000", "9C 1A 01 3FC00000"},
-        {{ByAlgorithm, 8}, u"1.5", "70 77 3FF8000000000000", "9C 1E 05 3FF8000000000000"},
-        {{ByAlgorithm, 9}, u"ab", "70 80 AB", "9C 20 AB"},
-        {{ByAlgorithm, 10}, u"\u00E9", "70 91 C3A9", "9C 25 C3A9"},
-        {{ByAlphabet, 1}, u"-12e", "60 01 A12D", "98 01 A12D"}, // two to a byte
-        {{ByAlphabet, 1}, u"-1.", "60 01 A1CF", "98 01 A1CF"},  // F pads
-        {{ByAlphabet, 2}, u"1Z ", "60 11 1DEF", "98 05 1DEF"},
+    const Row rows[] = {
+        {{ByAlgorithm, 1}, "0aff", "9C 01 0AFF"},
+        {{ByAlgorithm, 2}, "Cv8B", "9C 06 00 0AFF01"},
+        {{ByAlgorithm, 3}, "-2", "9C 09 FFFE"},
+        {{ByAlgorithm, 4}, "7", "9C 0E 01 00000007"},
+        {{ByAlgorithm, 5}, "7", "9C 12 05 0000000000000007"},
+        {{ByAlgorithm, 6}, "true", "9C 14 38"},
+        {{ByAlgorithm, 7}, "1.5", "9C 1A 01 3FC00000"},
+        {{ByAlgorithm, 8}, "1.5", "9C 1E 05 3FF8000000000000"},
+        {{ByAlgorithm, 9}, "ab", "9C 20 AB"},
+        {{ByAlgorithm, 10}, "\u00E9", "9C 25 C3A9"},
+        {{ByAlphabet, 1}, "-12e", "98 01 A12D"}, // two to a byte
+        {{ByAlphabet, 1}, "-1.", "98 01 A1CF"},  // F pads
+        {{ByAlphabet, 2}, "1Z:", "98 05 1DBF"},
     };
-    for (const auto& [encoding, value, attribute, chunk] : cases) {
-        const CXmlSerializationContext context = WithEncoding(encoding, ItemType_char);
-        EXPECT_EQ(Inside(
-                      [&](CXmlWriter& writer) {
-                          Attribute(writer, u"b", value, ItemType_char);
-                          Text(writer, value, ItemType_char);
-                          Text(writer, value, ItemType_string); // by its index, whatever its kind
-                      },
-                      context),
-                  Root("78 00 'b'" + std::string(attribute) + "F0" + chunk + "A0 FF", "78 F0"));
+    for (const Row& row : rows) {
+        // The second time by its index, whatever its kind.
+        const std::string words = "<a \"" + std::string(row.value) + " '" + row.value + " >";
+        EXPECT_EQ(Write(words, WithEncoding(row.encoding, ItemType_char)),
+                  Hex(header + "38 F0 3C 00 'a'" + row.bytes + "A0 FF"));
     }
+    EXPECT_EQ(Write("<a @b=7 @c=7654321 >", WithEncoding({ByAlgorithm, 4})),
+              Hex(header + "78 F0 3C 00 'a'  78 00 'b' 70 33 00000007  78 00 'c' 30 33 0074CBB1  F0 FF"));
+    EXPECT_EQ(Write("<a @b=1Z >", WithEncoding({ByAlphabet, 2})),
+              Hex(header + "78 F0 3C 00 'a'  78 00 'b' 60 10 1D  F0 FF"));
 }
 
 TEST(CFastInfosetWriter, ValuesWithoutBytesAreEmpty) {
-    const auto written = [](const std::u16string& value, const CXmlSerializationContext& context) {
-        return Inside(
-            [&](CXmlWriter& writer) {
-                Attribute(writer, u"b", value);
-                Attribute(writer, u"c", u"v", ItemType_char);
-                Text(writer, value);
-                Text(writer, u"t", ItemType_char);
-            },
-            context);
-    };
-    const std::string expected = Root("78 00 'b' FF  78 00 'c' 40 'v' F0  90 't' FF", "78 F0");
-    EXPECT_EQ(written(u"\xD800xy", CXmlSerializationContext()), expected);
-    EXPECT_EQ(written(u"====", WithEncoding({ByAlgorithm, 2})), expected);
+    EXPECT_EQ(Write("<a @b=!! '!! \"t >", WithEncoding({ByAlgorithm, 2})),
+              Hex(header + "78 F0 3C 00 'a' 78 00 'b' FF F0 90 't' FF"));
+    const ScriptedObject loneSurrogate([](CXmlWriter& writer) {
+        writer.StartElement(u"a", u"");
+        writer.WriteAttribute(u"b", u"", u"\xD800x", ItemType_string);
+        writer.WriteText(u"\xD800x", ItemType_string);
+        writer.WriteText(u"t", ItemType_string);
+        writer.EndElement();
+    });
+    EXPECT_EQ(Hex(loneSurrogate.Written()), Hex(header + "78 F0 3C 00 'a' 78 00 'b' FF F0 90 't' FF"));
 }
 
 TEST(CFastInfosetWriter, RefersToAVocabularyThatBothEndsKnow) {
@@ -254,26 +157,13 @@ TEST(CFastInfosetWriter, RefersToAVocabularyThatBothEndsKnow) {
     vocabulary.AddAttributeValue(u"known");
     vocabulary.AddElementValue(u"text");
     context.GetFIContext().SetUseGeneratedVocabulary(true);
-    const auto written = [&] {
-        return Hex(FastInfosetOf(
-            [](CXmlWriter& writer) {
-                writer.AddNamespace(u"p", u"urn:p");
-                writer.StartElement(u"a", u"");
-                Attribute(writer, u"c", u"known");
-                writer.StartElement(u"b", u"urn:p");
-                Attribute(writer, u"d", u"new");
-                Text(writer, u"text");
-                writer.EndElement();
-                writer.EndElement();
-            },
-            context));
-    };
+    const std::string words = "+p=urn:p <a @c=known <{urn:p}b @d=new 'text > >";
     const std::string body = "78 CF 81 81 F0  00  00 80 F0  41  78 00 'd' 42 'new' F0 A0 FF F0";
-    const std::string expected = Hex(Bytes("E0 00 00 01  20 10 00  1A 'urn:quillon:vocabulary:none'" + body));
-    EXPECT_EQ(written(), expected);
-    EXPECT_EQ(written(), expected); // what the first document added is forgotten
+    const std::string withDefault = Hex("E0 00 00 01  20 10 00  1A 'urn:quillon:vocabulary:none'" + body);
+    EXPECT_EQ(Write(words, context), withDefault);
+    EXPECT_EQ(Write(words, context), withDefault); // what the first document added is forgotten
     context.GetFIContext().SetExternalVocabularyURI(u"urn:v");
-    EXPECT_EQ(written(), Hex(Bytes("E0 00 00 01  20 10 00  04 'urn:v'" + body)));
+    EXPECT_EQ(Write(words, context), Hex("E0 00 00 01  20 10 00  04 'urn:v'" + body));
 }
 
 TEST(CFastInfosetWriter, DeclarationsStandInFront) {
@@ -289,122 +179,72 @@ TEST(CFastInfosetWriter, DeclarationsStandInFront) {
         "<?xml version='1.1' encoding='finf' standalone='yes'?>",
         "<?xml version='1.1' encoding='finf' standalone='no'?>",
     };
-    const ScriptedObject::Script script = [](CXmlWriter& writer) {
+    const ScriptedObject object("<a >");
+    const std::string document = FromBinary(object.Written());
+    for (int i = 0; i <= 9; ++i)
+        EXPECT_EQ(FromBinary(object.Written(defaults, static_cast<FInfoDecl>(i))),
+                  declarations[i] + document);
+    for (const int i : {-1, 10})
+        EXPECT_EQ(
+            Failure<CKzInvalidParamException>([&] { object.Written(defaults, static_cast<FInfoDecl>(i)); }),
+            "There is no FInfoDecl [" + std::to_string(i) + "]");
+}
+
+TEST(CFastInfosetWriter, CommentsInstructionsAndSchemasLeaveNoTrace) {
+    const ScriptedObject object([](CXmlWriter& writer) {
         writer.WriteProcessingInstruction(u"<?p?>");
         writer.WriteComment(u"c");
         writer.StartElement(u"a", u"");
-        writer.WriteInlineSchema(u"<schema/>"); // none of the three leaves a trace
+        writer.WriteInlineSchema(u"<schema/>");
         writer.EndElement();
-    };
-    for (int i = 0; i <= 9; ++i) {
-        const std::string expected = declarations[i];
-        const CBinaryData written =
-            FastInfosetOf(script, CXmlSerializationContext(), static_cast<FInfoDecl>(i));
-        ASSERT_GT(written.GetLength(), expected.size());
-        EXPECT_EQ(std::string(written.GetData(), written.GetData() + expected.size()), expected);
-        EXPECT_TRUE(Hex(written).ends_with(Root("FF")));
-    }
-    for (const int unknown : {-1, 10})
-        EXPECT_EQ(Failure<CKzInvalidParamException>([&] {
-                      FastInfosetOf(script, CXmlSerializationContext(), static_cast<FInfoDecl>(unknown));
-                  }),
-                  "There is no FInfoDecl [" + std::to_string(unknown) + "]");
+    });
+    EXPECT_EQ(Hex(object.Written()), Write("<a >"));
 }
 
 TEST(CFastInfosetWriter, RefusesWhatHasNoForm) {
-    const auto attribute = [](Encoding encoding, const char16_t* value) {
-        return Failure(
-            [&] { Inside([&](CXmlWriter& w) { Attribute(w, u"b", value); }, WithEncoding(encoding)); });
+    const auto failure = [](Encoding encoding, const std::string& words) {
+        const std::string message = Failure([&] { Write(words, WithEncoding(encoding)); });
+        const std::string start = "Failed to write FastInfoset. ";
+        return message.starts_with(start) ? message.substr(start.size()) : message;
     };
-    const auto text = [](Encoding encoding, const char16_t* value) {
-        return Failure([&] { Inside([&](CXmlWriter& w) { Text(w, value); }, WithEncoding(encoding)); });
-    };
-    const std::string failed = "Failed to write FastInfoset. ";
     const auto unknown = static_cast<CFastInfosetContext::EncodingType>(3);
-    EXPECT_EQ(attribute({ByAlphabet, 0}, u"1"), failed + "Invalid Restricted Alphabet value [0]");
-    EXPECT_EQ(text({ByAlphabet, 3}, u"1"), failed + "Invalid Restricted Alphabet value [3]");
-    EXPECT_EQ(attribute({ByAlgorithm, 0}, u"1"), failed + "Invalid Encoding Algorithm value [0]");
-    EXPECT_EQ(text({ByAlgorithm, 11}, u"1"), failed + "Invalid Encoding Algorithm value [11]");
-    EXPECT_EQ(attribute({unknown, 1}, u"1"), failed + "Unknown encoding in EncodedCharacterStringBit5.");
-    EXPECT_EQ(text({unknown, 1}, u"1"), failed + "Unknown encoding in EncodedCharacterStringBit7.");
-    const std::string notFound = failed + "Invalid character not found for Restricted Alphabet.";
-    EXPECT_EQ(attribute({ByAlphabet, 1}, u"1E5"), notFound); // the alphabet has a lower-case e only
-    EXPECT_EQ(text({ByAlphabet, 2}, u"10:00:00.5"), notFound);
-    EXPECT_EQ(text({ByAlphabet, 2}, u"10:00:00+01:00"), notFound);
-
-    const auto element = [](const std::u16string& name, const std::u16string& uri) {
-        return Failure([&] {
-            Inside([&](CXmlWriter& writer) {
-                writer.StartElement(name, uri);
-                writer.EndElement();
-            });
-        });
-    };
-    const std::string noName = failed + "A name or namespace has no character that UTF-8 can hold.";
-    EXPECT_EQ(element(u"", u""), noName);
-    EXPECT_EQ(element(u"b", u"\xDC00"), noName);
+    EXPECT_EQ(failure({ByAlphabet, 0}, "<a @b=1 >"), "Invalid Restricted Alphabet value [0]");
+    EXPECT_EQ(failure({ByAlphabet, 3}, "<a '1 >"), "Invalid Restricted Alphabet value [3]");
+    EXPECT_EQ(failure({ByAlgorithm, 0}, "<a @b=1 >"), "Invalid Encoding Algorithm value [0]");
+    EXPECT_EQ(failure({ByAlgorithm, 11}, "<a '1 >"), "Invalid Encoding Algorithm value [11]");
+    EXPECT_EQ(failure({unknown, 1}, "<a @b=1 >"), "Unknown encoding in EncodedCharacterStringBit5.");
+    EXPECT_EQ(failure({unknown, 1}, "<a '1 >"), "Unknown encoding in EncodedCharacterStringBit7.");
+    const std::string notFound = "Invalid character not found for Restricted Alphabet.";
+    EXPECT_EQ(failure({ByAlphabet, 1}, "<a @b=1E5 >"), notFound); // the alphabet has a lower-case e only
+    EXPECT_EQ(failure({ByAlphabet, 2}, "<a '10:00:00.5 >"), notFound);
+    EXPECT_EQ(failure({ByAlphabet, 2}, "<a '10:00:00+01:00 >"), notFound);
+    EXPECT_EQ(failure({}, "< >"), "A name or namespace has no character that UTF-8 can hold.");
 }
 
 TEST(CFastInfosetWriter, ChecksTheOrderOfCalls) {
-    const std::string tooLate = "Attributes must be added before elements";
-    EXPECT_EQ(Failure([] {
-                  Inside([](CXmlWriter& w) {
-                      Text(w, u"");
-                      Attribute(w, u"b", u"");
-                  });
-              }),
-              tooLate);
-    EXPECT_EQ(Failure([] {
-                  Inside([](CXmlWriter& w) {
-                      Text(w, u"");
-                      w.WriteXsiNil();
-                  });
-              }),
-              tooLate);
-    EXPECT_EQ(Failure([] {
-                  Inside([](CXmlWriter& w) {
-                      Text(w, u"");
-                      w.WriteXsiType(u"u", u"T", ItemType_string);
-                  });
-              }),
-              tooLate);
-    // A root of which nothing is written yet is open, too.
-    EXPECT_EQ(Failure([] { FastInfosetOf([](CXmlWriter& w) { w.StartElement(u"a", u""); }); }),
-              "An Element has not been closed.");
-    EXPECT_EQ(Failure([] { Inside([](CXmlWriter& w) { w.StartElement(u"a", u""); }); }),
-              "An Element has not been closed.");
-    const std::string noElement = "There is no open element to write to";
-    EXPECT_EQ(Failure<CKzInvalidStateException>([] { FastInfosetOf([](CXmlWriter& w) { Text(w, u"x"); }); }),
-              noElement);
-    EXPECT_EQ(Failure<CKzInvalidStateException>([] { FastInfosetOf([](CXmlWriter& w) { w.EndElement(); }); }),
-              noElement);
-    EXPECT_EQ(
-        Failure<CKzInvalidStateException>([] { FastInfosetOf([](CXmlWriter& w) { w.WriteXsiNil(); }); }),
-        noElement);
+    for (const char* words : {"<a ' @b=1 >", "<a ' nil >", "<a ' type=T >"})
+        EXPECT_EQ(Failure([&] { Write(words); }), "Attributes must be added before elements");
+    for (const char* words : {"<a", "<a <a >"}) // also a root of which nothing is written yet
+        EXPECT_EQ(Failure([&] { Write(words); }), "An Element has not been closed.");
+    for (const char* words : {"'x", ">", "@b=1", "nil"})
+        EXPECT_EQ(Failure<CKzInvalidStateException>([&] { Write(words); }),
+                  "There is no open element to write to");
 }
 
 TEST(CFastInfosetWriter, CompressesAndSavesDocuments) {
-    const ScriptedObject object([](CXmlWriter& writer) {
-        writer.StartElement(u"a", u"");
-        Text(writer, std::u16string(1000, u'x'));
-        writer.EndElement();
-    });
-    const CXmlSerializationContext context;
-    const CBinaryData plain = object.ToFastInfosetStream(FInfoDecl_None, context, CompressionType_None);
+    const ScriptedObject object("<a '" + std::string(1000, 'x') + " >");
+    const CBinaryData plain = object.Written();
     CBinaryData zipped = plain;
     Compress(zipped, CompressionType_GZip);
-    EXPECT_EQ(object.ToFastInfosetStream(FInfoDecl_None, context, CompressionType_GZip), zipped);
+    EXPECT_EQ(object.ToFastInfosetStream(FInfoDecl_None, defaults, CompressionType_GZip), zipped);
 
     const TempDir dir;
     const auto saved = [&](const char* name, CompressionType compression) {
-        object.ToFastInfosetFile(dir.Path16(name).c_str(), FInfoDecl_None, context, compression);
-        const std::string bytes = dir.Read(name);
-        CBinaryData data;
-        data.SetBuffer(reinterpret_cast<const unsigned char*>(bytes.data()), bytes.size());
-        return Hex(data);
+        object.ToFastInfosetFile(dir.Path16(name).c_str(), FInfoDecl_None, defaults, compression);
+        return dir.Read(name);
     };
-    EXPECT_EQ(saved("plain", CompressionType_None), Hex(plain));
-    EXPECT_EQ(saved("zipped", CompressionType_GZip), Hex(zipped));
+    EXPECT_EQ(saved("plain", CompressionType_None), FromBinary(plain));
+    EXPECT_EQ(saved("zipped", CompressionType_GZip), FromBinary(zipped));
     EXPECT_EQ(Failure([&] { saved("zlib", CompressionType_ZLib); }),
               "ZLIB Compression only available for To Stream methods.");
     EXPECT_FALSE(std::filesystem::exists(dir.Path("zlib")));

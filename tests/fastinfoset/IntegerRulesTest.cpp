@@ -61,7 +61,7 @@ TEST(IntegerRules, EncodeAndDecodeTheEdgesOfAllBands) {
     for (const Row& row : rows) {
         Byte octets[IntegerRule::MaxOctets];
         const unsigned count = row.rule.Encode(row.value, row.leadingBits, octets);
-        EXPECT_EQ(CBinaryData::GetAsHexString(octets, count), support::Bytes(row.bytes).GetAsHexString());
+        EXPECT_EQ(CBinaryData::GetAsHexString(octets, count), support::HexBytes(row.bytes).GetAsHexString());
         EXPECT_EQ(Decoded(row.rule, {octets, count}), row.value) << row.bytes;
     }
 }

@@ -26,7 +26,7 @@ std::string Packed(std::size_t alphabetSize, const std::u16string& text) {
 }
 
 std::string Unpacked(std::size_t alphabetSize, const std::string& hex) {
-    const CBinaryData octets = Bytes(hex);
+    const CBinaryData octets = HexBytes(hex);
     return ToUtf8(
         UnpackRestrictedAlphabetString(Alphabet(alphabetSize), {octets.GetData(), octets.GetLength()}));
 }

@@ -10,12 +10,18 @@
 
 namespace KzXmlLib10::support {
 
-/// An object that writes itself by a list of calls.
+/// An object that writes itself by calls to the writer: a function, or a text with a word for each call.
+///
+///     +p=urn:p   AddNamespace, SetDefaultNamespace for an empty prefix
+///     <a  <{uri}a   StartElement     >   EndElement
+///     @b=v  @{uri}b=v   WriteAttribute     'x  "x   WriteText of a string, of a char
+///     type={uri}T   WriteXsiType     nil   WriteXsiNil
 class ScriptedObject : public CXmlObjectBase {
 public:
     using Script = std::function<void(CXmlWriter&)>;
 
     explicit ScriptedObject(Script script) : m_script(std::move(script)) {}
+    explicit ScriptedObject(const std::string& words);
 
     CXmlObjectBase* GetBase() override { return this; }
     std::u16string GetTargetNamespace() const override { return u""; }
@@ -28,32 +34,18 @@ public:
         return nullptr;
     }
 
+    /// The object as Fast Infoset.
+    CBinaryData Written(const CXmlSerializationContext& context = CXmlSerializationContext(),
+                        FInfoDecl declaration = FInfoDecl_None) const {
+        return ToFastInfosetStream(declaration, context, CompressionType_None);
+    }
+
 private:
     Script m_script;
 };
 
-/// The Fast Infoset document that the calls make.
-inline CBinaryData FastInfosetOf(const ScriptedObject::Script& script,
-                                 const CXmlSerializationContext& context = CXmlSerializationContext(),
-                                 FInfoDecl declaration = FInfoDecl_None) {
-    return ScriptedObject(script).ToFastInfosetStream(declaration, context, CompressionType_None);
-}
-
 /// Bytes from hexadecimal digits, which may be set apart by blanks; characters between apostrophes stand for
 /// themselves.
-inline CBinaryData Bytes(const std::string& text) {
-    CBinaryData bytes;
-    for (std::size_t i = 0; i < text.size(); ++i) {
-        if (text[i] == ' ')
-            continue;
-        if (text[i] == '\'') {
-            while (text.at(++i) != '\'')
-                bytes.Append(static_cast<unsigned char>(text[i]));
-            continue;
-        }
-        bytes.Append(static_cast<unsigned char>(std::stoi(text.substr(i++, 2), nullptr, 16)));
-    }
-    return bytes;
-}
+CBinaryData HexBytes(const std::string& text);
 
 } // namespace KzXmlLib10::support
