@@ -33,6 +33,9 @@ void PrintSummary(const CShipment& shipment) {
     PrintLine("to " + ToUtf8(recipient.GetName()) + " in " + ToUtf8(recipient.GetAddress()->GetCity()) +
               ", " + ToUtf8(recipient.GetAddress()->GetCountry()));
     PrintLine("by " + Describe(*shipment.GetCarrier()));
+    for (const CElement& extension : *shipment.GetAnyElements())
+        PrintLine("with an extension: " + ToUtf8(extension.GetName()) + " of " +
+                  ToUtf8(extension.GetNamespace()));
 }
 
 void Change(CShipment& shipment) {
@@ -42,6 +45,7 @@ void Change(CShipment& shipment) {
     courier->SetName(u"Pigeon & Sons");
     courier->SetPhone(u"+46 8 123456");
     shipment.SetCarrier(courier);
+    shipment.GetAnyElements()->Item(0)->GetChildElements()->Add(u"cleared")->SetText(u"2024-05-18");
 }
 
 void Write(const CShipment& shipment, const std::filesystem::path& file) {

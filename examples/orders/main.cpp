@@ -18,7 +18,9 @@ int main(int argc, char** argv) {
     }
     try {
         std::filesystem::create_directories(argv[2]);
+        orders::demo::ShowOrders(argv[1], argv[2]);
         orders::demo::ShowShipment(argv[1], argv[2]);
+        orders::demo::ShowFastInfoset(argv[1]);
         return EXIT_SUCCESS;
     } catch (const KzXmlLib10::CKzException& failure) {
         std::cerr << failure << '\n';

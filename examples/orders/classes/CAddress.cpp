@@ -14,20 +14,19 @@ CGeneratedObject::Tables CAddress::BuildTables() {
     return {
         new CParentElementInfo(XmlElementGroupType_Sequence, XmlElementType_Element, u"AddressType", ns, true,
                                false, -1, ItemType_Invalid, nullptr, false),
-        new CElementInfo* [] {
+        ElementTable({
             new CElementInfoSeqPrimMnd(u"street", ns, Property_street, false, ItemType_string, nullptr,
                                        preserve, NoFacets()),
-                new CElementInfoSeqPrimMnd(u"city", ns, Property_city, false, ItemType_string, nullptr,
-                                           preserve, NameTypeFacets()),
-                new CElementInfoSeqPrimMnd(u"postalCode", ns, Property_postalCode, false, ItemType_string,
-                                           nullptr, preserve, NoFacets()),
-                new CElementInfoSeqPrimOpt(u"region", ns, Property_region, false, ItemType_string, nullptr,
-                                           preserve, NoFacets()),
-                new CElementInfoSeqPrimMnd(u"country", ns, Property_country, false, ItemType_string, nullptr,
-                                           preserve, CountryTypeFacets()),
-                nullptr,
-        },
-        new CAttributeInfo* [] { nullptr },
+            new CElementInfoSeqPrimMnd(u"city", ns, Property_city, false, ItemType_string, nullptr, preserve,
+                                       NameTypeFacets()),
+            new CElementInfoSeqPrimMnd(u"postalCode", ns, Property_postalCode, false, ItemType_string,
+                                       nullptr, preserve, NoFacets()),
+            new CElementInfoSeqPrimOpt(u"region", ns, Property_region, false, ItemType_string, nullptr,
+                                       preserve, NoFacets()),
+            new CElementInfoSeqPrimMnd(u"country", ns, Property_country, false, ItemType_string, nullptr,
+                                       preserve, CountryTypeFacets()),
+        }),
+        AttributeTable({}),
     };
 }
 
@@ -45,15 +44,15 @@ void CAddress::AccessProperty(int propertyIndex, bool read, KzVariant& value) {
     CElementInfo** elements = m_tables->elements;
     switch (propertyIndex) {
     case Property_street:
-        return AccessElement(elements[propertyIndex], read, value, m_street);
+        return AccessPrimitive(elements[propertyIndex], read, value, m_street);
     case Property_city:
-        return AccessElement(elements[propertyIndex], read, value, m_city);
+        return AccessPrimitive(elements[propertyIndex], read, value, m_city);
     case Property_postalCode:
-        return AccessElement(elements[propertyIndex], read, value, m_postalCode);
+        return AccessPrimitive(elements[propertyIndex], read, value, m_postalCode);
     case Property_region:
-        return AccessElement(elements[propertyIndex], read, value, m_region);
+        return AccessPrimitive(elements[propertyIndex], read, value, m_region);
     case Property_country:
-        return AccessElement(elements[propertyIndex], read, value, m_country);
+        return AccessPrimitive(elements[propertyIndex], read, value, m_country);
     default:
         FailUnknownProperty(propertyIndex);
     }

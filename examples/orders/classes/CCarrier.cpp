@@ -18,7 +18,7 @@ void CCarrier::Init() { m_name.clear(); }
 void CCarrier::AccessProperty(int propertyIndex, bool read, KzVariant& value) {
     switch (propertyIndex) {
     case Property_name:
-        return AccessElement(GetClassElementInfo()[propertyIndex], read, value, m_name);
+        return AccessPrimitive(GetClassElementInfo()[propertyIndex], read, value, m_name);
     default:
         FailUnknownProperty(propertyIndex);
     }
@@ -34,14 +34,12 @@ CGeneratedObject::Tables CCourier::BuildTables() {
     return {
         new CParentElementInfo(XmlElementGroupType_Sequence, XmlElementType_Element, u"CourierType",
                                shipmentNamespace, true, true, -1, ItemType_Invalid, nullptr, false),
-        new CElementInfo* [] {
+        ElementTable({
             NameElement(),
-                new CElementInfoSeqPrimMnd(u"phone", shipmentNamespace, Property_phone, false,
-                                           ItemType_string, nullptr,
-                                           CWhitespaceUtils::WhitespaceRule_Preserve, PhoneTypeFacets()),
-                nullptr,
-        },
-        new CAttributeInfo* [] { nullptr },
+            new CElementInfoSeqPrimMnd(u"phone", shipmentNamespace, Property_phone, false, ItemType_string,
+                                       nullptr, CWhitespaceUtils::WhitespaceRule_Preserve, PhoneTypeFacets()),
+        }),
+        AttributeTable({}),
     };
 }
 
@@ -55,7 +53,7 @@ void CCourier::Init() {
 void CCourier::AccessProperty(int propertyIndex, bool read, KzVariant& value) {
     switch (propertyIndex) {
     case Property_phone:
-        return AccessElement(m_tables->elements[propertyIndex], read, value, m_phone);
+        return AccessPrimitive(m_tables->elements[propertyIndex], read, value, m_phone);
     default:
         CCarrier::AccessProperty(propertyIndex, read, value);
     }
@@ -71,17 +69,15 @@ CGeneratedObject::Tables CPost::BuildTables() {
     return {
         new CParentElementInfo(XmlElementGroupType_Sequence, XmlElementType_Element, u"PostType",
                                shipmentNamespace, true, true, -1, ItemType_Invalid, nullptr, false),
-        new CElementInfo* [] {
+        ElementTable({
             NameElement(),
-                new CElementInfoSeqPrimMnd(u"office", shipmentNamespace, Property_office, false,
-                                           ItemType_string, nullptr,
-                                           CWhitespaceUtils::WhitespaceRule_Preserve, NoFacets()),
-                new CElementInfoSeqPrimMnd(u"registered", shipmentNamespace, Property_registered, false,
-                                           ItemType_boolean, nullptr,
-                                           CWhitespaceUtils::WhitespaceRule_Collapse, NoFacets()),
-                nullptr,
-        },
-        new CAttributeInfo* [] { nullptr },
+            new CElementInfoSeqPrimMnd(u"office", shipmentNamespace, Property_office, false, ItemType_string,
+                                       nullptr, CWhitespaceUtils::WhitespaceRule_Preserve, NoFacets()),
+            new CElementInfoSeqPrimMnd(u"registered", shipmentNamespace, Property_registered, false,
+                                       ItemType_boolean, nullptr, CWhitespaceUtils::WhitespaceRule_Collapse,
+                                       NoFacets()),
+        }),
+        AttributeTable({}),
     };
 }
 
@@ -96,9 +92,9 @@ void CPost::Init() {
 void CPost::AccessProperty(int propertyIndex, bool read, KzVariant& value) {
     switch (propertyIndex) {
     case Property_office:
-        return AccessElement(m_tables->elements[propertyIndex], read, value, m_office);
+        return AccessPrimitive(m_tables->elements[propertyIndex], read, value, m_office);
     case Property_registered:
-        return AccessElement(m_tables->elements[propertyIndex], read, value, m_registered);
+        return AccessPrimitive(m_tables->elements[propertyIndex], read, value, m_registered);
     default:
         CCarrier::AccessProperty(propertyIndex, read, value);
     }

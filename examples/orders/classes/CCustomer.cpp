@@ -15,18 +15,17 @@ CGeneratedObject::Tables CCustomer::BuildTables() {
     return {
         new CParentElementInfo(XmlElementGroupType_Sequence, XmlElementType_Element, u"CustomerType", ns,
                                true, false, -1, ItemType_Invalid, nullptr, false),
-        new CElementInfo* [] {
+        ElementTable({
             new CElementInfoSeqPrimMnd(u"name", ns, Property_name, false, ItemType_string, nullptr, preserve,
                                        NameTypeFacets()),
-                new CElementInfoSeqPrimMnd(u"email", ns, Property_email, false, ItemType_string, nullptr,
-                                           preserve, EmailTypeFacets()),
-                new CElementInfoSeqClsMnd(u"address", ns, Property_address, XmlElementType_Element,
-                                          CClassFactory::CreateObject, ClassId_Address, false),
-                new CElementInfoSeqPrimOpt(u"phone", ns, Property_phone, false, ItemType_string, nullptr,
-                                           preserve, PhoneTypeFacets()),
-                nullptr,
-        },
-        new CAttributeInfo* [] { nullptr },
+            new CElementInfoSeqPrimMnd(u"email", ns, Property_email, false, ItemType_string, nullptr,
+                                       preserve, EmailTypeFacets()),
+            new CElementInfoSeqClsMnd(u"address", ns, Property_address, XmlElementType_Element,
+                                      CClassFactory::CreateObject, ClassId_Address, false),
+            new CElementInfoSeqPrimOpt(u"phone", ns, Property_phone, false, ItemType_string, nullptr,
+                                       preserve, PhoneTypeFacets()),
+        }),
+        AttributeTable({}),
     };
 }
 
@@ -44,13 +43,13 @@ void CCustomer::AccessProperty(int propertyIndex, bool read, KzVariant& value) {
     CElementInfo** elements = m_tables->elements;
     switch (propertyIndex) {
     case Property_name:
-        return AccessElement(elements[propertyIndex], read, value, m_name);
+        return AccessPrimitive(elements[propertyIndex], read, value, m_name);
     case Property_email:
-        return AccessElement(elements[propertyIndex], read, value, m_email);
+        return AccessPrimitive(elements[propertyIndex], read, value, m_email);
     case Property_address:
         return read ? value.SetXmlObject(m_address) : SetAddress(ObjectFromVariant<CAddress>(value));
     case Property_phone:
-        return AccessElement(elements[propertyIndex], read, value, m_phone);
+        return AccessPrimitive(elements[propertyIndex], read, value, m_phone);
     default:
         FailUnknownProperty(propertyIndex);
     }

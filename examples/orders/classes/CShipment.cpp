@@ -15,30 +15,31 @@ CGeneratedObject::Tables CShipment::BuildTables() {
     return {
         new CParentElementInfo(XmlElementGroupType_Sequence, XmlElementType_Element, u"shipment", ns, true,
                                false, -1, ItemType_Invalid, nullptr, false),
-        new CElementInfo* [] {
+        ElementTable({
             new CElementInfoSeqClsMnd(u"recipient", ns, Property_recipient, XmlElementType_Element,
                                       CClassFactory::CreateObject, ClassId_Customer, false),
-                new CElementInfoSeqPrimMnd(u"parcels", ns, Property_parcels, false, ItemType_i4, nullptr,
-                                           collapse, QuantityTypeFacets()),
-                new CElementInfoSeqPrimMnd(u"weight", ns, Property_weight, true, ItemType_r8, nullptr,
-                                           collapse, NoFacets()),
-                new CElementInfoSeqAbsClsMnd(u"carrier", ns, Property_carrier, XmlElementType_Element,
-                                             CClassFactory::CreateCarrier),
-                new CElementInfoSeqPrimOpt(u"note", ns, Property_note, false, ItemType_string, nullptr,
-                                           preserve, NoFacets()),
-                nullptr,
-        },
-        new CAttributeInfo* [] {
+            new CElementInfoSeqPrimMnd(u"parcels", ns, Property_parcels, false, ItemType_i4, nullptr,
+                                       collapse, QuantityTypeFacets()),
+            new CElementInfoSeqPrimMnd(u"weight", ns, Property_weight, true, ItemType_r8, nullptr, collapse,
+                                       NoFacets()),
+            new CElementInfoSeqAbsClsMnd(u"carrier", ns, Property_carrier, XmlElementType_Element,
+                                         CClassFactory::CreateCarrier),
+            new CElementInfoSeqPrimOpt(u"note", ns, Property_note, false, ItemType_string, nullptr, preserve,
+                                       NoFacets()),
+            new CElementInfoSeqUntpdCol(u"AnyElement", u"", Property_any),
+        }),
+        AttributeTable({
             new CAttributeInfoPrimitive(u"order", u"", Property_order, false, ItemType_i4, nullptr, collapse,
                                         NoFacets(), nullptr),
-                new CAttributeInfoEnum(u"status", u"", Property_status, false, StatusTypeToString,
-                                       StatusTypeFromString, nullptr),
-                nullptr,
-        },
+            new CAttributeInfoEnum(u"status", u"", Property_status, false, StatusTypeToString,
+                                   StatusTypeFromString, nullptr),
+        }),
     };
 }
 
-CShipment::CShipment(const char16_t* elementName) : m_recipient(new CCustomer(u"recipient")) {
+CShipment::CShipment(const char16_t* elementName)
+    : m_recipient(new CCustomer(u"recipient")),
+      m_anyElements(new CElementCol(u"", u"##other", shipmentNamespace, 0, -1)) {
     SetElementName(elementName);
 }
 
@@ -47,6 +48,7 @@ void CShipment::Init() {
     m_weight = {};
     m_carrier = nullptr;
     m_note.reset();
+    m_anyElements->Clear();
     m_order = 0;
     m_status = StatusType_new;
 }
@@ -57,15 +59,17 @@ void CShipment::AccessProperty(int propertyIndex, bool read, KzVariant& value) {
     case Property_recipient:
         return read ? value.SetXmlObject(m_recipient) : SetRecipient(ObjectFromVariant<CCustomer>(value));
     case Property_parcels:
-        return AccessElement(elements[propertyIndex], read, value, m_parcels);
+        return AccessPrimitive(elements[propertyIndex], read, value, m_parcels);
     case Property_weight:
-        return AccessElement(elements[propertyIndex], read, value, m_weight);
+        return AccessPrimitive(elements[propertyIndex], read, value, m_weight);
     case Property_carrier:
         return read ? value.SetXmlObject(m_carrier) : SetCarrier(ObjectFromVariant<CCarrier>(value));
     case Property_note:
-        return AccessElement(elements[propertyIndex], read, value, m_note);
+        return AccessPrimitive(elements[propertyIndex], read, value, m_note);
+    case Property_any:
+        return AccessCollection(read, value, m_anyElements);
     case Property_order:
-        return AccessAttribute(m_tables->attributes[propertyIndex - Property_order], read, value, m_order);
+        return AccessPrimitive(m_tables->attributes[propertyIndex - Property_order], read, value, m_order);
     case Property_status:
         return AccessEnum(read, value, m_status);
     default:

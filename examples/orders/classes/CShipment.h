@@ -5,6 +5,9 @@
 #include "CCustomer.h"
 #include "SimpleTypes.h"
 
+#include <KzXmlLib10/collections/CElement.h>
+#include <KzXmlLib10/collections/CElementCol.h>
+
 namespace orders {
 
 /// The complex type ShipmentType, and the element shipment.
@@ -30,6 +33,8 @@ public:
     void SetCarrier(CCarrier* value);
     const std::optional<std::u16string>& GetNote() const { return m_note; }
     void SetNote(std::optional<std::u16string> value);
+    /// What stands under the wildcard. Never null.
+    CElementCol* GetAnyElements() const { return m_anyElements; }
 
     void AccessProperty(int propertyIndex, bool read, KzVariant& value) override;
     CParentElementInfo* GetClassInfo() const override { return m_tables->info; }
@@ -44,6 +49,7 @@ private:
         Property_weight,
         Property_carrier,
         Property_note,
+        Property_any,
         Property_order,
         Property_status,
     };
@@ -55,6 +61,7 @@ private:
     Nillable<double> m_weight;
     CSmartPtr<CCarrier> m_carrier;
     std::optional<std::u16string> m_note;
+    CSmartPtr<CElementCol> m_anyElements;
     std::int32_t m_order = 0;
     StatusType m_status = StatusType_new;
 };

@@ -2,6 +2,7 @@
 
 #include "CCarrier.h"
 #include "CCustomer.h"
+#include "CPayment.h"
 
 #include <KzXmlLib10/object/Register.h>
 
@@ -17,8 +18,14 @@ CSmartPtr<CXmlObjectBase> CClassFactory::CreateObject(int classId, const char16_
     switch (classId) {
     case ClassId_Address:
         return new CAddress(elementName);
+    case ClassId_Card:
+        return new CCard(elementName);
     case ClassId_Customer:
         return new CCustomer(elementName);
+    case ClassId_Payment:
+        return new CPayment(elementName);
+    case ClassId_Transfer:
+        return new CTransfer(elementName);
     }
     return nullptr;
 }

@@ -12,7 +12,10 @@ using namespace KzXmlLib10;
 /// The numbers by which descriptors name the classes.
 enum ClassId {
     ClassId_Address,
+    ClassId_Card,
     ClassId_Customer,
+    ClassId_Payment,
+    ClassId_Transfer,
 };
 
 class CClassFactory : public CClassfactoryBase {

@@ -1,6 +1,7 @@
 // In the form that a generator emits, as are all files of this folder: the part that every schema shares.
 #pragma once
 
+#include <KzXmlLib10/collections/CXmlCollectionBase.h>
 #include <KzXmlLib10/metadata/CAttributeInfo.h>
 #include <KzXmlLib10/metadata/CElementInfo.h>
 #include <KzXmlLib10/metadata/CParentElementInfo.h>
@@ -10,6 +11,7 @@
 #include "PropertyValues.h"
 
 #include <atomic>
+#include <initializer_list>
 #include <string>
 #include <utility>
 
@@ -56,18 +58,34 @@ protected:
         std::atomic<bool> m_isBuilt = false;
     };
 
-    [[noreturn]] static void FailUnknownProperty(int propertyIndex);
+    /// Tables with the null entry that ends them.
+    static CElementInfo** ElementTable(std::initializer_list<CElementInfo*> elements);
+    static CAttributeInfo** AttributeTable(std::initializer_list<CAttributeInfo*> attributes);
 
-    /// Reads a property into a variant, or stores a variant in it once the facets of the descriptor were
-    /// checked.
+    [[noreturn]] static void FailUnknownProperty(int propertyIndex);
+    [[noreturn]] static void FailDateKind(const CDateTime& value, CDateTime::DTType kind);
+
+    // Each reads a property into a variant, or stores a variant in the property.
+
+    /// Checks the facets of the descriptor before it stores.
     template <class T>
-    static void AccessElement(CElementInfo* descriptor, bool read, KzVariant& value, T& member) {
+    static void AccessPrimitive(CElementInfo* descriptor, bool read, KzVariant& value, T& member) {
         Access(descriptor, read, value, member);
     }
     template <class T>
-    static void AccessAttribute(CAttributeInfo* descriptor, bool read, KzVariant& value, T& member) {
+    static void AccessPrimitive(CAttributeInfo* descriptor, bool read, KzVariant& value, T& member) {
         Access(static_cast<CAttributeInfoPrimitive*>(descriptor), read, value, member);
     }
+    /// As AccessPrimitive, for a value that must be of one kind of date.
+    template <class Descriptor, class T>
+    static void AccessDate(Descriptor* descriptor, CDateTime::DTType kind, bool read, KzVariant& value,
+                           T& member) {
+        if (!read && value.IsValid() && value.GetDateTime().GetType() != kind)
+            FailDateKind(value.GetDateTime(), kind);
+        AccessPrimitive(descriptor, read, value, member);
+    }
+    /// A collection is created with its object and stays with it: only its items change.
+    static void AccessCollection(bool read, KzVariant& value, CXmlCollectionBase* member);
     /// An enumerator has no facets to check: the function that reads it from text refuses what is none.
     template <class T>
     static void AccessEnum(bool read, KzVariant& value, T& member) {

@@ -2,6 +2,8 @@
 #pragma once
 
 #include <KzXmlLib10/object/CKzException.h>
+#include <KzXmlLib10/values/CDateTime.h>
+#include <KzXmlLib10/values/CDecimal.h>
 #include <KzXmlLib10/values/KzVariant.h>
 
 #include <cstdint>
@@ -34,6 +36,13 @@ inline void ToVariant(std::u16string member, KzVariant& value) { value.SetString
 inline void ToVariant(std::int32_t member, KzVariant& value) { value.SetI4(member); }
 inline void ToVariant(double member, KzVariant& value) { value.SetR8(member); }
 inline void ToVariant(bool member, KzVariant& value) { value.SetBoolean(member); }
+inline void ToVariant(CDecimal member, KzVariant& value) { value.SetDecimal(std::move(member)); }
+inline void ToVariant(const CDateTime& member, KzVariant& value) {
+    if (member.GetType() == CDateTime::DTType_date)
+        value.SetDate(member);
+    else
+        value.SetDateTime(member);
+}
 template <class T>
 requires std::is_enum_v<T>
 void ToVariant(T member, KzVariant& value) { value.SetI4(member); }
@@ -56,6 +65,8 @@ inline void FromVariant(const KzVariant& value, std::u16string& member) { member
 inline void FromVariant(const KzVariant& value, std::int32_t& member) { member = value.GetI4(); }
 inline void FromVariant(const KzVariant& value, double& member) { member = value.GetR8(); }
 inline void FromVariant(const KzVariant& value, bool& member) { member = value.GetBoolean(); }
+inline void FromVariant(const KzVariant& value, CDecimal& member) { member = value.GetDecimalRef(); }
+inline void FromVariant(const KzVariant& value, CDateTime& member) { member = value.GetDateTime(); }
 template <class T>
 requires std::is_enum_v<T>
 void FromVariant(const KzVariant& value, T& member) { member = static_cast<T>(value.GetI4()); }

@@ -13,6 +13,7 @@ namespace {
 constexpr const char16_t* statusTypeNames[] = {
     u"new", u"confirmed", u"packed", u"shipped", u"delivered", u"returned", u"cancelled",
 };
+constexpr const char16_t* currencyTypeNames[] = {u"EUR", u"USD", u"SEK", u"JPY"};
 
 template <std::size_t count>
 const char16_t* EnumToText(const char16_t* const (&names)[count], const char16_t* type, int value) {
@@ -46,6 +47,12 @@ CPrimitiveRestrictions Range(const char16_t* minInclusive, const char16_t* maxIn
 
 const char16_t* StatusTypeToString(int value) { return EnumToText(statusTypeNames, u"StatusType", value); }
 int StatusTypeFromString(const char16_t* text) { return EnumFromText(statusTypeNames, u"StatusType", text); }
+const char16_t* CurrencyTypeToString(int value) {
+    return EnumToText(currencyTypeNames, u"CurrencyType", value);
+}
+int CurrencyTypeFromString(const char16_t* text) {
+    return EnumFromText(currencyTypeNames, u"CurrencyType", text);
+}
 
 CPrimitiveRestrictions NoFacets() { return CPrimitiveRestrictions(); }
 CPrimitiveRestrictions NameTypeFacets() { return Lengths(1, 80); }
@@ -54,6 +61,12 @@ CPrimitiveRestrictions EmailTypeFacets() {
 }
 CPrimitiveRestrictions PhoneTypeFacets() { return Pattern(u"\\+?[0-9 ]{5,24}"); }
 CPrimitiveRestrictions CountryTypeFacets() { return Pattern(u"[A-Z]{2}"); }
+CPrimitiveRestrictions SkuTypeFacets() { return Pattern(u"[A-Z]{3}-[0-9]{6}"); }
 CPrimitiveRestrictions QuantityTypeFacets() { return Range(u"1", u"1000"); }
+CPrimitiveRestrictions PriorityTypeFacets() { return Range(u"1", u"9"); }
+// The digits of MoneyType have no facet in the library: its format writes two places.
+CPrimitiveRestrictions MoneyTypeFacets() { return Range(u"0", u""); }
+CPrimitiveRestrictions CardNumberFacets() { return Pattern(u"[0-9]{16}"); }
+CPrimitiveRestrictions IbanFacets() { return Pattern(u"[A-Z]{2}[0-9]{2}[A-Z0-9]{10,30}"); }
 
 } // namespace orders

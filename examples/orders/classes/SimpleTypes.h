@@ -21,11 +21,23 @@ enum StatusType : std::int32_t {
     StatusType_cancelled,
 };
 
+enum CurrencyType : std::int32_t {
+    CurrencyType_EUR,
+    CurrencyType_USD,
+    CurrencyType_SEK,
+    CurrencyType_JPY,
+};
+
+/// Amounts are written with two decimal places.
+inline constexpr char16_t moneyTypeFormat[] = u"2";
+
 // The enumerations as text, and back. A number or text outside the enumeration throws
 // CKzInvalidValueException.
 
 const char16_t* StatusTypeToString(int value);
 int StatusTypeFromString(const char16_t* text);
+const char16_t* CurrencyTypeToString(int value);
+int CurrencyTypeFromString(const char16_t* text);
 
 // The facets of the simple types.
 
@@ -34,6 +46,11 @@ CPrimitiveRestrictions NameTypeFacets();
 CPrimitiveRestrictions EmailTypeFacets();
 CPrimitiveRestrictions PhoneTypeFacets();
 CPrimitiveRestrictions CountryTypeFacets();
+CPrimitiveRestrictions SkuTypeFacets();
 CPrimitiveRestrictions QuantityTypeFacets();
+CPrimitiveRestrictions PriorityTypeFacets();
+CPrimitiveRestrictions MoneyTypeFacets();
+CPrimitiveRestrictions CardNumberFacets();
+CPrimitiveRestrictions IbanFacets();
 
 } // namespace orders

@@ -1,0 +1,163 @@
+/// The classes of examples/orders, as code that somebody generated would meet the library.
+
+#include "support/Failure.h"
+
+#include "classes/COrders.h"
+#include "classes/CShipment.h"
+
+#include <KzXmlLib10/object/CXmlSerializationContext.h>
+#include <KzXmlLib10/object/Text.h>
+
+#include <gtest/gtest.h>
+
+#include <fstream>
+#include <functional>
+#include <iterator>
+#include <regex>
+#include <sstream>
+#include <thread>
+#include <vector>
+
+using namespace orders;
+using KzXmlLib10::support::Failure;
+
+namespace {
+
+std::string ReadSample(const std::string& name) {
+    std::ifstream file(std::string(ORDERS_SAMPLES "/") + name, std::ios::binary);
+    return std::string((std::istreambuf_iterator<char>(file)), std::istreambuf_iterator<char>());
+}
+
+std::string Write(const CXmlObjectBase& object, const char16_t* defaultNamespace) {
+    CXmlSerializationContext context;
+    context.SetDefaultNamespaceURI(defaultNamespace);
+    return ToUtf8(object.ToXml(false, true, EOLType_LF, context));
+}
+
+/// A sample as the writer formats it: without its declaration, with tabs for pairs of blanks.
+std::string Expected(const std::string& name) {
+    std::istringstream lines(ReadSample(name));
+    std::string line, text;
+    std::getline(lines, line);
+    while (std::getline(lines, line)) {
+        const std::size_t indent = line.find_first_not_of(' ') / 2;
+        text += std::string(indent, '\t') + line.substr(2 * indent) + '\n';
+    }
+    return text;
+}
+
+constexpr char minimalOrders[] =
+    "<orders xmlns=\"urn:example:orders\" version=\"1\" created=\"2024-01-01T00:00:00Z\"/>\n";
+constexpr char minimalShipment[] =
+    "<shipment xmlns='urn:example:shipment' xmlns:o='urn:example:orders' order='1' status='new'"
+    " xmlns:xsi='http://www.w3.org/2001/XMLSchema-instance'>"
+    "<recipient><o:name>N</o:name><o:email>a@b.cc</o:email><o:address><o:street/><o:city>C</o:city>"
+    "<o:postalCode/><o:country>SE</o:country></o:address></recipient>"
+    "<parcels>1</parcels><weight>1</weight>"
+    "<carrier xsi:type='CourierType'><name>C</name><phone>12345</phone></carrier></shipment>";
+
+} // namespace
+
+TEST(OrdersClasses, SampleComesBackAsTheSameText) {
+    COrders object;
+    object.FromXml(ReadSample("orders.xml").c_str(), {});
+    EXPECT_EQ(Write(object, ordersNamespace), Expected("orders.xml"));
+}
+
+TEST(OrdersClasses, NothingOfAnEarlierDocumentIsLeft) {
+    COrders object;
+    object.FromXml(ReadSample("orders.xml").c_str(), {});
+    // The first order has every optional member that the second has not, and the other way round.
+    const std::string second = Write(*object.GetOrders()->Item(1), ordersNamespace);
+    object.GetOrders()->Item(0)->FromXml(second.c_str(), {});
+    EXPECT_EQ(Write(*object.GetOrders()->Item(0), ordersNamespace), second);
+    object.FromXml(minimalOrders, {});
+    EXPECT_EQ(Write(object, ordersNamespace), minimalOrders);
+
+    CShipment shipment, fresh;
+    shipment.FromXml(ReadSample("shipment.xml").c_str(), {});
+    shipment.FromXml(minimalShipment, {});
+    fresh.FromXml(minimalShipment, {});
+    EXPECT_EQ(Write(shipment, shipmentNamespace), Write(fresh, shipmentNamespace));
+}
+
+TEST(OrdersClasses, SettersRefuseWhatTheSchemaDoes) {
+    COrder order(u"order");
+    CItem item(u"item");
+    CCard card(u"card");
+    CTransfer transfer(u"transfer");
+    const std::pair<std::function<void()>, const char*> cases[] = {
+        {[&] { order.SetPriority(10); }, "Invalid Value for priority [10]"},
+        {[&] { order.SetTotal(u"-0.01"); }, "Invalid Value for total [-0.01]"},
+        {[&] { order.GetTags()->Add(std::u16string(33, u't')); },
+         "Invalid Value for tag [ttttttttttttttttttttttttttttttttt]"},
+        {[&] { order.GetCustomer()->SetName(u""); }, "Invalid Value for name []"},
+        {[&] { order.GetCustomer()->SetEmail(u"nobody"); }, "Invalid Value for email [nobody]"},
+        {[&] { order.GetCustomer()->SetPhone(u"1"); }, "Invalid Value for phone [1]"},
+        {[&] { order.GetCustomer()->GetAddress()->SetCountry(u"se"); }, "Invalid Value for country [se]"},
+        {[&] { item.SetSku(u"ABC-1"); }, "Invalid Value for sku [ABC-1]"},
+        {[&] { item.SetQuantity(1001); }, "Invalid Value for quantity [1001]"},
+        {[&] { item.SetUnitPrice(-1); }, "Invalid Value for unitPrice [-1]"},
+        {[&] { card.SetNumber(u"1"); }, "Invalid Value for number [1]"},
+        {[&] { transfer.SetIban(u"SE"); }, "Invalid Value for iban [SE]"},
+    };
+    for (const auto& [action, message] : cases)
+        EXPECT_EQ(Failure(action), message);
+    EXPECT_EQ(
+        Failure<CKzInvalidParamException>([&] { order.SetShipDate(CDateTime(u"2024-05-16T19:04:31")); }),
+        "A value of the kind dateTime cannot be a date");
+    EXPECT_EQ(Failure<CKzInvalidParamException>([&] { order.SetCustomer(nullptr); }),
+              "The Property [customer] is mandatory, it may node be NULL");
+    EXPECT_EQ(Failure<CKzInvalidValueException>([] { StatusTypeFromString(u"lost"); }),
+              "The text [lost] is none of the values of StatusType");
+}
+
+TEST(OrdersClasses, PaymentHoldsOneMember) {
+    const CSmartPtr<CPayment> payment = new CPayment(u"payment");
+    const CSmartPtr<CCard> card = new CCard(u"card"), misnamed = new CCard(u"transfer");
+    const CSmartPtr<CTransfer> transfer = new CTransfer(u"transfer");
+    payment->SetCard(nullptr); // selects nothing
+    payment->SetTransfer(transfer);
+    payment->SetTransfer(transfer);
+    EXPECT_EQ(payment->GetChoice(), u"transfer");
+    EXPECT_EQ(
+        Failure<CKzInvalidStateException>([&] { payment->SetCard(card); }),
+        "The Property [transfer] is already set. Only one element within this class bay be set at a time");
+    EXPECT_EQ(payment->GetCard(), nullptr);
+    payment->SetTransfer(nullptr);
+    EXPECT_EQ(
+        Failure<CKzInvalidParamException>([&] { payment->SetCard(misnamed); }),
+        "This property requrires an element with the name card the element being set has the element name "
+        "transfer");
+    payment->SetCard(card);
+    EXPECT_EQ(payment->GetChoice(), u"card");
+}
+
+TEST(OrdersClasses, CarrierIsOfTheTypeThatTheDocumentNames) {
+    CShipment shipment;
+    shipment.FromXml(minimalShipment, {});
+    EXPECT_NE(dynamic_cast<CCourier*>(shipment.GetCarrier()), nullptr);
+    shipment.FromXml(ReadSample("shipment.xml").c_str(), {});
+    EXPECT_NE(dynamic_cast<CPost*>(shipment.GetCarrier()), nullptr);
+    EXPECT_TRUE(shipment.GetWeight().IsNil());
+    const std::string unknown =
+        std::regex_replace(std::string(minimalShipment), std::regex("CourierType"), "CarrierType");
+    EXPECT_EQ(Failure<CKzValidationException>([&] { shipment.FromXml(unknown.c_str(), {}); }),
+              "Failed to process the element [shipment]\nFailed to find a suitable substitution element for "
+              "[carrier]");
+}
+
+TEST(OrdersClasses, ThreadsMayMeetTheClassesAtOnce) {
+    const std::string sample = ReadSample("orders.xml");
+    std::vector<std::string> written(4);
+    std::vector<std::thread> threads;
+    for (std::string& text : written)
+        threads.emplace_back([&] {
+            COrders object;
+            object.FromXml(sample.c_str(), {});
+            text = Write(object, ordersNamespace);
+        });
+    for (std::thread& thread : threads)
+        thread.join();
+    EXPECT_EQ(written, std::vector<std::string>(written.size(), Expected("orders.xml")));
+}
