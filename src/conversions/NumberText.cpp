@@ -1,5 +1,7 @@
 #include "conversions/NumberText.h"
 
+#include "object/Digit.h"
+
 #include <algorithm>
 #include <charconv>
 #include <limits>
@@ -10,7 +12,6 @@ namespace KzXmlLib10 {
 
 namespace {
 
-bool IsDigit(char16_t unit) { return unit >= u'0' && unit <= u'9'; }
 bool IsSpace(char16_t unit) { return unit == u' ' || (unit >= u'\t' && unit <= u'\r'); }
 
 /// Walks over a text; behind its end stands a NUL for ever.

@@ -1,8 +1,10 @@
 #include <KzXmlLib10/values/CBigInteger.h>
 
+#include <KzXmlLib10/conversions/CWhitespaceUtils.h>
 #include <KzXmlLib10/values/CDecimal.h>
 
-#include "object/Messages.h"
+#include "object/Digit.h"
+#include "object/NotNull.h"
 #include "object/Throw.h"
 #include "values/Limbs.h"
 #include "values/Messages.h"
@@ -27,12 +29,9 @@ namespace {
 /// Powers of ten above this one are refused, so that a few bytes of input never ask for all memory.
 constexpr std::uint32_t largestPowerOfTen = 100'000'000;
 
-bool IsDigit(char16_t unit) { return unit >= u'0' && unit <= u'9'; }
-
 bool IsIntegerText(std::u16string_view text) {
     return std::ranges::all_of(text, [](char16_t unit) {
-        return IsDigit(unit) || unit == u'-' || unit == u'+' || unit == u' ' || unit == u'\t' ||
-               unit == u'\r' || unit == u'\n';
+        return IsDigit(unit) || CWhitespaceUtils::IsWhiteSpace(unit) || unit == u'-' || unit == u'+';
     });
 }
 
@@ -104,9 +103,7 @@ CBigInteger& CBigInteger::operator=(CBigInteger&& other) noexcept = default;
 CBigInteger::~CBigInteger() = default;
 
 void CBigInteger::Parse(const char16_t* text) {
-    if (!text)
-        Throw<CKzInvalidParamException>(messages::NullArgument, u"text");
-    std::u16string_view rest = text;
+    std::u16string_view rest = NotNull(text, u"text");
     if (!IsIntegerText(rest)) {
         *this = CDecimal(text).ToBigInteger();
         return;
@@ -167,6 +164,7 @@ CBigInteger CBigInteger::operator/(const CBigInteger& other) const {
 }
 
 CBigInteger CBigInteger::operator%(const CBigInteger& other) const {
+    // Not formatted, as the text has a percent sign of its own.
     if (other.m_sign == -1 || (other.IsZero() && !IsZero()))
         throw CKzInvalidValueException(messages::OverflowInModulo);
     return Remainder(other);

@@ -1,7 +1,7 @@
 #include <KzXmlLib10/values/CDateTime.h>
 
+#include "object/Digit.h"
 #include "object/Throw.h"
-#include "values/DateTimeText.h"
 #include "values/Messages.h"
 
 namespace KzXmlLib10 {

@@ -4,6 +4,8 @@
 
 #include "values/DateTimeText.h"
 
+#include <optional>
+
 /// Representation, by rows of the counts from years to nanoseconds and the sign:
 ///
 ///     P1Y2M3DT4H5M6.5S    1 2 3   4 5 6   500   0 0
@@ -118,21 +120,20 @@ CDateTime::DTCompareResult CDateTimeSpan::CompareTo(const CDateTimeSpan& other) 
     constexpr struct {
         int year, month, day;
     } references[] = {{1696, 9, 1}, {1697, 2, 1}, {1903, 3, 1}, {1903, 7, 1}};
-    auto common = CDateTime::DTCompareResult_Indeterminate;
+    std::optional<CDateTime::DTCompareResult> common;
     try {
         for (const auto& [year, month, day] : references) {
             CDateTime reference(year, month, day);
             reference.SetUTC();
             const auto result = (reference + *this).CompareTo(reference + other);
-            const bool first = year == references[0].year;
-            if (!first && result != common)
+            if (result != common.value_or(result))
                 return CDateTime::DTCompareResult_Indeterminate;
             common = result;
         }
     } catch (const CKzInvalidValueException&) {
         return CDateTime::DTCompareResult_Indeterminate;
     }
-    return common;
+    return *common;
 }
 
 bool CDateTimeSpan::operator==(const CDateTimeSpan& other) const {

@@ -2,7 +2,7 @@
 
 #include <KzXmlLib10/object/FormatString.h>
 
-#include "object/Messages.h"
+#include "object/NotNull.h"
 #include "object/Throw.h"
 #include "values/DecimalReader.h"
 #include "values/Messages.h"
@@ -93,9 +93,7 @@ CBigInteger CDecimal::Scaled() const {
 }
 
 void CDecimal::Parse(const char16_t* text) {
-    if (!text)
-        Throw<CKzInvalidParamException>(messages::NullArgument, u"text");
-    const DecimalText parts = DecimalReader(text).Read();
+    const DecimalText parts = DecimalReader(NotNull(text, u"text")).Read();
     CBigInteger::Build(parts.integerDigits, m_integral.m_digits);
     CBigInteger::Build(parts.fractionDigits, m_fractional.m_digits);
     m_divider = std::max(1, static_cast<int>(parts.fractionDigits.size()));

@@ -7,8 +7,6 @@
 
 namespace KzXmlLib10 {
 
-constexpr bool IsDigit(char16_t c) { return c >= u'0' && c <= u'9'; }
-
 /// Appends a number in decimal, with zeros in front up to `width` digits.
 inline void AppendNumber(std::u16string& out, unsigned long long number, std::size_t width = 1) {
     char digits[20];

@@ -1,5 +1,8 @@
 #include "values/DecimalReader.h"
 
+#include <KzXmlLib10/conversions/CWhitespaceUtils.h>
+
+#include "object/Digit.h"
 #include "object/Throw.h"
 #include "values/Messages.h"
 
@@ -12,11 +15,7 @@ namespace {
 
 constexpr long long largestExponentRead = 1'000'000'000'000;
 
-bool IsDigit(char16_t unit) { return unit >= u'0' && unit <= u'9'; }
-
 bool IsSign(char16_t unit) { return unit == u'-' || unit == u'+'; }
-
-bool IsWhitespace(char16_t unit) { return unit == u' ' || unit == u'\t' || unit == u'\r' || unit == u'\n'; }
 
 bool StartsExponent(char16_t unit) { return unit == u'e' || unit == u'E'; }
 
@@ -43,20 +42,20 @@ void DecimalReader::ReadInteger() {
             m_parts.integerDigits += *m_at;
         else if (IsSign(*m_at))
             m_parts.negative = *m_at == u'-'; // Deliberate: wherever it stands, the last one counting
-        else if (!IsWhitespace(*m_at))
+        else if (!CWhitespaceUtils::IsWhiteSpace(*m_at))
             Refuse();
     }
 }
 
 void DecimalReader::ReadFraction() {
-    for (; IsDigit(*m_at) || IsWhitespace(*m_at); ++m_at) {
+    for (; IsDigit(*m_at) || CWhitespaceUtils::IsWhiteSpace(*m_at); ++m_at) {
         if (IsDigit(*m_at))
             m_parts.fractionDigits += *m_at;
     }
 }
 
 void DecimalReader::ReadExponent() {
-    for (; IsSign(*m_at) || IsWhitespace(*m_at); ++m_at) {
+    for (; IsSign(*m_at) || CWhitespaceUtils::IsWhiteSpace(*m_at); ++m_at) {
         if (IsSign(*m_at))
             m_parts.exponentNegative = *m_at == u'-';
     }
