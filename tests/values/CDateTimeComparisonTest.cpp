@@ -4,116 +4,92 @@
 
 #include <gtest/gtest.h>
 
-#include <string_view>
+#include <initializer_list>
+#include <string>
+#include <utility>
 
 using namespace KzXmlLib10;
 
 namespace {
 
-constexpr auto Forbidden = [](auto action) { return support::Failure<CKzInvalidStateException>(action); };
-
-CDateTime Parse(const char16_t* text) {
+CDateTime Parse(const std::string& text) {
+    const std::u16string wide = FromUtf8(text);
     CDateTime value;
-    if (std::u16string_view(text).find(u'T') != std::u16string_view::npos)
-        value.ParseXSDDateTime(text);
-    else if (text[2] == u':')
-        value.ParseXSDTime(text);
+    if (text.find('T') != std::string::npos)
+        value.ParseXSDDateTime(wide.c_str());
+    else if (text[2] == ':')
+        value.ParseXSDTime(wide.c_str());
     else
-        value.ParseXSDDate(text);
+        value.ParseXSDDate(wide.c_str());
     return value;
 }
 
-/// The answer as one character: = < > or ? for indeterminate.
-char Compare(const char16_t* left, const char16_t* right) {
-    return "=<>?"[Parse(left).CompareTo(Parse(right))];
+std::string Normalized(const char* text) { return ToUtf8(Parse(text).GetNormalized().ToString()); }
+
+/// Each row is a value, the expected answer, = < > or ? for indeterminate, and another value.
+void ExpectAnswers(std::initializer_list<std::string> rows) {
+    for (const std::string& row : rows) {
+        const std::size_t blank = row.find(' ');
+        const CDateTime left = Parse(row.substr(0, blank));
+        EXPECT_EQ("=<>?"[left.CompareTo(Parse(row.substr(blank + 3)))], row[blank + 1]) << row;
+    }
 }
 
 TEST(CDateTimeComparison, FieldsDecideInOrder) {
-    const struct {
-        const char16_t *left, *right;
-        char expected;
-    } rows[] = {{u"2001-05-12T13:20:00", u"2001-05-12T13:20:00", '='},
-                {u"2000-12-31T23:59:59", u"2001-01-01T00:00:00", '<'},
-                {u"2001-05-12T14:00:00", u"2001-05-12T13:59:59", '>'},
-                {u"2001-05-12T13:21:00", u"2001-05-12T13:20:59", '>'},
-                {u"2001-05-12T13:20:01", u"2001-05-12T13:20:00.999999999", '>'},
-                {u"13:20:00.000000001", u"13:20:00.000000002", '<'},
-                {u"13:20:00.001", u"13:20:00.000999", '>'},
-                {u"2001", u"2002", '<'},
-                {u"---12", u"---11", '>'},
-                {u"--05-12", u"--05-13", '<'},
-                {u"-0002", u"-0001", '<'}};
-    for (const auto& row : rows)
-        EXPECT_EQ(Compare(row.left, row.right), row.expected) << ToUtf8(row.left);
+    ExpectAnswers({"2001-05-12T13:20:00 = 2001-05-12T13:20:00", "2000-12-31T23:59:59 < 2001-01-01T00:00:00",
+                   "2001-05-12T14:00:00 > 2001-05-12T13:59:59", "2001-05-12T13:21:00 > 2001-05-12T13:20:59",
+                   "2001-05-12T13:20:01 > 2001-05-12T13:20:00.999999999",
+                   "13:20:00.000000001 < 13:20:00.000000002", "13:20:00.001 > 13:20:00.000999", "2001 < 2002",
+                   "---12 > ---11", "--05-12 < --05-13", "-0002 < -0001"});
 }
 
 TEST(CDateTimeComparison, TheMonthOfTheRightHandSideIsNotRead) {
-    EXPECT_EQ(Compare(u"2001-01-20", u"2001-02-10"), '>');
-    EXPECT_EQ(Compare(u"2001-01-15", u"2001-02-15"), '=');
-    EXPECT_EQ(Compare(u"2001-01", u"2001-12"), '=');
-    EXPECT_EQ(Compare(u"--01", u"--12"), '=');
+    ExpectAnswers({"2001-01-20 > 2001-02-10", "2001-01-15 = 2001-02-15", "2001-01 = 2001-12", "--01 = --12"});
 }
 
 TEST(CDateTimeComparison, YearsOfDifferentSignAreIndeterminate) {
-    EXPECT_EQ(Compare(u"-0001", u"0001"), '?');
-    EXPECT_EQ(Compare(u"0001-01-01", u"-0001-01-01"), '?');
+    ExpectAnswers({"-0001 ? 0001", "0001-01-01 ? -0001-01-01"});
 }
 
 TEST(CDateTimeComparison, AMissingFieldCountsAsMinusOne) {
-    EXPECT_EQ(Compare(u"2001-01-01", u"12:00:00"), '?');
-    EXPECT_EQ(Compare(u"2001-05-12", u"2001-05"), '?');
-    EXPECT_EQ(Compare(u"2001-05-12", u"2001-05-12T00:00:00"), '<'); // -1 against 0
-    EXPECT_EQ(Compare(u"2001-05-12", u"2001-05-12T01:00:00"), '?'); // -1 against 1
-    EXPECT_EQ(Compare(u"2001", u"2002-05"), '<');
-    EXPECT_EQ(Forbidden([] { Compare(u"2001", u"2001-05"); }),
+    ExpectAnswers({"2001-01-01 ? 12:00:00", "2001-05-12 ? 2001-05", "2001 < 2002-05",
+                   "2001-05-12 < 2001-05-12T00:00:00",   // -1 against 0
+                   "2001-05-12 ? 2001-05-12T01:00:00"}); // -1 against 1
+    EXPECT_EQ(support::Failure<CKzInvalidStateException>([] { ExpectAnswers({"2001 ? 2001-05"}); }),
               "Failed to GetMonth. Invalid Date Type: gYear.");
 }
 
 TEST(CDateTimeComparison, OffsetsAreNormalised) {
-    EXPECT_EQ(Compare(u"2001-01-01T00:30:00+01:00", u"2000-12-31T23:30:00Z"), '=');
-    EXPECT_EQ(Compare(u"2000-02-28T22:00:00-05:30", u"2000-02-29T03:30:00+00:00"), '=');
-    EXPECT_EQ(Compare(u"12:00:00+01:00", u"11:30:00Z"), '<');
-    EXPECT_EQ(Parse(u"2001-01-01T00:30:00+01:00").GetNormalized().ToString(), u"2000-12-31T23:30:00+00:00");
-    EXPECT_EQ(Parse(u"2001-12-31-01:00").GetNormalized().ToString(), u"2001-12-31+00:00");
-    EXPECT_EQ(Parse(u"2001-01-01+01:00").GetNormalized().ToString(), u"2000-12-31+00:00");
-    EXPECT_EQ(Parse(u"12:00:00Z").GetNormalized().ToString(), u"12:00:00Z");
-    EXPECT_EQ(Parse(u"12:00:00").GetNormalized().ToString(), u"12:00:00");
+    ExpectAnswers({"2001-01-01T00:30:00+01:00 = 2000-12-31T23:30:00Z",
+                   "2000-02-28T22:00:00-05:30 = 2000-02-29T03:30:00+00:00", "12:00:00+01:00 < 11:30:00Z"});
+    EXPECT_EQ(Normalized("2001-01-01T00:30:00+01:00"), "2000-12-31T23:30:00+00:00");
+    EXPECT_EQ(Normalized("2001-12-31-01:00"), "2001-12-31+00:00");
+    EXPECT_EQ(Normalized("2001-01-01+01:00"), "2000-12-31+00:00");
+    EXPECT_EQ(Normalized("12:00:00Z"), "12:00:00Z");
 }
 
 TEST(CDateTimeComparison, NormalisingAYearMovesItsMissingMonthToTheYearBefore) {
-    EXPECT_EQ(Parse(u"2001+01:00").GetNormalized().ToString(), u"2000+00:00");
-    EXPECT_EQ(Compare(u"2001+01:00", u"2001Z"), '<');
+    EXPECT_EQ(Normalized("2001+01:00"), "2000+00:00");
+    ExpectAnswers({"2001+01:00 < 2001Z"});
 }
 
 TEST(CDateTimeComparison, OneZoneLeavesABandOf14HoursOnOneSide) {
-    const struct {
-        const char16_t *left, *right;
-        char expected;
-    } rows[] = {{u"2000-01-01T12:00:00Z", u"2000-01-01T12:00:00", '?'},
-                {u"2000-01-01T12:00:00Z", u"2000-01-02T03:00:00", '<'},
-                {u"2000-01-01T13:00:00Z", u"2000-01-01T12:00:00", '>'},
-                {u"2000-01-01T12:00:00Z", u"2000-01-02T02:00:00", '?'},
-                {u"2000-01-01T12:00:00Z", u"2000-01-02T02:00:01", '<'},
-                {u"2000-01-01T12:00:00", u"2000-01-01T12:00:00Z", '?'},
-                {u"2000-01-02T03:00:00", u"2000-01-01T12:00:00Z", '>'},
-                {u"2000-01-01T12:00:00", u"2000-01-01T13:00:00Z", '<'},
-                {u"2000-01-01T12:00:00", u"2000-01-01T13:00:00+05:00", '?'}};
-    for (const auto& row : rows)
-        EXPECT_EQ(Compare(row.left, row.right), row.expected) << ToUtf8(row.left);
+    ExpectAnswers({"2000-01-01T12:00:00Z ? 2000-01-01T12:00:00", "2000-01-01T12:00:00Z < 2000-01-02T03:00:00",
+                   "2000-01-01T13:00:00Z > 2000-01-01T12:00:00", "2000-01-01T12:00:00Z ? 2000-01-02T02:00:00",
+                   "2000-01-01T12:00:00Z < 2000-01-02T02:00:01", "2000-01-01T12:00:00 ? 2000-01-01T12:00:00Z",
+                   "2000-01-02T03:00:00 > 2000-01-01T12:00:00Z", "2000-01-01T12:00:00 < 2000-01-01T13:00:00Z",
+                   "2000-01-01T12:00:00 ? 2000-01-01T13:00:00+05:00"});
 }
 
 TEST(CDateTimeComparison, OfAnIndeterminatePairOnlyUnequalHolds) {
-    const struct {
-        const char16_t* right;
-        const char* expected; ///< == != < <= > >=
-    } rows[] = {{u"2001", "100101"}, {u"2002", "011100"}, {u"2000", "010011"}, {u"-2001", "010000"}};
-    for (const auto& row : rows) {
-        const CDateTime l = Parse(u"2001");
-        const CDateTime r = Parse(row.right);
+    const CDateTime l = Parse("2001");
+    for (const auto& [right, expected] : // == != < <= > >=
+         {std::pair{"2001", "100101"}, {"2002", "011100"}, {"2000", "010011"}, {"-2001", "010000"}}) {
+        const CDateTime r = Parse(right);
         std::string holds;
         for (const bool held : {l == r, l != r, l<r, l <= r, l> r, l >= r})
             holds += held ? '1' : '0';
-        EXPECT_EQ(holds, row.expected);
+        EXPECT_EQ(holds, expected);
     }
 }
 

@@ -1,16 +1,21 @@
 #include <KzXmlLib10/values/CDecimal.h>
 
 #include "support/Failure.h"
+#include "support/Row.h"
 
 #include <gtest/gtest.h>
 
 #include <chrono>
 #include <cmath>
+#include <initializer_list>
 #include <limits>
 #include <string>
+#include <tuple>
+#include <utility>
 
 using namespace KzXmlLib10;
 using support::Failure;
+using support::Row;
 
 namespace {
 
@@ -34,57 +39,25 @@ private:
     std::int32_t m_before = CDecimal::GetMaxDecimalPlaces();
 };
 
-struct TextCase {
-    const char16_t* text;
-    const char* expected;
-};
-
-void ExpectTexts(std::initializer_list<TextCase> cases) {
-    for (const TextCase& c : cases)
-        EXPECT_EQ(Text(Dec(c.text)), c.expected) << ToUtf8(c.text);
+void ExpectTexts(std::initializer_list<Row> rows) {
+    for (const Row& row : rows)
+        EXPECT_EQ(Text(Dec(row.text.c_str())), row.expected) << ToUtf8(row.text);
 }
 
 TEST(CDecimal, ParseReadsTheStatedForms) {
-    ExpectTexts({
-        {u"", "0"},
-        {u"-0", "0"},
-        {u"1.50", "1.5"},
-        {u"1.0", "1"},
-        {u"0.05", "0.05"},
-        {u"-0.5", "-0.5"},
-        {u".5", "0.5"},
-        {u"5.", "5"},
-        {u"1 2.5", "12.5"},
-        {u"12-", "-12"},
-        {u"-+-7", "-7"},
-        {u"\t1\r\n. 2 5 ", "1.25"},
-        {u"007.10", "7.1"},
-        {u".", "0"},
-        {u"1.000000001", "1.000000001"},
-        {u"1000000000.0", "1000000000"},
-    });
+    ExpectTexts({" -> 0", "-0 -> 0", "1.50 -> 1.5", "1.0 -> 1", "0.05 -> 0.05", "-0.5 -> -0.5", ".5 -> 0.5",
+                 "5. -> 5", "1 2.5 -> 12.5", "12- -> -12", "-+-7 -> -7", "\t1\r\n. 2 5  -> 1.25",
+                 "007.10 -> 7.1", ". -> 0", "1.000000001 -> 1.000000001", "1000000000.0 -> 1000000000"});
 }
 
 TEST(CDecimal, ParseReadsExponents) {
-    ExpectTexts({
-        {u"1E2", "100"},
-        {u"1E-2", "0.01"},
-        {u"1.5E+1", "15"},
-        {u"-12.345e1", "-123.45"},
-        {u"-12.345e-1", "-1.2345"},
-        {u"1E +- 2", "0.01"},
-        {u"5e", "5"},
-        {u"5e-", "5"},
-        {u"E7", "0"},
-        {u"1E0000000000000000000000000000000000000000002", "100"},
-        {u"0E4294967297", "0"},
-        {u"-1E-99999999999999999999999999", "0"},
-        {u"1E-30", "0.000000000000000000000000000001"},
-        // A negative exponent divides: two guard digits are truncated before the rounding.
-        {u"5.01E-31", "0"},
-        {u"5.1E-31", "0.000000000000000000000000000001"},
-        {u"0.00000000000000000000000000000051", "0.000000000000000000000000000001"},
-    });
+    ExpectTexts({"1E2 -> 100", "1E-2 -> 0.01", "1.5E+1 -> 15", "-12.345e1 -> -123.45",
+                 "-12.345e-1 -> -1.2345", "1E +- 2 -> 0.01", "5e -> 5", "5e- -> 5", "E7 -> 0",
+                 "1E0000000000000000000000000000000000000000002 -> 100", "0E4294967297 -> 0",
+                 "-1E-99999999999999999999999999 -> 0", "1E-30 -> 0.000000000000000000000000000001",
+                 // A negative exponent divides: two guard digits are truncated before the rounding.
+                 "5.01E-31 -> 0", "5.1E-31 -> 0.000000000000000000000000000001",
+                 "0.00000000000000000000000000000051 -> 0.000000000000000000000000000001"});
     EXPECT_EQ(Text(Dec(u"1E10000")), "1" + std::string(10000, '0'));
 }
 
@@ -111,17 +84,13 @@ TEST(CDecimal, ParseRoundsATieTowardZero) {
          {std::pair{u"5", u'0'}, {u"50", u'0'}, {u"49999", u'0'}, {u"500001", u'1'}, {u"6", u'1'}})
         EXPECT_EQ(Dec((thirty + more).c_str()).ToString(), thirty.substr(0, 32) + last);
     const MaxPlaces two(2);
-    ExpectTexts({{u"1.239", "1.24"},
-                 {u"1.235", "1.23"},
-                 {u"-1.235", "-1.23"},
-                 {u"-1.2351", "-1.24"},
-                 {u"0.004", "0"},
-                 {u"-0.0051", "-0.01"}});
+    ExpectTexts({"1.239 -> 1.24", "1.235 -> 1.23", "-1.235 -> -1.23", "-1.2351 -> -1.24", "0.004 -> 0",
+                 "-0.0051 -> -0.01"});
 }
 
 TEST(CDecimal, RoundingUpToAWholeUnitIsNotCarried) {
     const MaxPlaces one(1);
-    ExpectTexts({{u"0.99", "0.10"}, {u"-3.96", "-3.10"}});
+    ExpectTexts({"0.99 -> 0.10", "-3.96 -> -3.10"});
     EXPECT_NE(Dec(u"0.99"), CDecimal(1));
     EXPECT_EQ(Text(Dec(u"0.99") + 0), "1");
 }
@@ -209,28 +178,18 @@ TEST(CDecimal, OrderIsByValue) {
 }
 
 TEST(CDecimal, ToStringWithPlacesRoundsAHalfAwayFromZero) {
-    const struct {
-        const char16_t* text;
-        int places;
-        const char* expected;
-    } cases[] = {
-        {u"1.235", 2, "1.24"},
-        {u"-1.235", 2, "-1.24"},
-        {u"1", 2, "1.00"},
-        {u"1.995", 2, "2.0"},
-        {u"2.4", 0, "2."},
-        {u"2.5", 0, "3."},
-        {u"2.5", -7, "3."},
-        {u"-0.04", 1, "-0.0"},
-        {u"-0.05", 1, "-0.1"},
-        {u"0.5", 30, "0.5"},
-        {u"1.25", 29, "1.25000000000000000000000000000"},
-        {u"-0.25", 2147483647, "-0.25"},
-        {u"-0", 2, "-0.00"},
-        {u"99.95", 1, "100.0"},
+    const auto expect = [](int places, std::initializer_list<Row> rows) {
+        for (const Row& row : rows)
+            EXPECT_EQ(Text(Dec(row.text.c_str()), places), row.expected) << places;
     };
-    for (const auto& c : cases)
-        EXPECT_EQ(Text(Dec(c.text), c.places), c.expected) << ToUtf8(c.text) << " " << c.places;
+    expect(-7, {"2.5 -> 3."});
+    expect(0, {"2.4 -> 2.", "2.5 -> 3."});
+    expect(1, {"-0.04 -> -0.0", "-0.05 -> -0.1", "99.95 -> 100.0"});
+    expect(2, {"1.235 -> 1.24", "-1.235 -> -1.24", "1 -> 1.00", "1.995 -> 2.0"});
+    expect(2, {"-0 -> -0.00", "-0E4 -> 0.00"}); // a product of zero has no sign
+    expect(29, {"1.25 -> 1.25000000000000000000000000000"});
+    expect(30, {"0.5 -> 0.5"});
+    expect(2147483647, {"-0.25 -> -0.25"});
 }
 
 TEST(CDecimal, TextWithAPointIsCutTo1024Characters) {
