@@ -327,12 +327,18 @@ TEST(CFastInfosetReader, ObjectsComeBackAsTheyWent) {
         .Prim(u"weight", kit::Mnd, ItemType_r8)
         .Prim(u"small", kit::Opt, ItemType_ui1)
         .Prim(u"big", kit::Opt, ItemType_ui8, true)
-        .Prim(u"none", kit::Opt, ItemType_i8, true);
+        .Prim(u"none", kit::Opt, ItemType_i8, true)
+        .Prim(u"price", kit::Opt, ItemType_decimal)
+        .Prim(u"at", kit::Opt, ItemType_datetime)
+        .Prim(u"image", kit::Opt, ItemType_base64Binary)
+        .Prim(u"hash", kit::Opt, ItemType_hexBinary)
+        .Prim(u"span", kit::Opt, ItemType_duration);
     const CSmartPtr<kit::CModelObject> object = item.New();
     object->FromXml(
         u"<item xmlns='urn:i' xmlns:i='http://www.w3.org/2001/XMLSchema-instance' id='-7' on='true'>"
         u"<name>K\u00E4se &amp; Brot</name><weight>0.1</weight><small>200</small>"
-        u"<big>9223372036854775807</big><none i:nil='true'/></item>",
+        u"<big>9223372036854775807</big><none i:nil='true'/><price>12.50</price>"
+        u"<at>2024-02-29T12:30:00Z</at><image>AAEC</image><hash>00FF</hash><span>P1DT2H</span></item>",
         defaults);
 
     CXmlSerializationContext suggested;
