@@ -45,8 +45,8 @@ thread_local std::uintptr_t stackLimit = FindStackLimit();
 } // namespace
 
 RecursionLevel::RecursionLevel() {
-    const char here = 0;
-    if (levels >= maxLevels || reinterpret_cast<std::uintptr_t>(&here) < stackLimit)
+    // Not the address of a variable, which a sanitizer may keep off the stack.
+    if (levels >= maxLevels || reinterpret_cast<std::uintptr_t>(__builtin_frame_address(0)) < stackLimit)
         Throw<CKzException>(messages::NestedTooDeep, levels);
     ++levels;
 }

@@ -25,8 +25,10 @@ void CXmlObjectBase::ToXmlFile(const char16_t* fileName, bool includeDeclaration
         CFileTextStream stream(fileName, encoding);
         WriteDocument(stream, includeDeclaration, formatted, eol, context);
     } else {
+        const CBinaryData bytes =
+            ToXmlStream(includeDeclaration, formatted, encoding, eol, context, compression);
         CFileBinaryStream stream(fileName, encoding);
-        stream.m_data = ToXmlStream(includeDeclaration, formatted, encoding, eol, context, compression);
+        stream.m_data = bytes;
         stream.SaveToFile();
     }
 }

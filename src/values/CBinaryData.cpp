@@ -238,7 +238,7 @@ void CBinaryData::SetAsHexString(const std::u16string& text) {
 }
 
 unsigned long CBinaryData::ConvertToHexData(const std::u16string& text, unsigned char** data) {
-    *data = nullptr;
+    *NotNull(data, u"data") = nullptr;
     if (text.size() % 2 != 0)
         Throw<CKzException>(messages::OddHexLength);
     const unsigned long length = text.size() / 2;

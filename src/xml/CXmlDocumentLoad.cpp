@@ -46,6 +46,18 @@ std::uint32_t GetSize(const AsyncFile& file, const std::u16string& fileName) {
     return static_cast<std::uint32_t>(size);
 }
 
+/// Closes a file on every way out of its scope, after it has waited for the read in flight.
+class FileCloser {
+public:
+    explicit FileCloser(std::unique_ptr<AsyncFile>& file) : m_file(file) {}
+    FileCloser(const FileCloser&) = delete;
+    FileCloser& operator=(const FileCloser&) = delete;
+    ~FileCloser() { m_file.reset(); }
+
+private:
+    std::unique_ptr<AsyncFile>& m_file;
+};
+
 } // namespace
 
 void AsyncFromXmlFile(bool async) { asyncFromXmlFile = async; }
@@ -101,14 +113,13 @@ void CXmlDocument::DecompressBuffer() {
 
 void CXmlDocument::LoadInBlocks(const std::u16string& fileName) {
     m_file = std::make_unique<AsyncFile>();
+    const FileCloser closer(m_file);
     OpenForReading(*m_file, fileName);
     m_buffer = NewBlock();
     ReadChunkFromFile(m_buffer.get());
     std::size_t count = 0;
-    if (const int error = m_file->Finish(count)) {
-        m_file.reset();
+    if (const int error = m_file->Finish(count))
         Throw<CKzException>(messages::FileNotRead, fileName, error);
-    }
     m_readOffset += count;
     m_bufferSize = static_cast<std::uint32_t>(count);
     AsyncParse(count < BlockSize);
@@ -117,16 +128,15 @@ void CXmlDocument::LoadInBlocks(const std::u16string& fileName) {
 /// Starts to read the next block. The end of the file is reported by Finish.
 void CXmlDocument::ReadChunkFromFile(unsigned char* block) {
     const int error = m_file->StartRead(m_readOffset, block, BlockSize);
-    if (error == 0 || error == AsyncFile::EndOfFile)
-        return;
-    m_file.reset();
-    Throw<CKzException>(messages::FileBlockNotRead, error);
+    if (error != 0 && error != AsyncFile::EndOfFile)
+        Throw<CKzException>(messages::FileBlockNotRead, error);
 }
 
 /// Parses the block in the buffer, and all that follow unless it is the last. While one is parsed the next is
 /// on its way into the spare block.
 void CXmlDocument::AsyncParse(bool isLast) {
     std::unique_ptr<unsigned char[]> spare = NewBlock();
+    const FileCloser closer(m_file); // the read in flight is over before its block goes
     try {
         CExpatReader reader(this);
         reader.Initialize();
@@ -146,11 +156,9 @@ void CXmlDocument::AsyncParse(bool isLast) {
         if (!m_documentElement)
             Throw<CKzException>(messages::NoRootElement);
     } catch (...) {
-        m_file.reset(); // waits for the read in flight, whose block goes next
         Cleanup();
         throw;
     }
-    m_file.reset();
     m_buffer.reset();
     m_bufferSize = 0;
 }

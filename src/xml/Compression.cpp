@@ -1,5 +1,6 @@
 #include <KzXmlLib10/xml/Compression.h>
 
+#include "object/NotNull.h"
 #include "object/Throw.h"
 #include "xml/Messages.h"
 
@@ -48,8 +49,11 @@ int Checked(int result) {
     return result;
 }
 
-void RequireSize(unsigned long size) {
-    if (size > std::numeric_limits<std::uint32_t>::max())
+void RequireArray(unsigned char** data, const unsigned long* size) {
+    NotNull(data, u"data");
+    if (*NotNull(size, u"size") > 0)
+        NotNull(*data, u"data");
+    if (*size > std::numeric_limits<std::uint32_t>::max())
         Throw<CKzException>(messages::StreamTooLong);
 }
 
@@ -74,7 +78,7 @@ void Compress(CBinaryData& data, CompressionType type) {
 void CompressBuffer(unsigned char** data, unsigned long* size, CompressionType type) {
     if (type != CompressionType_GZip && type != CompressionType_ZLib)
         return;
-    RequireSize(*size);
+    RequireArray(data, size);
     ByteArray output(new unsigned char[*size]);
     Stream<deflateEnd> stream(*data, *size);
     stream.SetOutput(output.get(), *size);
@@ -94,7 +98,7 @@ void CompressBuffer(unsigned char** data, unsigned long* size, CompressionType t
 }
 
 void Decompress(unsigned char** data, unsigned long* size) {
-    RequireSize(*size);
+    RequireArray(data, size);
     const std::uint32_t limit = GetMaxInflatedSize();
     Stream<inflateEnd> stream(*data, *size);
     if (Checked(inflateInit2(&stream, eitherFormat)) != Z_OK)

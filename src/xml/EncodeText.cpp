@@ -4,6 +4,7 @@
 #include "object/Utf8.h"
 #include "xml/Messages.h"
 
+#include <algorithm>
 #include <bit>
 #include <limits>
 #include <memory>
@@ -16,22 +17,29 @@ bool IsUtf16(XmlEncoding encoding) {
     return encoding == XmlEncoding_UTF16 || encoding == XmlEncoding_UTF16NoDecl;
 }
 
+/// Data of `size` bytes, which `write` fills in.
+template <class Write>
+CBinaryData MakeData(std::uint64_t size, Write write) {
+    if (size > std::numeric_limits<std::uint32_t>::max())
+        Throw<CKzException>(messages::EncodedTextTooLong);
+    auto bytes = std::make_unique_for_overwrite<unsigned char[]>(size);
+    write(reinterpret_cast<char*>(bytes.get()));
+    CBinaryData data(bytes.get(), size, true);
+    (void)bytes.release();
+    return data;
+}
+
 EncodedText EncodeUtf8(std::u16string_view text) {
     const Utf8Extent extent = MeasureUtf8(text);
-    if (extent.bytes > std::numeric_limits<std::uint32_t>::max())
-        Throw<CKzException>(messages::EncodedTextTooLong);
-    std::unique_ptr<unsigned char[]> bytes(new unsigned char[extent.bytes]);
-    WriteUtf8(reinterpret_cast<char*>(bytes.get()), text, extent);
-    EncodedText result{CBinaryData(bytes.get(), extent.bytes, true), extent.units == text.size()};
-    (void)bytes.release();
-    return result;
+    return {MakeData(extent.bytes, [&](char* to) { WriteUtf8(to, text, extent); }),
+            extent.units == text.size()};
 }
 
 EncodedText EncodeUtf16(std::u16string_view text) {
     static_assert(std::endian::native == std::endian::little, "text is written as it lies in memory");
-    EncodedText result{{}, true};
-    result.bytes.SetBuffer(reinterpret_cast<const unsigned char*>(text.data()), 2 * text.size());
-    return result;
+    const auto* const from = reinterpret_cast<const char*>(text.data());
+    const std::size_t size = text.size() * sizeof(char16_t);
+    return {MakeData(size, [&](char* to) { std::copy_n(from, size, to); }), true};
 }
 
 } // namespace

@@ -1,24 +1,19 @@
 /// One object down every road: text, bytes, files, in all encodings, compressed or not, on both file roads.
 
+#include "support/Bytes.h"
 #include "support/Failure.h"
+#include "support/FileTest.h"
 #include "support/Model.h"
-#include "support/TempDir.h"
-
-#include <KzXmlLib10/values/CBinaryData.h>
-#include <KzXmlLib10/xml/AsyncFiles.h>
 
 #include <gtest/gtest.h>
 
 using namespace kit;
 using support::Failure;
+using support::FromBinary;
 
 namespace {
 
-std::string BytesOf(const CBinaryData& data) {
-    return std::string(reinterpret_cast<const char*>(data.GetData()), data.GetLength());
-}
-
-class EveryRoad : public testing::Test {
+class EveryRoad : public support::FileTest {
 protected:
     EveryRoad() {
         list.Prim(u"name", Mnd, ItemType_string).Prim(u"text", Mnd, ItemType_string);
@@ -29,10 +24,6 @@ protected:
             longText += u"line \u4e2d\U0001D49C <&>,";
         source->properties[1].SetString(longText);
     }
-    ~EveryRoad() override {
-        AsyncToXmlFile(false);
-        AsyncFromXmlFile(false);
-    }
 
     void ExpectSameAsSource(const CModelObject& object) const {
         EXPECT_EQ(object.Text(0), source->Text(0));
@@ -42,20 +33,19 @@ protected:
     Model list{u"list"};
     CSmartPtr<CModelObject> source;
     CXmlSerializationContext context;
-    support::TempDir dir;
 };
 
 TEST_F(EveryRoad, FilesHaveTheSameBytesOnBothRoadsAndReadBack) {
     for (const XmlEncoding encoding : {XmlEncoding_UTF8, XmlEncoding_UTF16, XmlEncoding_UTF16NoDecl}) {
-        const std::u16string file = dir.Path16("out.xml");
+        const std::u16string file = m_dir.Path16("out.xml");
         AsyncToXmlFile(false);
         source->ToXmlFile(file.c_str(), true, true, encoding, EOLType_CRLF, context, CompressionType_None);
-        const std::string inMemory = dir.Read("out.xml");
+        const std::string inMemory = m_dir.Read("out.xml");
         AsyncToXmlFile(true);
         source->ToXmlFile(file.c_str(), true, true, encoding, EOLType_CRLF, context, CompressionType_None);
-        EXPECT_TRUE(inMemory == dir.Read("out.xml")) << encoding;
-        const std::string stream =
-            BytesOf(source->ToXmlStream(true, true, encoding, EOLType_CRLF, context, CompressionType_None));
+        EXPECT_TRUE(inMemory == m_dir.Read("out.xml")) << encoding;
+        const std::string stream = FromBinary(
+            source->ToXmlStream(true, true, encoding, EOLType_CRLF, context, CompressionType_None));
         EXPECT_TRUE(inMemory == (encoding == XmlEncoding_UTF8 ? "" : "\xFF\xFE") + stream) << encoding;
         for (const bool async : {false, true}) {
             AsyncFromXmlFile(async);
@@ -70,16 +60,16 @@ TEST_F(EveryRoad, CompressedStreamsAreRecognisedByContent) {
     for (const CompressionType type : {CompressionType_GZip, CompressionType_ZLib}) {
         const CBinaryData bytes =
             source->ToXmlStream(false, false, XmlEncoding_UTF8, EOLType_LF, context, type);
-        EXPECT_EQ(BytesOf(bytes).substr(0, 2), type == CompressionType_GZip ? "\x1F\x8B" : "\x78\x01");
+        EXPECT_EQ(FromBinary(bytes).substr(0, 2), type == CompressionType_GZip ? "\x1F\x8B" : "\x78\x01");
         const auto object = list.New();
         object->FromXmlStream(bytes, context);
         ExpectSameAsSource(*object);
     }
     AsyncToXmlFile(true); // has no power over compressed files
-    const std::u16string file = dir.Path16("out.gz");
+    const std::u16string file = m_dir.Path16("out.gz");
     source->ToXmlFile(file.c_str(), false, false, XmlEncoding_UTF8, EOLType_LF, context,
                       CompressionType_GZip);
-    EXPECT_EQ(dir.Read("out.gz").substr(0, 3), "\x1F\x8B\x08");
+    EXPECT_EQ(m_dir.Read("out.gz").substr(0, 3), "\x1F\x8B\x08");
     const auto object = list.New();
     object->FromXmlFile(file.c_str(), context);
     ExpectSameAsSource(*object);
@@ -87,7 +77,7 @@ TEST_F(EveryRoad, CompressedStreamsAreRecognisedByContent) {
 
 TEST_F(EveryRoad, DeclarationsNameTheEncodingOfBytes) {
     const auto head = [&](XmlEncoding encoding) {
-        return BytesOf(
+        return FromBinary(
             list.New()->ToXmlStream(true, false, encoding, EOLType_LF, context, CompressionType_None));
     };
     EXPECT_EQ(head(XmlEncoding_UTF8), "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<list/>");
@@ -99,25 +89,19 @@ TEST_F(EveryRoad, DeclarationsNameTheEncodingOfBytes) {
 }
 
 TEST_F(EveryRoad, RefusesZlibFilesAndEmptyOrForeignInput) {
-    EXPECT_EQ(Failure([&] {
-                  source->ToXmlFile(u"/nowhere/x", false, false, XmlEncoding_UTF8, EOLType_LF, context,
-                                    CompressionType_ZLib);
-              }),
-              "ZLIB Compression only available for To Stream methods.");
-    EXPECT_EQ(Failure([&] {
-                  source->ToXmlFile(u"/nowhere/x", false, false, XmlEncoding_UTF8, EOLType_LF, context,
-                                    CompressionType_None);
-              }),
-              "Failed to write data to the file [/nowhere/x] error [0x00000002]");
     const auto object = list.New();
+    const auto failure = [&](CompressionType type) {
+        return Failure([&] {
+            object->ToXmlFile(u"/nowhere/x", false, false, XmlEncoding_UTF8, EOLType_LF, context, type);
+        });
+    };
+    EXPECT_EQ(failure(CompressionType_ZLib), "ZLIB Compression only available for To Stream methods.");
+    EXPECT_EQ(failure(CompressionType_GZip), "Failed to compress data. [Error Code: 0]");
+    EXPECT_EQ(failure(CompressionType_None),
+              "Failed to write data to the file [/nowhere/x] error [0x00000002]");
     EXPECT_EQ(Failure([&] { object->FromXmlStream(CBinaryData(), context); }), "XML Stream is empty!");
     EXPECT_EQ(Failure([&] { object->FromXmlFile(u"/nowhere/x", context); }),
               "Failed to open the file [/nowhere/x] Error [0x00000002]");
-    EXPECT_EQ(Failure([&] {
-                  list.New()->ToXmlStream(false, false, XmlEncoding_UTF8, EOLType_LF, context,
-                                          CompressionType_GZip);
-              }),
-              "Failed to compress data. [Error Code: 0]");
 }
 
 } // namespace

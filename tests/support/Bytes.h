@@ -1,6 +1,7 @@
 #pragma once
 
 #include <KzXmlLib10/values/CBinaryData.h>
+#include <KzXmlLib10/xml/Compression.h>
 
 #include <string>
 
@@ -14,6 +15,12 @@ inline CBinaryData ToBinary(const std::string& bytes) {
 
 inline std::string FromBinary(const CBinaryData& data) {
     return std::string(reinterpret_cast<const char*>(data.GetData()), data.GetLength());
+}
+
+inline std::string Compressed(const std::string& bytes, CompressionType type) {
+    CBinaryData data = ToBinary(bytes);
+    Compress(data, type);
+    return FromBinary(data);
 }
 
 } // namespace KzXmlLib10::support

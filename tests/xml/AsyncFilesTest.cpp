@@ -1,6 +1,6 @@
 #include "xml/AsyncFiles.h"
 
-#include "support/TempDir.h"
+#include "support/FileTest.h"
 
 #include <gtest/gtest.h>
 
@@ -21,19 +21,7 @@ const unsigned char* Raw(const std::string& bytes) {
     return reinterpret_cast<const unsigned char*>(bytes.data());
 }
 
-class AsyncFileTest : public testing::Test {
-protected:
-    ~AsyncFileTest() override {
-        systemCalls = m_realCalls;
-        EXPECT_EQ(OpenDescriptors(), m_descriptors);
-    }
-
-    TempDir m_dir;
-
-private:
-    const SystemCalls m_realCalls = systemCalls;
-    const std::ptrdiff_t m_descriptors = OpenDescriptors();
-};
+using AsyncFileTest = FileTest;
 
 int Write(AsyncFile& file, std::uint64_t offset, const std::string& bytes) {
     std::size_t count = 0;
@@ -55,7 +43,14 @@ std::string ReadBlock(AsyncFile& file, std::uint64_t offset, std::size_t length)
     return buffer.substr(0, count);
 }
 
-TEST_F(AsyncFileTest, ReadsBlocksAndTheWholeFile) {
+TEST_F(AsyncFileTest, ReadsBlocksAndTheWholeFileAndAsksForTheNextBlock) {
+    static std::vector<off_t> advised;
+    advised.clear();
+    systemCalls.advise = [](int, off_t offset, off_t length, int advice) {
+        if (advice == POSIX_FADV_WILLNEED)
+            advised.insert(advised.end(), {offset, length});
+        return 0;
+    };
     m_dir.Write("f", "0123456789");
     AsyncFile file;
     ASSERT_EQ(file.OpenForReading(m_dir.Path16("f")), 0);
@@ -66,6 +61,7 @@ TEST_F(AsyncFileTest, ReadsBlocksAndTheWholeFile) {
     EXPECT_EQ(ReadBlock(file, 5, 5), "56789");
     EXPECT_EQ(ReadBlock(file, 10, 5), "[38 twice]");
     EXPECT_EQ(ReadBlock(file, 8, 5), "89");
+    EXPECT_EQ(advised, (std::vector<off_t>{5, 5, 10, 5}));
     std::vector<unsigned char> whole(11);
     EXPECT_EQ(file.ReadAll(whole.data(), 10), 0);
     EXPECT_EQ(whole[9], '9');
@@ -77,11 +73,7 @@ TEST_F(AsyncFileTest, WritesAtOffsetsBeyond32Bits) {
     m_dir.Write("f", "longer than what replaces it");
     ASSERT_EQ(file.OpenForWriting(m_dir.Path16("f")), 0);
     EXPECT_EQ(Write(file, 0, "head"), 0);
-    EXPECT_EQ(Write(file, 4, "next"), 0);
-    EXPECT_EQ(file.Close(), 0);
-    EXPECT_EQ(m_dir.Read("f"), "headnext");
-
-    ASSERT_EQ(file.OpenForWriting(m_dir.Path16("f")), 0);
+    EXPECT_EQ(m_dir.Read("f"), "head");
     EXPECT_EQ(Write(file, 0x100000000, "tail"), 0); // sparse
     ASSERT_EQ(file.OpenForReading(m_dir.Path16("f")), 0);
     std::uint64_t size = 0;
@@ -139,7 +131,7 @@ TEST_F(AsyncFileTest, PipesNeitherHangNorKill) {
     EXPECT_EQ(Write(out, 6, "ghi"), EPIPE);
 }
 
-TEST_F(AsyncFileTest, InterruptedAndShortTransfersGoOn) {
+TEST_F(AsyncFileTest, InterruptedAndShortTransfersGoOnAndErrorsEndThem) {
     static int calls;
     calls = 0;
     systemCalls.pread = [](int file, void* buffer, std::size_t length, off_t offset) {
@@ -160,42 +152,16 @@ TEST_F(AsyncFileTest, InterruptedAndShortTransfersGoOn) {
     EXPECT_EQ(Write(file, 0, "01234567"), 0);
     EXPECT_EQ(Write(file, 8, "89"), 0);
     EXPECT_EQ(m_dir.Read("f"), "0123456789");
+    systemCalls.pwrite = [](int, const void*, std::size_t, off_t) { return ssize_t{0}; };
+    EXPECT_EQ(Write(file, 10, "a"), EIO); // what moves nothing must not be tried for ever
+
     ASSERT_EQ(file.OpenForReading(m_dir.Path16("f")), 0);
     EXPECT_EQ(ReadBlock(file, 1, 7), "1234567");
     EXPECT_EQ(ReadBlock(file, 8, 7), "89");
-}
-
-TEST_F(AsyncFileTest, ErrorsInTheMiddleAreReportedAtTheStart) {
-    static int calls;
-    calls = 0;
-    systemCalls.pread = [](int file, void* buffer, std::size_t, off_t offset) {
-        return ++calls == 2 ? (errno = EIO, ssize_t{-1}) : pread(file, buffer, 3, offset);
+    systemCalls.pread = [](int in, void* buffer, std::size_t, off_t offset) {
+        return offset > 0 ? (errno = EIO, ssize_t{-1}) : pread(in, buffer, 3, offset);
     };
-    systemCalls.pwrite = [](int, const void*, std::size_t, off_t) { return ssize_t{0}; };
-    m_dir.Write("f", "0123456789");
-    AsyncFile file;
-    ASSERT_EQ(file.OpenForReading(m_dir.Path16("f")), 0);
     EXPECT_EQ(ReadBlock(file, 0, 10), '[' + std::to_string(EIO) + ']');
-    EXPECT_EQ(ReadBlock(file, 0, 9), "012345678");
-    ASSERT_EQ(file.OpenForWriting(m_dir.Path16("g")), 0);
-    EXPECT_EQ(Write(file, 0, "a"), EIO); // a write that moves nothing must not be tried for ever
-}
-
-TEST_F(AsyncFileTest, AReadAsksForTheNextBlock) {
-    static std::vector<off_t> advised;
-    advised.clear();
-    systemCalls.advise = [](int, off_t offset, off_t length, int advice) {
-        if (advice == POSIX_FADV_WILLNEED)
-            advised.insert(advised.end(), {offset, length});
-        return 0;
-    };
-    m_dir.Write("f", "0123456789");
-    AsyncFile file;
-    ASSERT_EQ(file.OpenForReading(m_dir.Path16("f")), 0);
-    EXPECT_EQ(ReadBlock(file, 4, 4), "4567");
-    EXPECT_EQ(advised, (std::vector<off_t>{8, 4}));
-    EXPECT_EQ(ReadBlock(file, 8, 4), "89");
-    EXPECT_EQ(advised.size(), 2u);
 }
 
 TEST_F(AsyncFileTest, ClosesOnceAndReportsTheFirstClose) {

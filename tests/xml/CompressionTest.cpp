@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <string>
+#include <vector>
 
 using namespace KzXmlLib10;
 using namespace KzXmlLib10::support;
@@ -14,12 +15,6 @@ using namespace KzXmlLib10::support;
 namespace {
 
 constexpr CompressionType bothTypes[] = {CompressionType_GZip, CompressionType_ZLib};
-
-std::string Compressed(const std::string& bytes, CompressionType type) {
-    CBinaryData data = ToBinary(bytes);
-    Compress(data, type);
-    return FromBinary(data);
-}
 
 /// An array as Decompress takes it, freed at the end.
 struct Array {
@@ -51,17 +46,16 @@ std::string Sample(std::size_t size) {
 
 TEST(Compression, GoesThereAndBack) {
     for (const CompressionType type : bothTypes) {
-        for (const std::size_t size : {100, 65535, 65536, 65537, 131072, 1000000}) {
+        for (const std::size_t size : {100, 65535, 65536, 65537, 131072}) {
             const std::string text = Sample(size);
             const std::string compressed = Compressed(text, type);
             EXPECT_LT(compressed.size(), text.size());
             EXPECT_TRUE(Decompressed(compressed) == text) << size;
         }
     }
-    const std::string text = Sample(1000);
-    EXPECT_EQ(Compressed(text, CompressionType_GZip).substr(0, 10),
+    EXPECT_EQ(Compressed(Sample(1000), CompressionType_GZip).substr(0, 10),
               std::string("\x1F\x8B\x08\0\0\0\0\0\x04\x03", 10));
-    EXPECT_EQ(Compressed(text, CompressionType_ZLib).substr(0, 2), "\x78\x01");
+    EXPECT_EQ(Compressed(Sample(1000), CompressionType_ZLib).substr(0, 2), "\x78\x01");
 }
 
 TEST(Compression, OtherTypesAndEmptyDataStay) {
@@ -89,29 +83,19 @@ TEST(Compression, WhatDoesNotShrinkFailsWithCodeZero) {
 }
 
 TEST(Compression, WhatIsNoCompleteStreamStays) {
-    const std::string text = Sample(200000);
-    const std::string zlib = Compressed(text, CompressionType_ZLib);
-    const std::string gzip = Compressed(text, CompressionType_GZip);
-    const std::string rows[] = {
-        "",
-        "<a/>",
-        "\x1F",
-        "\x1F\x8B",
-        std::string("\x78\xBB\0\0\0\x01", 6), // asks for a dictionary
-        std::string(100, '\xFF'),
-        gzip.substr(0, gzip.size() - 1),
-        gzip.substr(0, gzip.size() / 2),
-        zlib.substr(0, zlib.size() - 1),
-        zlib.substr(0, 2),
-        "\xFF\xFE" + gzip, // a mark before the stream
-    };
-    for (const std::string& row : rows)
-        EXPECT_TRUE(Decompressed(row) == row) << row.size();
-    for (const std::string& stream : {gzip, zlib}) {
+    const std::string dictionaryWanted("\x78\xBB\0\0\0\x01", 6);
+    std::vector<std::string> rows = {"", "<a/>", dictionaryWanted, std::string(100, '\xFF')};
+    for (const CompressionType type : bothTypes) {
+        const std::string stream = Compressed(Sample(200000), type);
+        for (const std::size_t size : {std::size_t{1}, std::size_t{2}, stream.size() / 2, stream.size() - 1})
+            rows.push_back(stream.substr(0, size));
+        rows.push_back("\xFF\xFE" + stream); // a mark before the stream
         std::string damaged = stream;
         damaged[damaged.size() - 6] ^= 1;
-        EXPECT_TRUE(Decompressed(damaged) == damaged);
+        rows.push_back(damaged);
     }
+    for (const std::string& row : rows)
+        EXPECT_TRUE(Decompressed(row) == row) << row.size();
 }
 
 TEST(Compression, OnlyTheFirstStreamCounts) {
@@ -127,24 +111,23 @@ TEST(Compression, OnlyTheFirstStreamCounts) {
 }
 
 TEST(Compression, RefusesMoreThanTheLimit) {
-    struct Restore {
-        std::uint32_t limit = GetMaxInflatedSize();
-        ~Restore() { SetMaxInflatedSize(limit); }
-    } restore;
-    EXPECT_EQ(restore.limit, 1u << 30);
+    EXPECT_EQ(GetMaxInflatedSize(), 1u << 30);
     const std::string bomb = Compressed(std::string(1000000, ' '), CompressionType_GZip);
     SetMaxInflatedSize(1000000);
     EXPECT_EQ(Decompressed(bomb).size(), 1000000u);
     SetMaxInflatedSize(999999);
     Array array(bomb);
-    EXPECT_EQ(Failure([&] { Decompress(&array.data, &array.size); }),
-              "The content of the compressed stream is larger than the limit of 999999 bytes");
+    const std::string failure = Failure([&] { Decompress(&array.data, &array.size); });
+    SetMaxInflatedSize(1u << 30);
+    EXPECT_EQ(failure, "The content of the compressed stream is larger than the limit of 999999 bytes");
     EXPECT_EQ(array.Bytes(), bomb);
     array.size = 1ul << 32;
-    EXPECT_EQ(Failure([&] { Decompress(&array.data, &array.size); }),
-              "Streams of more than 4294967295 bytes are not supported");
-    EXPECT_EQ(Failure([&] { CompressBuffer(&array.data, &array.size, CompressionType_GZip); }),
-              "Streams of more than 4294967295 bytes are not supported");
+    const std::string tooLong = "Streams of more than 4294967295 bytes are not supported";
+    EXPECT_EQ(Failure([&] { Decompress(&array.data, &array.size); }), tooLong);
+    EXPECT_EQ(Failure([&] { CompressBuffer(&array.data, &array.size, CompressionType_GZip); }), tooLong);
+    unsigned char* null = nullptr;
+    EXPECT_THROW(Decompress(&null, &array.size), CKzInvalidParamException);
+    EXPECT_THROW(CompressBuffer(&array.data, nullptr, CompressionType_GZip), CKzInvalidParamException);
 }
 
 } // namespace

@@ -37,7 +37,8 @@ public:
     CXmlObjectBase* GetBase() override = 0;
 
     /// Writes the object as the root of an XML document into a file, which is created or replaced.
-    /// CompressionType_ZLib is refused: it is for byte streams only.
+    /// CompressionType_ZLib is refused: it is for byte streams only. UTF-16 files begin with a byte order
+    /// mark.
     virtual void ToXmlFile(const char16_t* fileName, bool includeDeclaration, bool formatted,
                            XmlEncoding encoding, EOLType eol, const CXmlSerializationContext& context,
                            CompressionType compression) const;
@@ -48,7 +49,8 @@ public:
     /// The object as XML text. The declaration, if wanted, names no encoding.
     virtual std::u16string ToXml(bool includeDeclaration, bool formatted, EOLType eol,
                                  const CXmlSerializationContext& context) const;
-    /// The object as XML in bytes of the encoding, without a byte order mark.
+    /// The object as XML in bytes of the encoding, without a byte order mark. Compression fails where it
+    /// would not make them fewer, as for most documents of a few bytes.
     virtual CBinaryData ToXmlStream(bool includeDeclaration, bool formatted, XmlEncoding encoding,
                                     EOLType eol, const CXmlSerializationContext& context,
                                     CompressionType compression) const;

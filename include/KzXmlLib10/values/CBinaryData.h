@@ -30,7 +30,7 @@ struct CBinaryDataBuffer {
 /// A handle without an array and a handle with an empty one are different values.
 ///
 /// Up to 2^32 - 1 bytes; an operation that would need more throws CKzException and changes nothing.
-/// A null text, or a null array with a length, throws CKzInvalidParamException.
+/// A null text or destination, or a null array with a length, throws CKzInvalidParamException.
 class QUILLON_EXPORT CBinaryData {
 public:
     CBinaryData() = default;

@@ -14,7 +14,7 @@ namespace KzXmlLib10 {
 ///     Compress(data, CompressionType_GZip);
 ///
 /// Arrays come from `new unsigned char[]`, and they hold up to 2^32 - 1 bytes: more throws CKzException.
-/// Want of memory throws std::bad_alloc.
+/// Want of memory throws std::bad_alloc, a null argument CKzInvalidParamException.
 
 /// Replaces the data by its compressed form. Empty data stays empty.
 /// After a failure the data is empty.
