@@ -46,7 +46,7 @@ bool IsSet(std::string_view item) {
 }
 
 bool IsLetterWithoutMeaning(std::string_view item, bool inClass) {
-    return IsEscape(item) && (IsOneOf(item[1], "FIJMOTYijmqy") || (inClass && IsOneOf(item[1], "BNRX")));
+    return IsEscape(item) && (IsOneOf(item[1], "FIJMOTYijmqy") || (inClass && IsOneOf(item[1], "ABGKNRXZz")));
 }
 
 } // namespace

@@ -74,13 +74,12 @@ std::u16string ErrorText(int error) {
 }
 
 Code Compile(const std::string& pattern, const std::u16string& value) {
-    constexpr int outOfMemory = 121;
     int error = 0;
     PCRE2_SIZE offset = 0;
     // Deliberate: a NUL ends the pattern.
     Code code(pcre2_compile(reinterpret_cast<PCRE2_SPTR>(pattern.c_str()), PCRE2_ZERO_TERMINATED, PCRE2_UTF,
                             &error, &offset, nullptr));
-    if (!code && error == outOfMemory)
+    if (!code && error == PCRE2_ERROR_HEAP_FAILED)
         throw std::bad_alloc();
     if (!code) // Deliberate: the message shows the value, not the pattern.
         Throw<CKzException>(messages::InvalidPattern, value, ErrorText(error));

@@ -110,6 +110,7 @@ TEST(XsdPattern, LenientFormsKeepWorking) {
         {R"(\d-[a-c])", u"1-b", u"match"},
         {R"(\y\_\m\q)", u"y_mq", u"match"},
         {R"([\y\B\X]+)", u"yBX", u"match"},
+        {R"([\A-\Z\z\G\K]+)", u"AMZz", u"match"},
         {R"(\Qa\y[\E[\w-.])", u"a\\y[-", u"match"},
     });
 }
