@@ -75,6 +75,7 @@ void CExpatReader::Initialize(const char16_t* protocolEncoding) {
 void CExpatReader::ParseChunk(bool isFinal) {
     const char* next = reinterpret_cast<const char*>(m_document->m_buffer.get());
     std::uint32_t left = m_document->m_bufferSize;
+    m_budget.Extend(left);
     do {
         const std::uint32_t slice = std::min(left, SliceSize);
         left -= slice;
@@ -114,19 +115,25 @@ void CExpatReader::Handle(void* userData, Action action) noexcept {
 
 void CExpatReader::StartElement(const char16_t* name, const XML_Char** attributes) {
     const auto [uri, local] = SplitName(name);
+    m_budget.Charge(uri.size() + local.size());
     CXmlElement* element = m_document->m_documentElement ? m_document->AddChildElement(uri, local)
                                                          : m_document->AddDocElement(uri, local);
     std::size_t count = 0;
     while (attributes[2 * count])
         ++count;
     element->m_attributes.reserve(count);
+    // A document type can give each element any number of attributes, so they count even if they are empty.
+    constexpr std::size_t attributeUnits = sizeof(CXmlAttribute) / sizeof(char16_t);
     for (; *attributes; attributes += 2) {
         const auto [attributeUri, attributeLocal] = SplitName(expat::Text(attributes[0]));
-        element->AddAttribute(attributeLocal, expat::Text(attributes[1]), attributeUri);
+        const std::u16string_view value = expat::Text(attributes[1]);
+        m_budget.Charge(attributeUri.size() + attributeLocal.size() + value.size() + attributeUnits);
+        element->AddAttribute(attributeLocal, value, attributeUri);
     }
 }
 
 void CExpatReader::AppendText(std::u16string_view text) {
+    m_budget.Charge(text.size());
     m_document->AppendTextExcludingCR(m_document->m_elementStack.back(), text.data(), text.size());
 }
 

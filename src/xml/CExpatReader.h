@@ -1,6 +1,7 @@
 #pragma once
 
 #include "xml/Expat.h"
+#include "xml/TreeBudget.h"
 
 #include <KzXmlLib10/object/CInstanceMonitor.h>
 #include <KzXmlLib10/object/Fwd.h>
@@ -59,6 +60,7 @@ private:
     std::uint32_t m_bufferSize = 1024;
     expat::Parser m_parser;
     std::exception_ptr m_failure;
+    TreeBudget m_budget{0};
 };
 
 } // namespace KzXmlLib10

@@ -15,6 +15,12 @@ public:
     explicit TreeBudget(std::uint64_t inputBytes)
         : m_limit(Base + PerInputByte * inputBytes), m_left(m_limit) {}
 
+    /// Adds what more input allows.
+    void Extend(std::uint64_t inputBytes) {
+        m_limit += PerInputByte * inputBytes;
+        m_left += PerInputByte * inputBytes;
+    }
+
     /// Takes off the size of a text that is about to enter the tree. Throws CKzException once all is used up.
     void Charge(std::uint64_t codeUnits) {
         const std::uint64_t bytes = codeUnits * sizeof(char16_t);

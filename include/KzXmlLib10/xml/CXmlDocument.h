@@ -35,7 +35,8 @@ class AsyncFile;
 /// All failures of loading are CKzException: malformed XML in the words of the parser, with the line, such as
 /// "mismatched tag at line 3"; files with their name and the error number of the system. A null argument
 /// throws CKzInvalidParamException. After a failure the tree may be there in part. An input may have up to
-/// 2^32 - 1 bytes, except on the road of AsyncFromXmlFile.
+/// 2^32 - 1 bytes, except on the road of AsyncFromXmlFile. Names, values and texts of a tree may come to 64
+/// MiB and 256 times the size of the input, which only documents made to exhaust memory exceed.
 class QUILLON_EXPORT CXmlDocument : public CInstanceMonitor {
 public:
     /// Uses the default context of the process.
@@ -67,9 +68,8 @@ public:
     /// Infoset document (ITU-T X.891), or a gzip or zlib stream of either, which is found out by trying, up
     /// to the size of SetMaxInflatedSize. No bytes fail with "XML Stream is empty!".
     ///
-    /// Of Fast Infoset the names, values and texts may come to 64 MiB and 256 times the size of the input.
-    /// The callback is not called for it, SchemaType_NoNamespaces leaves its namespaces, and its strings may
-    /// hold what XML forbids.
+    /// For Fast Infoset the callback is not called, SchemaType_NoNamespaces leaves its namespaces, and its
+    /// strings may hold what XML forbids.
     void LoadXmlStream(const unsigned char* data, unsigned long size);
 
     /// The root, or null: before a load, and where a Fast Infoset document has none.
