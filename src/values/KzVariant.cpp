@@ -2,6 +2,7 @@
 
 #include <KzXmlLib10/conversions/CConversions.h>
 
+#include "object/NotNull.h"
 #include "object/Throw.h"
 #include "values/Messages.h"
 #include "values/Payload.h"
@@ -56,8 +57,6 @@ const PayloadKind* FindPayloadKind(ItemType type) {
     }
 }
 
-std::u16string TextOrEmpty(const char16_t* text) { return text ? text : u""; }
-
 } // namespace
 
 KzVariant::KzVariant(const KzVariant& other) : KzVariant() { *this = other; }
@@ -90,10 +89,10 @@ KzVariant& KzVariant::operator=(const KzVariant& other) {
 }
 
 KzVariant& KzVariant::operator=(KzVariant&& other) noexcept {
-    KzVariant taken(std::move(other));
-    std::swap(m_isNil, taken.m_isNil);
-    std::swap(m_type, taken.m_type);
-    std::swap(m_value, taken.m_value);
+    const KzVariant old(std::move(*this)); // goes last, as above
+    m_isNil = std::exchange(other.m_isNil, false);
+    m_type = std::exchange(other.m_type, ItemType_Invalid);
+    m_value = std::exchange(other.m_value, Cell());
     return *this;
 }
 
@@ -150,9 +149,9 @@ std::u16string KzVariant::ToString(const char16_t* format) const {
     case ItemType_ui8:
         return CConversions::ui8ToString(GetUI8());
     case ItemType_r4:
-        return CConversions::r4ToString(GetR4(), TextOrEmpty(format));
+        return CConversions::r4ToString(GetR4(), EmptyIfNull(format));
     case ItemType_r8:
-        return CConversions::r8ToString(GetR8(), TextOrEmpty(format));
+        return CConversions::r8ToString(GetR8(), EmptyIfNull(format));
     case ItemType_duration:
         return CConversions::durationToString(GetDuration());
     case ItemType_yearMonth:
@@ -175,7 +174,7 @@ std::u16string KzVariant::ToString(const char16_t* format) const {
     case ItemType_boolean:
         return CConversions::booleanToString(GetBoolean());
     case ItemType_decimal:
-        return CConversions::decimalToString(GetDecimalRef(), TextOrEmpty(format));
+        return CConversions::decimalToString(GetDecimalRef(), EmptyIfNull(format));
     case ItemType_integer:
         return CConversions::integerToString(GetIntegerRef());
     default:

@@ -1,6 +1,7 @@
 #include <KzXmlLib10/values/KzVariant.h>
 
-#include <KzXmlLib10/object/CKzException.h>
+#include "support/Failure.h"
+
 #include <KzXmlLib10/object/CXmlObjectBase.h>
 
 #include <gtest/gtest.h>
@@ -9,6 +10,7 @@
 #include <utility>
 
 using namespace KzXmlLib10;
+using support::Failure;
 
 namespace {
 
@@ -18,47 +20,26 @@ KzVariant TextVariant(std::u16string text) {
     return variant;
 }
 
-template <class F>
-std::u16string MessageOf(F action) {
-    try {
-        action();
-    } catch (const CKzException& e) {
-        return e.GetFullMessage();
-    }
-    return u"no exception";
-}
-
-TEST(KzVariant, ScalarsKeepTheirWholeRangeAndClearTheRestOfTheCell) {
+TEST(KzVariant, ScalarsOfOneWidthShareTheLowBitsOfACleanCell) {
     KzVariant v;
-    v.SetI8(-1);
-    v.SetI1(-128);
-    EXPECT_EQ(v.m_value.bits, 0x80u);
-    EXPECT_EQ(v.GetI1(), -128);
-    v.SetI2(-32768);
-    EXPECT_EQ(v.m_value.bits, 0x8000u);
-    EXPECT_EQ(v.GetI2(), -32768);
-    v.SetI4(std::numeric_limits<std::int32_t>::min());
-    EXPECT_EQ(v.m_value.bits, 0x80000000u);
-    EXPECT_EQ(v.GetI4(), std::numeric_limits<std::int32_t>::min());
-    v.SetI8(std::numeric_limits<long long>::min());
-    EXPECT_EQ(v.GetI8(), std::numeric_limits<long long>::min());
-    v.SetUI1(255);
-    EXPECT_EQ(v.GetUI1(), 255);
-    EXPECT_EQ(v.GetMonth(), 255);
-    EXPECT_EQ(v.GetDay(), 255);
+    const auto bitsAfter = [&v](auto set, auto value) {
+        v.SetI8(-1);
+        (v.*set)(value);
+        return v.m_value.bits;
+    };
+    EXPECT_EQ(bitsAfter(&KzVariant::SetI1, -128), 0x80u);
+    EXPECT_EQ(v.GetUI1(), 0x80);
+    EXPECT_EQ(v.GetMonth(), 0x80);
+    EXPECT_EQ(v.GetDay(), 0x80);
     EXPECT_TRUE(v.GetBoolean());
-    v.SetUI2(0xFFFE);
+    EXPECT_EQ(bitsAfter(&KzVariant::SetI2, -2), 0xFFFEu);
     EXPECT_EQ(v.GetUI2(), 0xFFFE);
     EXPECT_EQ(v.GetYear(), 0xFFFE);
     EXPECT_EQ(v.GetChar(), u'\xFFFE');
-    v.SetUI4(0xFFFFFFFFu);
-    EXPECT_EQ(v.GetUI4(), 0xFFFFFFFFu);
-    v.SetUI8(std::numeric_limits<unsigned long long>::max());
-    EXPECT_EQ(v.GetUI8(), std::numeric_limits<unsigned long long>::max());
-    v.SetR4(-1.5f);
-    EXPECT_EQ(v.GetR4(), -1.5f);
-    v.SetR8(1e300);
-    EXPECT_EQ(v.GetR8(), 1e300);
+    EXPECT_EQ(bitsAfter(&KzVariant::SetUI4, 0x80000000u), 0x80000000u);
+    EXPECT_EQ(v.GetI4(), std::numeric_limits<std::int32_t>::min());
+    EXPECT_EQ(bitsAfter(&KzVariant::SetR4, -1.5f), 0xBFC00000u);
+    EXPECT_EQ(bitsAfter(&KzVariant::SetBoolean, true), 1u);
 }
 
 TEST(KzVariant, EmptyVariantHasNoType) {
@@ -66,9 +47,9 @@ TEST(KzVariant, EmptyVariantHasNoType) {
     EXPECT_FALSE(v.IsValid());
     EXPECT_FALSE(v.IsNil());
     EXPECT_EQ(v.GetTypeAsEnum(), ItemType_Invalid);
-    EXPECT_EQ(MessageOf([&] { v.GetType(); }), u"Invalid Type 0");
+    EXPECT_EQ(Failure([&] { v.GetType(); }), "Invalid Type 0");
     v.m_type = ItemType_xmlObject;
-    EXPECT_EQ(MessageOf([&] { v.GetType(); }), u"Invalid Type 27");
+    EXPECT_EQ(Failure([&] { v.GetType(); }), "Invalid Type 27");
 }
 
 TEST(KzVariant, NilKeepsTheKindUntilAClearThatFindsOne) {
@@ -162,13 +143,6 @@ TEST(KzVariant, TextsGoInAndOutByKind) {
         EXPECT_EQ(moved.ToString(nullptr), row.out);
         EXPECT_EQ(v.ToString(nullptr), row.out);
     }
-    v.SetYear(1);
-    EXPECT_EQ(v.ToString(u""), u"1");
-    v.SetMonth(2);
-    EXPECT_EQ(v.ToString(u""), u"--02");
-    v.SetDay(3);
-    EXPECT_EQ(v.ToString(u""), u"---03");
-    EXPECT_EQ(v.GetType(), u"day");
     v.SetR4(0.5f);
     EXPECT_EQ(v.ToString(u"%.3f"), u"0.500");
     v.SetI4(5);
@@ -232,19 +206,22 @@ TEST(KzVariant, FailedConversionLeavesTheOldValue) {
     // The number is that of the kind held, not of the one asked for.
     v.SetI4(7);
     for (const int type : {-1, 0, 27, 28})
-        EXPECT_EQ(MessageOf([&] { v.FromString(u"1", static_cast<ItemType>(type), rule); }),
-                  u"Invalid Type 5 to convert to string");
+        EXPECT_EQ(Failure([&] { v.FromString(u"1", static_cast<ItemType>(type), rule); }),
+                  "Invalid Type 5 to convert to string");
     EXPECT_EQ(v.GetI4(), 7);
     v.Clear();
-    EXPECT_EQ(MessageOf([&] { v.ToString(u""); }), u"Invalid Type 0 to convert to string");
+    EXPECT_EQ(Failure([&] { v.ToString(u""); }), "Invalid Type 0 to convert to string");
 }
 
 TEST(KzVariant, SelfAssignmentEmpties) {
     KzVariant v = TextVariant(u"text");
-    const KzVariant& self = v;
-    v = self;
+    KzVariant& self = v;
+    v = std::as_const(self);
     EXPECT_FALSE(v.IsValid());
     EXPECT_EQ(v.m_value.bits, 0u);
+    v.SetString(u"text");
+    v = std::move(self);
+    EXPECT_FALSE(v.IsValid());
 }
 
 TEST(KzVariant, UnknownKindCannotBeAssigned) {
@@ -252,7 +229,7 @@ TEST(KzVariant, UnknownKindCannotBeAssigned) {
         KzVariant source;
         source.m_type = static_cast<ItemType>(type);
         KzVariant target = TextVariant(u"text");
-        EXPECT_EQ(MessageOf([&] { target = source; }), u"Unknown Type");
+        EXPECT_EQ(Failure([&] { target = source; }), "Unknown Type");
     }
 }
 
