@@ -56,6 +56,7 @@ T ReadInteger(const std::u16string& given, CWhitespaceUtils::WhitespaceRule rule
 }
 
 /// The readers of the narrow kinds, on the value that the 32-bit reader gave.
+/// Deliberate: the message shows the text from before the whitespace rule, unlike those of the wide kinds.
 template <std::integral T, const auto& TooLarge>
 T Narrow(std::integral auto value, const std::u16string& given) {
     if (value < std::numeric_limits<T>::min() || value > std::numeric_limits<T>::max())

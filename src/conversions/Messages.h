@@ -5,7 +5,6 @@
 namespace KzXmlLib10::messages {
 
 inline constexpr char16_t UnknownWhitespaceRule[] = u"Unknown WhitespaceRule";
-inline constexpr char16_t NullRestriction[] = u"The texts of CPrimitiveRestrictions must not be null";
 
 // sic: "to large" throughout
 inline constexpr char16_t I1TooLarge[] = u"The value [%s] is to large to fit in a i1";
