@@ -1,13 +1,13 @@
 #include <KzXmlLib10/xml/CXmlTextWriter.h>
 
-#include <KzXmlLib10/object/CKzException.h>
+#include "support/Failure.h"
+
 #include <KzXmlLib10/object/Text.h>
 
 #include <gtest/gtest.h>
 
-#include <functional>
-
 using namespace KzXmlLib10;
+using support::Failure;
 
 namespace {
 
@@ -35,16 +35,6 @@ struct Output {
     CTextStream stream;
     CXmlTextWriter writer;
 };
-
-template <class E>
-std::string MessageOf(const std::function<void()>& action) {
-    try {
-        action();
-    } catch (const E& e) {
-        return ToUtf8(e.GetFullMessage());
-    }
-    return "no failure";
-}
 
 void WriteSample(Output& out) {
     out.writer.WriteDeclaration();
@@ -294,12 +284,11 @@ TEST(CXmlTextWriter, Failures) {
     out.Start(u"r");
     out.Start(u"c");
     out.End();
-    EXPECT_EQ(MessageOf<CKzException>([&] { out.Attribute(u"n", u""); }), late);
-    EXPECT_EQ(MessageOf<CKzException>([&] { out.writer.WriteXsiType(u"u", u"t", ItemType_string); }), late);
-    EXPECT_EQ(MessageOf<CKzException>([&] { out.writer.WriteXsiNil(); }), late);
-    EXPECT_EQ(MessageOf<CKzException>([&] { out.writer.SetEOLType(static_cast<EOLType>(2)); }),
-              "Invalid EOL type.");
-    EXPECT_EQ(MessageOf<CKzException>([&] { out.writer.Close(); }), "An Element has not been closed.");
+    EXPECT_EQ(Failure([&] { out.Attribute(u"n", u""); }), late);
+    EXPECT_EQ(Failure([&] { out.writer.WriteXsiType(u"u", u"t", ItemType_string); }), late);
+    EXPECT_EQ(Failure([&] { out.writer.WriteXsiNil(); }), late);
+    EXPECT_EQ(Failure([&] { out.writer.SetEOLType(static_cast<EOLType>(2)); }), "Invalid EOL type.");
+    EXPECT_EQ(Failure([&] { out.writer.Close(); }), "An Element has not been closed.");
     out.End();
     out.writer.Close();
     EXPECT_EQ(out.Text(), "<r><c/></r>");
@@ -308,8 +297,7 @@ TEST(CXmlTextWriter, Failures) {
     derived.StartElement(u"r", u"");
     derived.m_eolType = static_cast<EOLType>(2);
     derived.WriteAttribute(u"n", u"", u"\n", ItemType_string);
-    EXPECT_EQ(MessageOf<CKzException>([&] { derived.WriteText(u"a\nb", ItemType_string); }),
-              "Invalid EOL type.");
+    EXPECT_EQ(Failure([&] { derived.WriteText(u"a\nb", ItemType_string); }), "Invalid EOL type.");
     EXPECT_EQ(out.Text(), "<r n=\"&#xA;\">a");
 }
 
@@ -318,12 +306,12 @@ TEST(CXmlTextWriter, OperationsWithoutAnOpenElementFailCleanly) {
     Output out;
     out.Write(u"");
     for (int i = 0; i < 2; ++i) {
-        EXPECT_EQ(MessageOf<CKzInvalidStateException>([&] { out.Write(u"x"); }), none);
-        EXPECT_EQ(MessageOf<CKzInvalidStateException>([&] { out.End(); }), none);
-        EXPECT_EQ(MessageOf<CKzInvalidStateException>([&] { out.Attribute(u"n", u""); }), none);
-        EXPECT_EQ(MessageOf<CKzInvalidStateException>([&] { out.writer.WriteXsiNil(); }), none);
+        EXPECT_EQ(Failure<CKzInvalidStateException>([&] { out.Write(u"x"); }), none);
+        EXPECT_EQ(Failure<CKzInvalidStateException>([&] { out.End(); }), none);
+        EXPECT_EQ(Failure<CKzInvalidStateException>([&] { out.Attribute(u"n", u""); }), none);
+        EXPECT_EQ(Failure<CKzInvalidStateException>([&] { out.writer.WriteXsiNil(); }), none);
         EXPECT_EQ(
-            MessageOf<CKzInvalidStateException>([&] { out.writer.WriteXsiType(u"", u"t", ItemType_string); }),
+            Failure<CKzInvalidStateException>([&] { out.writer.WriteXsiType(u"", u"t", ItemType_string); }),
             none);
         out.writer.CloseStartTag();
         out.Start(u"r");
@@ -379,9 +367,9 @@ TEST(CXmlTextWriter, FlushesAfterTheOperationThatReachesTheMark) {
     EXPECT_EQ(stream.log, "open 4100 4097 4101 4099 close 4106 4098 close ");
 }
 
-TEST(CXmlTextWriter, AMillionOpenElementsNeedNoStack) {
+TEST(CXmlTextWriter, ManyOpenElementsNeedNoStack) {
     Output out;
-    for (int i = 0; i < 1'000'000; ++i)
+    for (int i = 0; i < 250'000; ++i)
         out.Start(u"e", u"urn:x");
     out.Attribute(u"n", u"1");
     for (int i = 0; i < 2; ++i)
@@ -392,14 +380,14 @@ TEST(CXmlTextWriter, AMillionOpenElementsNeedNoStack) {
 }
 
 TEST(CXmlTextWriter, ManyNestedNamespacesStayCheap) {
-    constexpr int depth = 20'000;
+    constexpr int depth = 5'000;
     Output out;
     for (int i = 0; i < depth; ++i)
         out.writer.StartElement(u"e", u"urn:" + FromUtf8(std::to_string(i)));
     out.Start(u"e", u"urn:7");
     out.End();
     EXPECT_TRUE(out.Text().ends_with("<" + ToUtf8(DerivedWriter::MakeAlias(depth - 1)) + ":e xmlns:" +
-                                     ToUtf8(DerivedWriter::MakeAlias(depth - 1)) + "=\"urn:19999\"><AH:e/>"));
+                                     ToUtf8(DerivedWriter::MakeAlias(depth - 1)) + "=\"urn:4999\"><AH:e/>"));
     for (int i = 0; i < depth - 1; ++i)
         out.End();
     out.Start(u"e", u"urn:new");

@@ -21,9 +21,10 @@ namespace KzXmlLib10 {
 ///
 /// The stream stays the property of the caller and must outlive the writer.
 ///
-/// Deliberate, and to be known by who writes data that others made: a carriage return is dropped; text that
-/// begins with "<![CDATA[" is passed on as it stands; namespaces are declared without escaping; comments
-/// may hold double hyphens; characters that XML forbids are passed on.
+/// Deliberate, and to be known by who writes data that others made: a carriage return is dropped; a tab in an
+/// attribute stays one; text that begins with "<![CDATA[" is passed on as it stands; namespaces are declared
+/// without escaping; comments may hold double hyphens; characters that XML forbids are passed on; a second
+/// root is not refused.
 class QUILLON_EXPORT CXmlTextWriter : public CXmlWriter {
 public:
     /// Opens the stream. The output is formatted and its line end is LF. Null throws
