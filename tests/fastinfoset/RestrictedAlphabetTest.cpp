@@ -11,6 +11,8 @@ using namespace KzXmlLib10::support;
 
 namespace {
 
+const std::string alphabetSize = "Alphabet must contain between 2 and 2^20 characters.";
+
 /// The first `size` characters from "A" on.
 std::u16string Alphabet(std::size_t size) {
     std::u16string alphabet;
@@ -19,16 +21,15 @@ std::u16string Alphabet(std::size_t size) {
     return alphabet;
 }
 
-std::string Packed(std::size_t alphabetSize, const std::u16string& text) {
-    const std::string octets = PackRestrictedAlphabetString(Alphabet(alphabetSize), text);
+std::string Packed(std::size_t size, const std::u16string& text) {
+    const std::string octets = PackRestrictedAlphabetString(Alphabet(size), text);
     return ToUtf8(
         CBinaryData::GetAsHexString(reinterpret_cast<const unsigned char*>(octets.data()), octets.size()));
 }
 
-std::string Unpacked(std::size_t alphabetSize, const std::string& hex) {
+std::string Unpacked(std::size_t size, const std::string& hex) {
     const CBinaryData octets = HexBytes(hex);
-    return ToUtf8(
-        UnpackRestrictedAlphabetString(Alphabet(alphabetSize), {octets.GetData(), octets.GetLength()}));
+    return ToUtf8(UnpackRestrictedAlphabetString(Alphabet(size), {octets.GetData(), octets.GetLength()}));
 }
 
 TEST(RestrictedAlphabet, TakesAsManyBitsAsLeaveOnePatternOver) {
@@ -43,12 +44,14 @@ TEST(RestrictedAlphabet, TakesAsManyBitsAsLeaveOnePatternOver) {
 TEST(RestrictedAlphabet, OnlyTheLowHalfOfAByteMayPad) {
     EXPECT_EQ(Unpacked(15, "1F"), "B");
     EXPECT_EQ(Unpacked(15, "1F 22"), "B"); // even in the middle
-    EXPECT_EQ(Failure([] { Unpacked(15, "F1"); }),
-              "Failed to parse FastInfoset. The position [15] lies beyond the Restricted Alphabet.");
-    EXPECT_EQ(Failure([] { Unpacked(12, "0D"); }),
-              "Failed to parse FastInfoset. The position [13] lies beyond the Restricted Alphabet.");
-    EXPECT_EQ(Failure([] { Unpacked(200, "FF"); }),
-              "Failed to parse FastInfoset. The position [255] lies beyond the Restricted Alphabet.");
+    const auto failure = [](std::size_t size, const char* hex) {
+        return Failure([=] { Unpacked(size, hex); });
+    };
+    const std::string failed = "Failed to parse FastInfoset. ";
+    EXPECT_EQ(failure(15, "F1"), failed + "The position [15] lies beyond the Restricted Alphabet.");
+    EXPECT_EQ(failure(12, "0D"), failed + "The position [13] lies beyond the Restricted Alphabet.");
+    EXPECT_EQ(failure(200, "FF"), failed + "The position [255] lies beyond the Restricted Alphabet.");
+    EXPECT_EQ(failure(1, "00"), failed + "Invalid Encoding of Restricted Alphabet. " + alphabetSize);
 }
 
 TEST(RestrictedAlphabet, PacksFourAndEightBits) {
@@ -58,11 +61,7 @@ TEST(RestrictedAlphabet, PacksFourAndEightBits) {
     const std::string failed = "Failed to write FastInfoset. ";
     EXPECT_EQ(Failure([] { Packed(16, u"A"); }),
               failed + "Unsupported Feature in AppendRestrictedAlphabetString.");
-    EXPECT_EQ(Failure([] { Packed(1, u"A"); }),
-              failed + "Invalid Restricted Alphabet. Alphabet must contain between 2 and 2^20 characters.");
-    EXPECT_EQ(Failure([] { Unpacked(1, "00"); }),
-              "Failed to parse FastInfoset. Invalid Encoding of Restricted Alphabet. Alphabet must contain "
-              "between 2 and 2^20 characters.");
+    EXPECT_EQ(Failure([] { Packed(1, u"A"); }), failed + "Invalid Restricted Alphabet. " + alphabetSize);
 }
 
 } // namespace
