@@ -213,18 +213,11 @@ TEST(CFastInfosetReader, RefusesWhatHasNoMeaning) {
 }
 
 TEST(CFastInfosetReader, ChecksEveryIndexAgainstItsTable) {
-    const Row rows[] = {
-        {"00 F0", "The index [1] lies beyond its table."},
-        {"3D 81 00 'a' FF", "The index [2] lies beyond its table."},
-        {"3F 81 80 00 'a' FF", "The index [2] lies beyond its table."},
-        {"3C 80 FF", "The index [1] lies beyond its table."},
-        {"38 CE 81 F0", "The index [2] lies beyond its table."},
-        {"38 CD E00000 F0", "The index [8257] lies beyond its table."},
-        {"@ 00", "The index [1] lies beyond its table."},
-        {"@ 78 00 'b' 80", "The index [1] lies beyond its table."},
-        {". A0", "The index [1] lies beyond its table."},
-    };
-    Check(rows);
+    for (const char* bytes : {"00 F0", "3C 80 FF", "7C 00 'a' 00", "7C 00 'a' 78 00 'b' 80", "3C 00 'a' A0"})
+        EXPECT_EQ(Read(HexBytes(start + bytes)), "The index [1] lies beyond its table.") << bytes;
+    for (const char* bytes : {"3D 81 00 'a' FF", "3F 81 80 00 'a' FF", "38 CE 81 F0"})
+        EXPECT_EQ(Read(HexBytes(start + bytes)), "The index [2] lies beyond its table.") << bytes;
+    EXPECT_EQ(Read(HexBytes(start + "38 CD E00000 F0")), "The index [8257] lies beyond its table.");
 }
 
 TEST(CFastInfosetReader, RecognisesDocumentsByTheirFirstBytes) {
