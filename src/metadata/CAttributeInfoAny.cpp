@@ -20,13 +20,17 @@ CAttributeInfoAny::CAttributeInfoAny(const char16_t* name, const char16_t* names
       m_namespaceConstraint(NotNull(namespaceConstraint, u"namespaceConstraint")),
       m_targetNamespace(NotNull(targetNamespace, u"targetNamespace")) {}
 
+CSmartPtr<CXmlObjectBase> CAttributeInfoAny::ReadObject(const CXmlGeneratedClass* object) const {
+    KzVariant value;
+    ReadProperty(object, value);
+    return value.GetTypeAsEnum() < ItemType_xmlObject ? nullptr : value.GetXmlObject();
+}
+
 bool CAttributeInfoAny::AttributeFromXml(const CXmlSerializationContext&, CXmlGeneratedClass* object,
                                          CXmlAttribute* attribute) {
     if (!IsNamespaceValid(attribute->GetNamespaceURI(), m_namespaceConstraint, m_targetNamespace))
         return false;
-    KzVariant value;
-    ReadProperty(object, value);
-    const CSmartPtr<CXmlObjectBase> held = value.GetXmlObject();
+    const CSmartPtr<CXmlObjectBase> held = ReadObject(object);
     auto* collection = dynamic_cast<CAttributeCol*>(static_cast<CXmlObjectBase*>(held));
     if (!collection)
         Throw<CKzException>(messages::NotAnAttributeCol);
@@ -37,10 +41,8 @@ bool CAttributeInfoAny::AttributeFromXml(const CXmlSerializationContext&, CXmlGe
 
 void CAttributeInfoAny::AttributeToXml(const CXmlSerializationContext& context,
                                        const CXmlGeneratedClass* object, CXmlWriter* writer) const {
-    KzVariant value;
-    ReadProperty(object, value);
     const std::u16string targetNamespace = GetTargetNamespace(object);
-    if (const CSmartPtr<CXmlObjectBase> held = value.GetXmlObject())
+    if (const CSmartPtr<CXmlObjectBase> held = ReadObject(object))
         ToXml_Int(held, writer, false, targetNamespace.c_str(), context);
 }
 

@@ -31,7 +31,6 @@ inline constexpr char16_t EmptyChoiceOnWriting[] = u"This element is a choice, a
                                                    u"set"; // sic
 inline constexpr char16_t EmptyChoiceOnReading[] =
     u"No child elements within the element [%s] were populated. The element represents a choice, so one and "
-    u"only one "
-    u"element should be populated. The element contained no sutable child elements"; // sic
+    u"only one element should be populated. The element contained no sutable child elements"; // sic
 
 } // namespace KzXmlLib10::messages

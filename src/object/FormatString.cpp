@@ -222,14 +222,11 @@ private:
     }
 
     void WriteReal(const Placeholder& p, double value) {
-        const std::u16string sign = SignOf(p, std::signbit(value));
-        if (!std::isfinite(value)) {
-            WritePadded(p, sign, std::isnan(value) ? u"nan" : u"inf", false);
-            return;
-        }
+        const bool finite = std::isfinite(value);
+        const std::string text = finite ? RealDigits(p, std::fabs(value)) : std::isnan(value) ? "nan" : "inf";
         std::u16string body;
-        AppendAscii(body, RealDigits(p, std::fabs(value)), p.conversion == u'E' || p.conversion == u'G');
-        WritePadded(p, sign, body, true);
+        AppendAscii(body, text, p.conversion == u'E' || p.conversion == u'G');
+        WritePadded(p, SignOf(p, std::signbit(value)), body, finite);
     }
 
     static std::string RealDigits(const Placeholder& p, double value) {

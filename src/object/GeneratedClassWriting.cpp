@@ -110,6 +110,7 @@ void CXmlGeneratedClass::WritePrimitiveValue(CXmlWriter* writer) const {
 void CXmlGeneratedClass::AttributesToXml_Int(CXmlWriter* writer,
                                              const CXmlSerializationContext& context) const {
     try {
+        const RecursionLevel level; // groups inside each other come here without an element in between
         if (context.GetWriteTypeAttribute()) {
             const CParentElementInfo* info = GetClassInfo();
             if (info->GetHasBaseClasses() && GetElementName() != info->GetElementName())

@@ -13,20 +13,16 @@ inline constexpr char16_t AliasNotFound[] = u"Namespace alias [%s] not found";
 inline constexpr char16_t NamespaceIndexOutOfRange[] = u"There is no namespace at the index %d";
 inline constexpr char16_t MissingElementsAreIgnored[] =
     u"The parser can only ignore additional elements, or ignore the fact that some required ones are "
-    u"missing, "
-    u"you can not ignore both\nSet IgnoreMissingMandatoryElements to false before setting "
-    u"IgnoreUnknownElements "
-    u"to true";
+    u"missing, you can not ignore both\n"
+    u"Set IgnoreMissingMandatoryElements to false before setting IgnoreUnknownElements to true";
 inline constexpr char16_t UnknownElementsAreIgnored[] =
     u"The parser can only ignore additional elements, or ignore the fact that some required ones are "
-    u"missing, "
-    u"you can not ignore both\nSet IgnoreUnknownElements to false before setting "
-    u"IgnoreMissingMandatoryElements to true";
+    u"missing, you can not ignore both\n"
+    u"Set IgnoreUnknownElements to false before setting IgnoreMissingMandatoryElements to true";
 
 inline constexpr char16_t PleaseEnsureVersion[] =
     u"Please ensure your generated code is the same version as this library "
     u"(Quillon Runtime: v%d.%d, Generator: v%d.%d).";
-inline constexpr char16_t NotAvailable[] = u"This operation is not available yet";
 inline constexpr char16_t WrongVersion[] = u"Wrong Version (Quillon Runtime: v%d.%d, Generator: v%d.%d)";
 
 inline constexpr char16_t InvalidNamespaceForRestriction[] =

@@ -3,6 +3,7 @@
 #include "support/EventLog.h"
 #include "support/Failure.h"
 #include "support/Model.h"
+#include "support/Threads.h"
 
 #include <KzXmlLib10/object/Text.h>
 #include <KzXmlLib10/values/CBinaryData.h>
@@ -10,7 +11,6 @@
 #include <gtest/gtest.h>
 
 #include <memory>
-#include <pthread.h>
 
 using namespace KzXmlLib10;
 using KzXmlLib10::support::EventLog;
@@ -217,7 +217,7 @@ TEST(CElement, AnElementInsideItselfIsRefused) {
     EXPECT_EQ(Write(*outer), "<outer><leaf/><a><leaf/><b><leaf/><c><leaf/><d/></c></b></a><d/></outer>");
 }
 
-void* ReadCloneWriteAndDestroyADeepTree(void* result) {
+TEST(CElement, DepthNeedsNoStack) {
     constexpr int levels = 40'000;
     std::u16string xml;
     for (int i = 0; i < levels; ++i)
@@ -225,26 +225,17 @@ void* ReadCloneWriteAndDestroyADeepTree(void* result) {
     xml += u"x";
     for (int i = 0; i < levels; ++i)
         xml += u"</a>";
-    CSmartPtr<CElement> element = new CElement(u"any");
-    element->FromXml(xml.c_str());
-    CSmartPtr<CElement> clone = element->Clone();
-    element = nullptr;
-    clone->SetNamespaceRestrictions(u"##local", u"");
-    const CElement copy(clone, nullptr);
-    clone = nullptr;
-    *static_cast<bool*>(result) = copy.ToXml(false, false, EOLType_LF, Defaults()) == xml;
-    return nullptr;
-}
-
-TEST(CElement, DepthNeedsNoStack) {
     bool same = false;
-    pthread_attr_t attributes;
-    ASSERT_EQ(pthread_attr_init(&attributes), 0);
-    ASSERT_EQ(pthread_attr_setstacksize(&attributes, 512 * 1024), 0);
-    pthread_t thread;
-    ASSERT_EQ(pthread_create(&thread, &attributes, ReadCloneWriteAndDestroyADeepTree, &same), 0);
-    pthread_join(thread, nullptr);
-    pthread_attr_destroy(&attributes);
+    support::RunOnStack(512 * 1024, [&] {
+        CSmartPtr<CElement> element = new CElement(u"any");
+        element->FromXml(xml.c_str());
+        CSmartPtr<CElement> clone = element->Clone();
+        element = nullptr;
+        clone->SetNamespaceRestrictions(u"##local", u"");
+        const CElement copy(clone, nullptr);
+        clone = nullptr;
+        same = copy.ToXml(false, false, EOLType_LF, Defaults()) == xml;
+    });
     EXPECT_TRUE(same);
 }
 

@@ -172,10 +172,15 @@ TEST(AttributeWildcard, TakesWhatItsConstraintAdmits) {
         .Attribute(u"id", Optional, ItemType_i4);
     EXPECT_EQ(Read(first, u"<r id='1'/>"), u"[id=1 ]|-");
 
-    Model wrong(u"r");
-    wrong.AddAttribute(new CAttributeInfoAny(u"", u"", 0, true, u"##any", u"", u""), NewElements);
-    EXPECT_EQ(Read(wrong, u"<r id='1'/>"),
-              failedR + u"Serialization Data Error : The collection should be a CAttributeCol, it was not!");
+    for (const Model::Make& held : {Model::Make(NewElements), Model::Make()}) {
+        Model wrong(u"r");
+        wrong.AddAttribute(new CAttributeInfoAny(u"", u"", 0, true, u"##any", u"", u""), held);
+        EXPECT_EQ(Read(wrong, u"<r id='1'/>"),
+                  failedR +
+                      u"Serialization Data Error : The collection should be a CAttributeCol, it was not!");
+    }
+    EXPECT_EQ(Write(*Model(u"r").AddAttribute(new CAttributeInfoAny(u"", u"", 0, true, u"", u"", u"")).New()),
+              u"<r/>");
 }
 
 TEST(DefaultNamespaceOfAWildcard, FollowsTheFirstWordOfItsConstraint) {

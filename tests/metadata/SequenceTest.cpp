@@ -2,6 +2,7 @@
 /// written.
 
 #include "support/Roundtrip.h"
+#include "support/Threads.h"
 
 #include <gtest/gtest.h>
 
@@ -324,25 +325,60 @@ TEST(RootOutput, FollowsTheContext) {
               u"\t<a>x\r\ny&lt;</a>\r\n</m>\r\n");
 }
 
-TEST(DeepObjects, StopWithAClearFailure) {
-    static Model node(u"n");
-    if (node.NextProperty() == 0)
-        node.Class(u"n", Opt, node);
-    const auto document = [](int levels) {
+class DeepObjects : public testing::Test {
+protected:
+    DeepObjects() { node.Class(u"n", Opt, node).Prim(u"v", Opt, ItemType_i4); }
+
+    static std::u16string Document(int levels) {
         std::u16string xml;
         for (int i = 0; i < levels; ++i)
             xml += u"<n>";
+        xml += u"<v>bad</v>";
         for (int i = 0; i < levels; ++i)
             xml += u"</n>";
         return xml;
-    };
-    const auto object = node.New();
-    EXPECT_EQ(FailureOf([&] { object->FromXml(document(1000).c_str(), {}); }), u"");
-    EXPECT_EQ(Write(*object).size(), 1000u * 7 - 3); // the innermost is <n/>
-    const std::u16string failure = FailureOf([&] { object->FromXml(document(1000000).c_str(), {}); });
-    EXPECT_TRUE(
-        failure.starts_with(u"Failed to process the element [n]\nFailed to process the element [n]\n"));
-    EXPECT_NE(failure.find(u"nested too deep"), failure.npos);
+    }
+
+    Model node{u"n"};
+};
+
+std::u16string Path(const char16_t* line, int levels) {
+    std::u16string path;
+    for (int i = 0; i < levels; ++i)
+        path += line;
+    return path;
+}
+
+TEST_F(DeepObjects, FailWithTheirWholePath) {
+    EXPECT_EQ(Read(node, Document(1000)), Path(u"Failed to process the element [n]\n", 1000) +
+                                              u"The value [bad] can not be converted to a i4");
+}
+
+TEST_F(DeepObjects, StopWithAClearFailureWhateverTheStack) {
+    std::u16string onSmallStack;
+    support::RunOnStack(256 * 1024, [&] { onSmallStack = Read(node, Document(100000)); });
+    for (const std::u16string& failure : {Read(node, Document(100000)), onSmallStack}) {
+        EXPECT_TRUE(failure.starts_with(Path(u"Failed to process the element [n]\n", 50)));
+        EXPECT_NE(failure.find(u"\nThe elements are nested too deep ("), failure.npos);
+    }
+}
+
+TEST_F(DeepObjects, StopInWritingTooAlsoWhereGroupsHaveNoTags) {
+    Model group(u"g", XmlElementGroupType_Sequence, XmlElementType_Pseudo);
+    group.Class(u"g", Opt, group);
+    Model root(u"r");
+    root.Class(u"g", Opt, group);
+    for (const Model* model : {&node, &group}) {
+        CSmartPtr<CModelObject> outermost = model->New();
+        for (int i = 0; i < 20000; ++i) {
+            const CSmartPtr<CModelObject> outer = model->New();
+            outer->properties[0].SetXmlObject(outermost);
+            outermost = outer;
+        }
+        const CSmartPtr<CModelObject> top = root.New();
+        top->properties[0].SetXmlObject(outermost);
+        EXPECT_NE(Write(*top).find(u"\nThe elements are nested too deep ("), std::u16string::npos);
+    }
 }
 
 } // namespace

@@ -34,6 +34,8 @@ TEST(FormatString, Reals) {
     EXPECT_EQ(FormatString(u"%f %.2f %e %g %G %.7g", 1.5, 2.0, 1e10, 1e20, 1e20, 0.1),
               u"1.500000 2.00 1.000000e+10 1e+20 1E+20 0.1");
     EXPECT_EQ(FormatString(u"%08.2f|%#.0f|%#g|%#.3g", -1.5, 3.0, 1.0, 1e5), u"-0001.50|3.|1.00000|1.00e+05");
+    const double inf = std::numeric_limits<double>::infinity();
+    EXPECT_EQ(FormatString(u"%f %05g %E", inf, -inf, inf), u"inf  -inf INF");
     const std::u16string huge = FormatString(u"%f", 1e300);
     EXPECT_EQ(huge.size(), 308u);
     EXPECT_TRUE(

@@ -24,6 +24,9 @@ public:
     void Validate(const CXmlSerializationContext& context, bool found) const override;
 
 private:
+    /// The object in the property, or null.
+    CSmartPtr<CXmlObjectBase> ReadObject(const CXmlGeneratedClass* object) const;
+
     std::u16string m_namespaceConstraint;
     std::u16string m_targetNamespace;
 };

@@ -16,8 +16,7 @@ enum XmlElementType : std::int32_t {
     /// A real element: it has a start tag and an end tag, and reads from its own element.
     XmlElementType_Element = 0,
     /// A group nested in its parent's content: read from, and written into, the parent's element. Its
-    /// attributes
-    /// stand on the parent's start tag.
+    /// attributes stand on the parent's start tag.
     XmlElementType_Pseudo = 1,
     /// A nested group whose attributes are not written.
     XmlElementType_PseudoNoAttributes = 2,

@@ -1,0 +1,27 @@
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <cstddef>
+
+#include <pthread.h>
+
+namespace KzXmlLib10::support {
+
+/// Runs the action on a thread with a stack of so many bytes, and waits for its end.
+template <class Action>
+void RunOnStack(std::size_t bytes, Action action) {
+    const auto run = [](void* argument) -> void* {
+        (*static_cast<Action*>(argument))();
+        return nullptr;
+    };
+    pthread_attr_t attributes;
+    pthread_attr_init(&attributes);
+    ASSERT_EQ(pthread_attr_setstacksize(&attributes, bytes), 0);
+    pthread_t thread;
+    ASSERT_EQ(pthread_create(&thread, &attributes, run, &action), 0);
+    pthread_join(thread, nullptr);
+    pthread_attr_destroy(&attributes);
+}
+
+} // namespace KzXmlLib10::support
