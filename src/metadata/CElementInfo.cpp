@@ -74,6 +74,10 @@ std::u16string CElementInfo::GetAnyDefaultNamespace(const char16_t* namespaceCon
     return u"";
 }
 
+const char16_t* CElementInfo::RequireText(const char16_t* text, const char16_t* argument) {
+    return NotNull(text, argument);
+}
+
 void CElementInfo::AccessProperty(CXmlGeneratedClass* object, bool read, KzVariant& value) {
     object->AccessProperty(m_propertyIndex, read, value);
 }

@@ -19,38 +19,29 @@ bool CElementInfoAll::RequireFound(bool found, bool isElement) const {
     return found;
 }
 
-// Prim, Enum: members read alike and differ in Validate.
+QUILLON_VALIDATE(CElementInfoAllMandatory) { return RequireFound(found, isElement); }
+QUILLON_VALIDATE(CElementInfoAllOptional) { return true; }
 
-QUILLON_TO_XML(CElementInfoAllPrimMnd) { return ElementToXmlPrim(context, object, writer); }
+// Prim, Enum
+
 QUILLON_FROM_XML(CElementInfoAllPrimMnd) {
     return IsThisElement(context, *current) && TakePrimitive(object, current);
 }
-QUILLON_VALIDATE(CElementInfoAllPrimMnd) { return RequireFound(found, isElement); }
 
-QUILLON_TO_XML(CElementInfoAllPrimOpt) { return ElementToXmlPrim(context, object, writer); }
 QUILLON_FROM_XML(CElementInfoAllPrimOpt) {
     return IsThisElement(context, *current) && TakePrimitive(object, current);
 }
-QUILLON_VALIDATE(CElementInfoAllPrimOpt) { return true; }
 
-QUILLON_TO_XML(CElementInfoAllEnumMnd) { return ElementToXmlEnum(context, object, writer, m_enumToString); }
 QUILLON_FROM_XML(CElementInfoAllEnumMnd) {
     return IsThisElement(context, *current) && TakeEnum(object, current, m_stringToEnum);
 }
-QUILLON_VALIDATE(CElementInfoAllEnumMnd) { return RequireFound(found, isElement); }
 
-QUILLON_TO_XML(CElementInfoAllEnumOpt) { return ElementToXmlEnum(context, object, writer, m_enumToString); }
 QUILLON_FROM_XML(CElementInfoAllEnumOpt) {
     return IsThisElement(context, *current) && TakeEnum(object, current, m_stringToEnum);
 }
-QUILLON_VALIDATE(CElementInfoAllEnumOpt) { return true; }
 
 // Cls
 
-QUILLON_TO_XML(CElementInfoAllClsMnd) { return ElementToXmlCls(context, object, writer, false); }
-QUILLON_PSEUDO_ATTRIBUTES_TO_XML(CElementInfoAllClsMnd) {
-    PseudoAttributesToXml(context, object, writer, m_elementType);
-}
 QUILLON_FROM_XML(CElementInfoAllClsMnd) {
     if (m_elementType == XmlElementType_Element) {
         if (!IsThisElement(context, *current))
@@ -71,10 +62,6 @@ QUILLON_VALIDATE(CElementInfoAllClsMnd) {
     return RequireFound(found, isElement);
 }
 
-QUILLON_TO_XML(CElementInfoAllClsOpt) { return ElementToXmlCls(context, object, writer, false); }
-QUILLON_PSEUDO_ATTRIBUTES_TO_XML(CElementInfoAllClsOpt) {
-    PseudoAttributesToXml(context, object, writer, m_elementType);
-}
 QUILLON_FROM_XML(CElementInfoAllClsOpt) {
     const bool isElement = m_elementType == XmlElementType_Element;
     if (isElement ? !IsThisElement(context, *current) : !*current)
@@ -91,27 +78,15 @@ QUILLON_FROM_XML(CElementInfoAllClsOpt) {
     *current = result;
     return true;
 }
-QUILLON_VALIDATE(CElementInfoAllClsOpt) { return true; }
 
 // AbsCls
 
-QUILLON_TO_XML(CElementInfoAllAbsClsMnd) { return ElementToXmlCls(context, object, writer, false); }
-QUILLON_PSEUDO_ATTRIBUTES_TO_XML(CElementInfoAllAbsClsMnd) {
-    PseudoAttributesToXml(context, object, writer, m_elementType);
-}
 QUILLON_FROM_XML(CElementInfoAllAbsClsMnd) { Throw<CKzException>(messages::AllAbsClsMndNotImplemented); }
-QUILLON_VALIDATE(CElementInfoAllAbsClsMnd) { return RequireFound(found, isElement); }
 
-QUILLON_TO_XML(CElementInfoAllAbsClsOpt) { return ElementToXmlCls(context, object, writer, false); }
-QUILLON_PSEUDO_ATTRIBUTES_TO_XML(CElementInfoAllAbsClsOpt) {
-    PseudoAttributesToXml(context, object, writer, m_elementType);
-}
 QUILLON_FROM_XML(CElementInfoAllAbsClsOpt) { Throw<CKzException>(messages::AllAbsClsOptNotImplemented); }
-QUILLON_VALIDATE(CElementInfoAllAbsClsOpt) { return true; }
 
 // Untpd
 
-QUILLON_TO_XML(CElementInfoAllUntpdMnd) { return ElementToXmlCls(context, object, writer, false); }
 QUILLON_FROM_XML(CElementInfoAllUntpdMnd) {
     if (!*current)
         return false;
@@ -120,9 +95,7 @@ QUILLON_FROM_XML(CElementInfoAllUntpdMnd) {
     *current = result;
     return taken;
 }
-QUILLON_VALIDATE(CElementInfoAllUntpdMnd) { return RequireFound(found, isElement); }
 
-QUILLON_TO_XML(CElementInfoAllUntpdOpt) { return ElementToXmlCls(context, object, writer, false); }
 QUILLON_FROM_XML(CElementInfoAllUntpdOpt) {
     if (!*current)
         return false;
@@ -135,7 +108,6 @@ QUILLON_FROM_XML(CElementInfoAllUntpdOpt) {
     *current = result;
     return true;
 }
-QUILLON_VALIDATE(CElementInfoAllUntpdOpt) { return true; }
 
 // Col
 
@@ -143,13 +115,6 @@ QUILLON_TO_XML(CElementInfoAllCol) { return CheckedElementToXmlCol(context, obje
 QUILLON_FROM_XML(CElementInfoAllCol) {
     *current = ReadRun(context, HeldCollection(object), parent, *current);
     return false;
-}
-
-QUILLON_PSEUDO_ATTRIBUTES_TO_XML(CElementInfoAllClsCol) {
-    PseudoItemAttributesToXml(context, object, writer, m_elementType);
-}
-QUILLON_PSEUDO_ATTRIBUTES_TO_XML(CElementInfoAllAbsClsCol) {
-    PseudoItemAttributesToXml(context, object, writer, m_elementType);
 }
 
 } // namespace KzXmlLib10Data

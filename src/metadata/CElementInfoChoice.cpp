@@ -17,14 +17,10 @@ QUILLON_VALIDATE(CElementInfoChoice) { Throw<CKzException>(messages::ValidateNot
 
 // Prim, Enum
 
-QUILLON_TO_XML(CElementInfoChoicePrimOpt) { return ElementToXmlPrim(context, object, writer); }
 QUILLON_FROM_XML(CElementInfoChoicePrimOpt) {
     return IsThisElement(context, *current) && TakePrimitive(object, current);
 }
 
-QUILLON_TO_XML(CElementInfoChoiceEnumOpt) {
-    return ElementToXmlEnum(context, object, writer, m_enumToString);
-}
 QUILLON_FROM_XML(CElementInfoChoiceEnumOpt) {
     return IsThisElement(context, *current) && TakeEnum(object, current, m_stringToEnum);
 }
@@ -32,9 +28,6 @@ QUILLON_FROM_XML(CElementInfoChoiceEnumOpt) {
 // Cls, AbsCls
 
 QUILLON_TO_XML(CElementInfoChoiceClsOpt) { return ElementToXmlCls(context, object, writer, true); }
-QUILLON_PSEUDO_ATTRIBUTES_TO_XML(CElementInfoChoiceClsOpt) {
-    PseudoAttributesToXml(context, object, writer, m_elementType);
-}
 QUILLON_FROM_XML(CElementInfoChoiceClsOpt) {
     if (m_elementType == XmlElementType_Element) {
         if (!IsThisElement(context, *current))
@@ -58,10 +51,6 @@ QUILLON_FROM_XML(CElementInfoChoiceClsOpt) {
     return true;
 }
 
-QUILLON_TO_XML(CElementInfoChoiceAbsClsOpt) { return ElementToXmlCls(context, object, writer, false); }
-QUILLON_PSEUDO_ATTRIBUTES_TO_XML(CElementInfoChoiceAbsClsOpt) {
-    PseudoAttributesToXml(context, object, writer, m_elementType);
-}
 QUILLON_FROM_XML(CElementInfoChoiceAbsClsOpt) {
     if (!IsThisElement(context, *current))
         return false;
@@ -76,7 +65,6 @@ QUILLON_FROM_XML(CElementInfoChoiceAbsClsOpt) {
 
 // Untpd
 
-QUILLON_TO_XML(CElementInfoChoiceUntpdOpt) { return ElementToXmlCls(context, object, writer, false); }
 QUILLON_FROM_XML(CElementInfoChoiceUntpdOpt) {
     if (!*current)
         return false;
@@ -114,13 +102,6 @@ bool CElementInfoChoiceCol::FinishRun(const CXmlSerializationContext& context,
         return false;
     *current = result;
     return true;
-}
-
-QUILLON_PSEUDO_ATTRIBUTES_TO_XML(CElementInfoChoiceClsCol) {
-    PseudoItemAttributesToXml(context, object, writer, m_elementType);
-}
-QUILLON_PSEUDO_ATTRIBUTES_TO_XML(CElementInfoChoiceAbsClsCol) {
-    PseudoItemAttributesToXml(context, object, writer, m_elementType);
 }
 
 QUILLON_FROM_XML(CElementInfoChoiceUntpdCol) {

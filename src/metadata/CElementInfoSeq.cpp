@@ -17,7 +17,6 @@ QUILLON_VALIDATE(CElementInfoSeq) { Throw<CKzException>(messages::ValidateNotImp
 
 // Prim
 
-QUILLON_TO_XML(CElementInfoSeqPrimMnd) { return ElementToXmlPrim(context, object, writer); }
 QUILLON_FROM_XML(CElementInfoSeqPrimMnd) {
     if (ownerElementType == XmlElementType_Element)
         return !SeekElement(context, current) || TakePrimitive(object, current);
@@ -31,7 +30,6 @@ QUILLON_FROM_XML(CElementInfoSeqPrimMnd) {
     return false;
 }
 
-QUILLON_TO_XML(CElementInfoSeqPrimOpt) { return ElementToXmlPrim(context, object, writer); }
 QUILLON_FROM_XML(CElementInfoSeqPrimOpt) {
     return !IsThisElement(context, *current) || TakePrimitive(object, current);
 }
@@ -42,21 +40,16 @@ QUILLON_TO_XML(CElementInfoSeqEnumMnd) { return ElementToXmlEnum(context, object
 QUILLON_FROM_XML(CElementInfoSeqEnumMnd) {
     if (ownerElementType == XmlElementType_Element)
         return !SeekElement(context, current) || TakeEnum(object, current, m_stringToEnum);
-    // Deliberate: nothing is skipped in a group, other than by its sister for primitive values.
+    // Deliberate: nothing is skipped in a group, whereas its sister for primitive values skips.
     return IsThisElement(context, *current) && TakeEnum(object, current, m_stringToEnum);
 }
 
-QUILLON_TO_XML(CElementInfoSeqEnumOpt) { return ElementToXmlEnum(context, object, writer, m_enumToString); }
 QUILLON_FROM_XML(CElementInfoSeqEnumOpt) {
     return !IsThisElement(context, *current) || TakeEnum(object, current, m_stringToEnum);
 }
 
 // Cls
 
-QUILLON_TO_XML(CElementInfoSeqClsMnd) { return ElementToXmlCls(context, object, writer, false); }
-QUILLON_PSEUDO_ATTRIBUTES_TO_XML(CElementInfoSeqClsMnd) {
-    PseudoAttributesToXml(context, object, writer, m_elementType);
-}
 QUILLON_FROM_XML(CElementInfoSeqClsMnd) {
     if (m_elementType == XmlElementType_Element)
         return ReadElement(context, object, current, ownerElementType);
@@ -103,10 +96,6 @@ bool CElementInfoSeqClsMnd::ReadRequiredGroup(const CXmlSerializationContext& co
     return false;
 }
 
-QUILLON_TO_XML(CElementInfoSeqClsOpt) { return ElementToXmlCls(context, object, writer, false); }
-QUILLON_PSEUDO_ATTRIBUTES_TO_XML(CElementInfoSeqClsOpt) {
-    PseudoAttributesToXml(context, object, writer, m_elementType);
-}
 QUILLON_FROM_XML(CElementInfoSeqClsOpt) {
     // The object is stored after it was filled, so that a failed read leaves the property unset.
     if (m_elementType == XmlElementType_Element) {
@@ -129,10 +118,6 @@ QUILLON_FROM_XML(CElementInfoSeqClsOpt) {
 
 // AbsCls
 
-QUILLON_TO_XML(CElementInfoSeqAbsClsMnd) { return ElementToXmlCls(context, object, writer, false); }
-QUILLON_PSEUDO_ATTRIBUTES_TO_XML(CElementInfoSeqAbsClsMnd) {
-    PseudoAttributesToXml(context, object, writer, m_elementType);
-}
 QUILLON_FROM_XML(CElementInfoSeqAbsClsMnd) {
     CSmartPtr<CXmlObjectBase> child;
     if (IsThisElement(context, *current))
@@ -146,10 +131,6 @@ QUILLON_FROM_XML(CElementInfoSeqAbsClsMnd) {
     return true;
 }
 
-QUILLON_TO_XML(CElementInfoSeqAbsClsOpt) { return ElementToXmlCls(context, object, writer, false); }
-QUILLON_PSEUDO_ATTRIBUTES_TO_XML(CElementInfoSeqAbsClsOpt) {
-    PseudoAttributesToXml(context, object, writer, m_elementType);
-}
 QUILLON_FROM_XML(CElementInfoSeqAbsClsOpt) {
     if (!IsThisElement(context, *current))
         return true;
@@ -160,7 +141,6 @@ QUILLON_FROM_XML(CElementInfoSeqAbsClsOpt) {
 
 // Untpd
 
-QUILLON_TO_XML(CElementInfoSeqUntpdMnd) { return ElementToXmlCls(context, object, writer, false); }
 QUILLON_FROM_XML(CElementInfoSeqUntpdMnd) {
     // Deliberate: the end of the list is a failure even in a group, unlike for every other mandatory member.
     if (!*current)
@@ -175,7 +155,6 @@ QUILLON_FROM_XML(CElementInfoSeqUntpdMnd) {
     return true;
 }
 
-QUILLON_TO_XML(CElementInfoSeqUntpdOpt) { return ElementToXmlCls(context, object, writer, false); }
 QUILLON_FROM_XML(CElementInfoSeqUntpdOpt) {
     if (!*current)
         return true;
@@ -195,13 +174,6 @@ QUILLON_FROM_XML(CElementInfoSeqCol) {
     const CSmartPtr<CXmlCollectionBase> collection = HeldCollection(object);
     *current = ReadRun(context, collection, parent, *current);
     return HasValidCount(context, *collection, ownerElementType);
-}
-
-QUILLON_PSEUDO_ATTRIBUTES_TO_XML(CElementInfoSeqClsCol) {
-    PseudoItemAttributesToXml(context, object, writer, m_elementType);
-}
-QUILLON_PSEUDO_ATTRIBUTES_TO_XML(CElementInfoSeqAbsClsCol) {
-    PseudoItemAttributesToXml(context, object, writer, m_elementType);
 }
 
 QUILLON_FROM_XML(CElementInfoSeqUntpdCol) {

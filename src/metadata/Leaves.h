@@ -14,10 +14,6 @@
                                [[maybe_unused]] const char16_t* ownerNamespace,                              \
                                [[maybe_unused]] XmlElementType ownerElementType)
 
-#define QUILLON_PSEUDO_ATTRIBUTES_TO_XML(Class)                                                              \
-    void Class::PseudoChildAttributeToXml(const CXmlSerializationContext& context,                           \
-                                          const CXmlGeneratedClass* object, CXmlWriter* writer) const
-
 #define QUILLON_VALIDATE(Class)                                                                              \
     bool Class::Validate(const CXmlSerializationContext&, const CXmlGeneratedClass*,                         \
                          [[maybe_unused]] bool found, [[maybe_unused]] bool isElement) const

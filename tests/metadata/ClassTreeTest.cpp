@@ -55,6 +55,8 @@ static_assert(hasLeaves<CElementInfoSeqCol, Plain, CElementInfoSeqPrimCol, CElem
                         CElementInfoSeqUntpdCol>);
 static_assert(hasAbstract<CElementInfo, S> && hasAbstract<S, CElementInfoSeqNonCol>);
 
+static_assert(!Plain::builds<CElementInfoSeqPrimMnd> && !Prim::builds<CElementInfoSeqPrimCol>);
+
 using C = CElementInfoChoice;
 static_assert(hasLeaves<C, Prim, CElementInfoChoicePrimOpt>);
 static_assert(hasLeaves<C, Enum, CElementInfoChoiceEnumOpt>);

@@ -140,6 +140,8 @@ protected:
                              CXmlElement* parent, CXmlElement* current) const;
     /// Whether the descriptor takes generic elements of any name.
     bool IsAnyElement() const;
+    /// The text itself, or CKzInvalidParamException with the name of the argument if it is null.
+    static const char16_t* RequireText(const char16_t* text, const char16_t* argument);
     [[noreturn]] void FailRequired() const;
 
     std::u16string m_elementName;
@@ -168,10 +170,5 @@ private:
     bool ElementToXml(const CXmlSerializationContext& context, const CXmlGeneratedClass* object,             \
                       CXmlWriter* writer) const override;                                                    \
     QUILLON_ELEMENT_READING
-
-/// Declares the operation that leaves with objects override, whose group may put attributes on the parent.
-#define QUILLON_PSEUDO_ATTRIBUTES                                                                            \
-    void PseudoChildAttributeToXml(const CXmlSerializationContext& context,                                  \
-                                   const CXmlGeneratedClass* object, CXmlWriter* writer) const override;
 
 } // namespace KzXmlLib10Data

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <KzXmlLib10/metadata/CElementInfo.h>
+#include <KzXmlLib10/metadata/ElementKinds.h>
 
 namespace KzXmlLib10Data {
 
@@ -25,72 +25,18 @@ public:
                   bool isElement) const override;
 };
 
-class QUILLON_EXPORT CElementInfoChoicePrimOpt : public CElementInfoChoice {
-public:
-    CElementInfoChoicePrimOpt(const char16_t* name, const char16_t* namespaceUri, int propertyIndex,
-                              bool nillable, ItemType itemType, const char16_t* formatOverride,
-                              CWhitespaceUtils::WhitespaceRule whitespaceRule,
-                              const CPrimitiveRestrictions& restrictions)
-        : CElementInfoChoice(name, namespaceUri, propertyIndex, nillable, itemType, formatOverride,
-                             whitespaceRule, restrictions) {}
-    QUILLON_ELEMENT_OPERATIONS
-};
-
-class QUILLON_EXPORT CElementInfoChoiceEnumOpt : public CElementInfoChoice {
-public:
-    CElementInfoChoiceEnumOpt(const char16_t* name, const char16_t* namespaceUri, int propertyIndex,
-                              bool nillable, EnumToString enumToString, StringToEnum stringToEnum)
-        : CElementInfoChoice(name, namespaceUri, propertyIndex, nillable), m_enumToString(enumToString),
-          m_stringToEnum(stringToEnum) {}
-    QUILLON_ELEMENT_OPERATIONS
-
-private:
-    EnumToString m_enumToString;
-    StringToEnum m_stringToEnum;
-};
+QUILLON_LEAF(CElementInfoChoicePrimOpt, PrimKind, CElementInfoChoice);
+QUILLON_LEAF(CElementInfoChoiceEnumOpt, EnumKind, CElementInfoChoice);
 
 /// Stored before it is read, so that whatever runs during the reading sees the choice.
-class QUILLON_EXPORT CElementInfoChoiceClsOpt : public CElementInfoChoice {
+class QUILLON_EXPORT CElementInfoChoiceClsOpt : public ClsKind<CElementInfoChoice> {
 public:
-    CElementInfoChoiceClsOpt(const char16_t* name, const char16_t* namespaceUri, int propertyIndex,
-                             XmlElementType elementType, ClassFactory factory, int classId)
-        : CElementInfoChoice(name, namespaceUri, propertyIndex), m_elementType(elementType),
-          m_factory(factory), m_classId(classId) {}
+    using ClsKind::ClsKind;
     QUILLON_ELEMENT_OPERATIONS
-    QUILLON_PSEUDO_ATTRIBUTES
-
-private:
-    XmlElementType m_elementType;
-    ClassFactory m_factory;
-    std::int32_t m_classId;
 };
 
-class QUILLON_EXPORT CElementInfoChoiceAbsClsOpt : public CElementInfoChoice {
-public:
-    CElementInfoChoiceAbsClsOpt(const char16_t* name, const char16_t* namespaceUri, int propertyIndex,
-                                XmlElementType elementType, SubstitutionFactory substitutionFactory)
-        : CElementInfoChoice(name, namespaceUri, propertyIndex), m_elementType(elementType),
-          m_substitutionFactory(substitutionFactory) {}
-    QUILLON_ELEMENT_OPERATIONS
-    QUILLON_PSEUDO_ATTRIBUTES
-
-private:
-    XmlElementType m_elementType;
-    SubstitutionFactory m_substitutionFactory;
-};
-
-class QUILLON_EXPORT CElementInfoChoiceUntpdOpt : public CElementInfoChoice {
-public:
-    CElementInfoChoiceUntpdOpt(const char16_t* name, const char16_t* namespaceUri, int propertyIndex,
-                               const char16_t* namespaceConstraint, const char16_t* targetNamespace)
-        : CElementInfoChoice(name, namespaceUri, propertyIndex), m_namespaceConstraint(namespaceConstraint),
-          m_targetNamespace(targetNamespace) {}
-    QUILLON_ELEMENT_OPERATIONS
-
-private:
-    std::u16string m_namespaceConstraint;
-    std::u16string m_targetNamespace;
-};
+QUILLON_LEAF(CElementInfoChoiceAbsClsOpt, AbsClsKind, CElementInfoChoice);
+QUILLON_LEAF(CElementInfoChoiceUntpdOpt, UntpdKind, CElementInfoChoice);
 
 /// A repeated member. Its count is not looked at on writing.
 class QUILLON_EXPORT CElementInfoChoiceCol : public CElementInfoChoice {
@@ -105,44 +51,29 @@ protected:
                           CXmlElement* result, CXmlElement** current, XmlElementType ownerElementType);
 };
 
-class QUILLON_EXPORT CElementInfoChoiceClsCol : public CElementInfoChoiceCol {
+class QUILLON_EXPORT CElementInfoChoiceClsCol : public ObjectsKind<CElementInfoChoiceCol> {
 public:
-    CElementInfoChoiceClsCol(const char16_t* name, const char16_t* namespaceUri, int propertyIndex,
-                             XmlElementType elementType)
-        : CElementInfoChoiceCol(name, namespaceUri, propertyIndex), m_elementType(elementType) {}
-    QUILLON_PSEUDO_ATTRIBUTES
-
-private:
-    XmlElementType m_elementType;
+    using ObjectsKind::ObjectsKind;
 };
 
-class QUILLON_EXPORT CElementInfoChoiceAbsClsCol : public CElementInfoChoiceCol {
+class QUILLON_EXPORT CElementInfoChoiceAbsClsCol : public ObjectsKind<CElementInfoChoiceCol> {
 public:
-    CElementInfoChoiceAbsClsCol(const char16_t* name, const char16_t* namespaceUri, int propertyIndex,
-                                XmlElementType elementType)
-        : CElementInfoChoiceCol(name, namespaceUri, propertyIndex), m_elementType(elementType) {}
-    QUILLON_PSEUDO_ATTRIBUTES
-
-private:
-    XmlElementType m_elementType;
+    using ObjectsKind::ObjectsKind;
 };
 
 class QUILLON_EXPORT CElementInfoChoicePrimCol : public CElementInfoChoiceCol {
 public:
-    CElementInfoChoicePrimCol(const char16_t* name, const char16_t* namespaceUri, int propertyIndex)
-        : CElementInfoChoiceCol(name, namespaceUri, propertyIndex) {}
+    using CElementInfoChoiceCol::CElementInfoChoiceCol;
 };
 
 class QUILLON_EXPORT CElementInfoChoiceEnumCol : public CElementInfoChoiceCol {
 public:
-    CElementInfoChoiceEnumCol(const char16_t* name, const char16_t* namespaceUri, int propertyIndex)
-        : CElementInfoChoiceCol(name, namespaceUri, propertyIndex) {}
+    using CElementInfoChoiceCol::CElementInfoChoiceCol;
 };
 
 class QUILLON_EXPORT CElementInfoChoiceUntpdCol : public CElementInfoChoiceCol {
 public:
-    CElementInfoChoiceUntpdCol(const char16_t* name, const char16_t* namespaceUri, int propertyIndex)
-        : CElementInfoChoiceCol(name, namespaceUri, propertyIndex) {}
+    using CElementInfoChoiceCol::CElementInfoChoiceCol;
     QUILLON_ELEMENT_READING
 };
 
