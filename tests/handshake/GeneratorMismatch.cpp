@@ -5,6 +5,8 @@
 #include <KzXmlLib10/object/CXmlObjectBase.h>
 #include <KzXmlLib10/object/CXmlSerializationContext.h>
 #include <KzXmlLib10/object/Register.h>
+#include <KzXmlLib10/values/CBinaryData.h>
+#include <KzXmlLib10/xml/AsyncFiles.h>
 #include <KzXmlLib10/xml/CXmlElement.h>
 #include <KzXmlLib10/xml/CXmlWriter.h>
 
@@ -61,6 +63,20 @@ TEST(GeneratorMismatch, IsShownOnceByConstructorsAndRefusedByEveryEntryPoint) {
     ExpectRefusal([&] { object.FromXml(u"<a/>", context); });
     ExpectRefusal([&] { object.FromXml("<a/>", context); });
     ExpectRefusal([&] { object.FromXmlElement(static_cast<const CXmlElement*>(nullptr), context); });
+    ExpectRefusal([&] { object.FromXmlElement(static_cast<const CElement*>(nullptr), context); });
+    ExpectRefusal([&] { object.FromXmlFile(u"/nowhere", context); });
+    ExpectRefusal([&] { object.FromXmlStream(nullptr, 0, context); });
+    ExpectRefusal([&] { object.FromXmlStream(CBinaryData(), context); });
+    constexpr auto utf8 = XmlEncoding_UTF8;
+    constexpr auto plain = CompressionType_None;
+    ExpectRefusal([&] { object.ToXmlStream(false, false, utf8, EOLType_LF, context, plain); });
+    ExpectRefusal([&] { object.ToFastInfosetStream(FInfoDecl_None, context, plain); });
+    ExpectRefusal([&] { object.ToFastInfosetFile(u"/nowhere/x", FInfoDecl_None, context, plain); });
+    for (const bool async : {false, true}) {
+        AsyncToXmlFile(async);
+        ExpectRefusal(
+            [&] { object.ToXmlFile(u"/nowhere/x", false, false, utf8, EOLType_LF, context, plain); });
+    }
 }
 
 } // namespace

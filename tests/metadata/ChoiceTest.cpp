@@ -15,17 +15,11 @@ constexpr auto Pseudo = XmlElementType_Pseudo;
 
 const std::u16string failedR = u"Failed to process the element [r]\n";
 const std::u16string noneIn =
-    u"No child elements within the element [r] were populated. The element represents a "
-    u"choice, so one and only one element should be populated. The element contained no "
-    u"sutable child elements";
+    u"No child elements within the element [r] were populated. The element represents a choice, so one and "
+    u"only one element should be populated. The element contained no sutable child elements";
 const std::u16string noneSet =
-    u"Failed to convert the element [r] to XML\nThis element is a choice, and as such must "
-    u"have at one (and only one) valid item, currently there are none set";
-
-std::u16string LeftOver(const char16_t* name) {
-    return failedR + u"Failed read all the elements held within the element [r]. The unexpected element [" +
-           name + u"] remains un processed";
-}
+    FailedToWrite(u"r", u"This element is a choice, and as such must have at one (and only one) valid item, "
+                        u"currently there are none set");
 
 class ChoiceOfMembers : public testing::Test {
 protected:
@@ -42,12 +36,12 @@ TEST_F(ChoiceOfMembers, TakesExactlyOne) {
     EXPECT_EQ(Read(r, u"<r><c>blue</c></r>"), u"-|3|-");
     EXPECT_EQ(Read(r, u"<r><p><x>7</x></p></r>"), u"-|-|{7}");
     EXPECT_EQ(Read(r, u"<r/>"), u"-|-|-"); // its members are optional
-    EXPECT_EQ(Read(r, u"<r><a>1</a><c>red</c></r>"), LeftOver(u"c"));
-    EXPECT_EQ(Read(r, u"<r><a>1</a><a>2</a></r>"), LeftOver(u"a"));
-    EXPECT_EQ(Read(r, u"<r><u/></r>"), LeftOver(u"u"));
+    EXPECT_EQ(Read(r, u"<r><a>1</a><c>red</c></r>"), LeftOver(u"r", u"c"));
+    EXPECT_EQ(Read(r, u"<r><a>1</a><a>2</a></r>"), LeftOver(u"r", u"a"));
+    EXPECT_EQ(Read(r, u"<r><u/></r>"), LeftOver(u"r", u"u"));
     EXPECT_EQ(Read(r, u"<r><u/><c>red</c><a>2</a></r>", unknownElements), u"-|1|-");
     EXPECT_EQ(Read(r, u"<r><p><x>no</x></p></r>"),
-              failedR + u"Failed to process the element [p]\nThe value [no] can not be converted to a i4");
+              FailedToRead(u"r", FailedToRead(u"p", u"The value [no] can not be converted to a i4")));
 }
 
 TEST_F(ChoiceOfMembers, WritesTheFirstInTableOrder) {
@@ -98,7 +92,7 @@ TEST(EmptyChoice, IsAllowedInsideAnOptionalMember) {
     Model sequence(u"r");
     sequence.Class(u"inner", Opt, inner);
     EXPECT_TRUE(Read(sequence, u"<r><inner/></r>")
-                    .starts_with(failedR + u"Failed to process the element [inner]\nNo child"));
+                    .starts_with(FailedToRead(u"r", FailedToRead(u"inner", u"No child"))));
 }
 
 TEST(ChoiceOfCollections, TakesOneRunAndChecksItsCount) {
@@ -108,7 +102,7 @@ TEST(ChoiceOfCollections, TakesOneRunAndChecksItsCount) {
     r.Collection(u"a", item, 0, 2).Collection(u"b", item, 2);
     EXPECT_EQ(Read(r, u"<r><a>1</a><a>2</a></r>"), u"[{1}{2}]|[]");
     EXPECT_EQ(Read(r, u"<r><b>1</b><b>2</b><b>3</b></r>"), u"[]|[{1}{2}{3}]");
-    EXPECT_EQ(Read(r, u"<r><a>1</a><b>2</b><b>3</b></r>"), LeftOver(u"b"));
+    EXPECT_EQ(Read(r, u"<r><a>1</a><b>2</b><b>3</b></r>"), LeftOver(u"r", u"b"));
     EXPECT_EQ(Read(r, u"<r><a>1</a><a>2</a><a>3</a></r>"),
               failedR + u"The Maximum number of [a] elements allowed in this collection is 2");
     EXPECT_EQ(Read(r, u"<r><b>1</b></r>"),
@@ -129,7 +123,7 @@ TEST(ChoiceOfGroups, GivesThePositionBackAndClearsWhatItTried) {
     r.Class(u"pair", Opt, pair).Prim(u"a", Opt, ItemType_i4);
     EXPECT_EQ(Read(r, u"<r><a>1</a><b>2</b></r>"), u"{1,2}|-");
     EXPECT_EQ(Read(r, u"<r><a>1</a></r>"), u"-|1");
-    EXPECT_EQ(Read(r, u"<r><a>1</a><c/></r>"), LeftOver(u"c"));
+    EXPECT_EQ(Read(r, u"<r><a>1</a><c/></r>"), LeftOver(u"r", u"c"));
 }
 
 TEST(ChoiceOfGroups, NestsInSequencesAndChoices) {

@@ -33,12 +33,8 @@ TEST(RepeatedMember, TakesOneRunAndChecksItsCount) {
               failedR + u"The Maximum number of [a] elements allowed in this collection is 2");
     EXPECT_EQ(Read(r, u"<r><a>1</a><a>2</a><a>3</a></r>", invalidCounts), u"[{1}{2}{3}]|-");
     EXPECT_EQ(Read(r, u"<r><a>1</a><a>x</a></r>"),
-              failedR + u"Failed to process the element [a]\nThe value [x] can not be converted to a i4");
-    EXPECT_EQ(
-        Read(r, u"<r><a>1</a><b>2</b><a>3</a></r>"),
-        failedR +
-            u"Failed read all the elements held within the element [r]. The unexpected element [a] remains "
-            u"un processed");
+              FailedToRead(u"r", FailedToRead(u"a", u"The value [x] can not be converted to a i4")));
+    EXPECT_EQ(Read(r, u"<r><a>1</a><b>2</b><a>3</a></r>"), LeftOver(u"r", u"a"));
 
     // Under the flag, what stands between is skipped and the repeated member, which moved last, looks again.
     Model last(u"r");
@@ -51,8 +47,7 @@ TEST(RepeatedMember, IsCountedOnWritingInASequence) {
     Model r(u"r");
     r.Collection(u"a", item, 1);
     EXPECT_EQ(Write(*r.New()),
-              u"Failed to convert the element [r] to XML\nThe Minimum number of [a] elements allowed in "
-              u"this collection is 1");
+              FailedToWrite(u"r", u"The Minimum number of [a] elements allowed in this collection is 1"));
     CXmlSerializationContext context;
     context.SetIgnoreInvalidCollectionCounts(true);
     EXPECT_EQ(Write(*r.New(), context), u"<r/>");
@@ -87,14 +82,12 @@ TEST(Wildcard, TakesOneElementOfAnyName) {
     EXPECT_EQ(Read(r, u"<r><a>1</a></r>"), u"1|-|-");
     EXPECT_EQ(Read(r, u"<r><z>2</z></r>"), u"-|<z>2</z>|-"); // it stands first, so it takes it
 
+    EXPECT_THROW(CElementInfoSeqUntpdOpt(u"x", u"", 0, nullptr, u""), CKzInvalidParamException);
+
     Model named(u"r");
     named.Element(new CElementInfoSeqUntpdOpt(u"x", u"", 0, u"##any", u""));
     EXPECT_EQ(Read(named, u"<r><p:x xmlns:p='urn:p'/></r>"), u"<AA:x xmlns:AA=\"urn:p\"/>");
-    EXPECT_EQ(
-        Read(named, u"<r><y/></r>"),
-        failedR +
-            u"Failed read all the elements held within the element [r]. The unexpected element [y] remains "
-            u"un processed");
+    EXPECT_EQ(Read(named, u"<r><y/></r>"), LeftOver(u"r", u"y"));
 }
 
 TEST(Wildcard, MandatoryFailsInItsOwnWords) {

@@ -1,6 +1,7 @@
 #include <KzXmlLib10/object/CXmlObjectBase.h>
 
-#include <KzXmlLib10/object/CKzException.h>
+#include "support/Failure.h"
+
 #include <KzXmlLib10/object/CXmlSerializationContext.h>
 #include <KzXmlLib10/xml/CXmlElement.h>
 #include <KzXmlLib10/xml/CXmlWriter.h>
@@ -8,6 +9,7 @@
 #include <gtest/gtest.h>
 
 using namespace KzXmlLib10;
+using KzXmlLib10::support::Failure;
 
 namespace {
 
@@ -107,16 +109,11 @@ TEST(ToXml, WritesDeclarationLineEndAndRoot) {
 TEST(ToXml, FailsForBadLineEndsAndOpenElements) {
     CNote note;
     note.leaveOpen = true;
-    const auto messageOf = [&](EOLType eol) {
-        try {
-            note.ToXml(false, false, eol, Defaults());
-        } catch (const CKzException& e) {
-            return e.GetFullMessage();
-        }
-        return std::u16string();
+    const auto write = [&](EOLType eol) {
+        return Failure([&] { note.ToXml(false, false, eol, Defaults()); });
     };
-    EXPECT_EQ(messageOf(static_cast<EOLType>(2)), u"Invalid EOL type.");
-    EXPECT_EQ(messageOf(EOLType_LF), u"An Element has not been closed.");
+    EXPECT_EQ(write(static_cast<EOLType>(2)), "Invalid EOL type.");
+    EXPECT_EQ(write(EOLType_LF), "An Element has not been closed.");
 }
 
 TEST(FromXml, ReadsBytesAndWideTextAndElements) {

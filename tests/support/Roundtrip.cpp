@@ -46,6 +46,20 @@ std::u16string ShowObject(const CXmlObjectBase* object) {
 
 } // namespace
 
+std::u16string FailedToRead(const char16_t* name, const std::u16string& cause) {
+    return u"Failed to process the element [" + std::u16string(name) + u"]\n" + cause;
+}
+
+std::u16string FailedToWrite(const char16_t* name, const std::u16string& cause) {
+    return u"Failed to convert the element [" + std::u16string(name) + u"] to XML\n" + cause;
+}
+
+std::u16string LeftOver(const char16_t* owner, const char16_t* child) {
+    return FailedToRead(owner, u"Failed read all the elements held within the element [" +
+                                   std::u16string(owner) + u"]. The unexpected element [" + child +
+                                   u"] remains un processed");
+}
+
 std::u16string Show(const CModelObject& object) { return ShowProperties(object, u"|"); }
 
 std::u16string Read(const Model& model, const std::u16string& xml, Flag flag) {

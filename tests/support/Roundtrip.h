@@ -17,6 +17,13 @@ inline constexpr Flag missingChoice = &CXmlSerializationContext::SetIgnoreMissin
 inline constexpr Flag invalidCounts = &CXmlSerializationContext::SetIgnoreInvalidCollectionCounts;
 inline constexpr Flag namespaces = &CXmlSerializationContext::SetIgnoreNamespaces;
 
+/// The failure of reading an element of this name, in front of `cause`.
+std::u16string FailedToRead(const char16_t* name, const std::u16string& cause);
+/// The failure of writing an element of this name, in front of `cause`.
+std::u16string FailedToWrite(const char16_t* name, const std::u16string& cause);
+/// The failure of reading an element `owner` that has a child `child` left over.
+std::u16string LeftOver(const char16_t* owner, const char16_t* child);
+
 /// The properties of an object: values separated by |, of objects in braces and by commas, of collections in
 /// brackets, generic content as its text, "-" where there is nothing.
 std::u16string Show(const CModelObject& object);
