@@ -347,6 +347,14 @@ TEST_F(DeepObjects, StopWithAClearFailureWhateverTheStack) {
     }
 }
 
+TEST_F(DeepObjects, MayBeReadOnTheStackOfACoroutine) {
+    static const Model* model;
+    static std::u16string result;
+    model = &node;
+    support::RunAsCoroutine([] { result = Read(*model, u"<n><n><v>1</v></n></n>"); });
+    EXPECT_EQ(result, u"{-,1}|-");
+}
+
 TEST_F(DeepObjects, StopInWritingTooAlsoWhereGroupsHaveNoTags) {
     Model group(u"g", XmlElementGroupType_Sequence, XmlElementType_Pseudo);
     group.Class(u"g", Opt, group);

@@ -3,8 +3,10 @@
 #include <gtest/gtest.h>
 
 #include <cstddef>
+#include <vector>
 
 #include <pthread.h>
+#include <ucontext.h>
 
 namespace KzXmlLib10::support {
 
@@ -22,6 +24,18 @@ void RunOnStack(std::size_t bytes, Action action) {
     ASSERT_EQ(pthread_create(&thread, &attributes, run, &action), 0);
     pthread_join(thread, nullptr);
     pthread_attr_destroy(&attributes);
+}
+
+/// Runs the action as a coroutine of this thread, on a stack elsewhere.
+inline void RunAsCoroutine(void (*action)()) {
+    std::vector<char> stack(1024 * 1024);
+    ucontext_t caller, coroutine;
+    getcontext(&coroutine);
+    coroutine.uc_stack.ss_sp = stack.data();
+    coroutine.uc_stack.ss_size = stack.size();
+    coroutine.uc_link = &caller;
+    makecontext(&coroutine, action, 0);
+    swapcontext(&caller, &coroutine);
 }
 
 } // namespace KzXmlLib10::support
