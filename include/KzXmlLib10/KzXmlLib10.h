@@ -79,5 +79,6 @@
 #include <KzXmlLib10/metadata/CElementInfoChoice.h>
 #include <KzXmlLib10/metadata/CElementInfoSeq.h>
 #include <KzXmlLib10/metadata/CParentElementInfo.h>
+#include <KzXmlLib10/metadata/ElementKinds.h>
 #include <KzXmlLib10/metadata/Names.h>
 #include <KzXmlLib10/metadata/XmlElementType.h>
