@@ -149,9 +149,11 @@ void XMLCALL CExpatReader::EndElementHandler(void* reader, const XML_Char*) {
 void XMLCALL CExpatReader::StartNamespaceDeclHandler(void* reader, const XML_Char* prefix,
                                                      const XML_Char* uri) {
     Handle(reader, [=](CExpatReader& self) {
+        const std::u16string_view alias = prefix ? expat::Text(prefix) : u"";
+        const std::u16string_view value = uri ? expat::Text(uri) : u"";
+        self.m_budget.Charge(alias.size() + value.size());
         // Deliberate: one flat map for the document, where a later declaration replaces an earlier one.
-        self.m_document->m_namespaceAliases[prefix ? expat::Text(prefix) : u""] =
-            uri ? expat::Text(uri) : u"";
+        self.m_document->m_namespaceAliases[std::u16string(alias)] = value;
     });
 }
 

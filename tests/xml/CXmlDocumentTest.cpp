@@ -155,6 +155,7 @@ TEST(CXmlDocument, StopsDocumentsThatGrowWithoutBounds) {
         emptyAttributes += " b" + std::to_string(i) + " CDATA ''";
     for (const std::string& start :
          {"<!DOCTYPE r [<!ATTLIST a b CDATA '" + Repeat("0123456789", 10'000) + "'>]><r>",
+          "<!DOCTYPE r [<!ATTLIST a xmlns:b CDATA '" + Repeat("0123456789", 10'000) + "'>]><r>",
           emptyAttributes + ">]><r>", "<r xmlns='" + Repeat("0123456789", 10'000) + "'>"}) {
         const std::string xml = start + Repeat("<a/>", 1'000) + "</r>";
         EXPECT_EQ(Failure([&] { Tree(xml.c_str()); }),
