@@ -7,6 +7,9 @@ cd "$(dirname "${BASH_SOURCE[0]}")/.."
 logs=build/logs
 mkdir -p "$logs"
 
+# The lines that ctest prints about a test that passes.
+passed_test='^ +Start +[0-9]+: |^ *[0-9]+/[0-9]+ Test .* Passed '
+
 say() { printf '==> %s\n' "$*"; }
 fail() { printf 'error: %s\n' "$*" >&2; exit 1; }
 
@@ -17,7 +20,7 @@ step() {
     say "$2"
     shift 2
     if ! "$@" </dev/null >"$log" 2>&1; then
-        tail -n 200 "$log" >&2
+        grep -vE "$passed_test" "$log" | tail -n 300 >&2
         fail "that failed; the whole output is in $log"
     fi
 }
