@@ -58,6 +58,7 @@
 #include <KzXmlLib10/collections/CAttributeCol.h>
 #include <KzXmlLib10/collections/CElement.h>
 #include <KzXmlLib10/collections/CElementCol.h>
+#include <KzXmlLib10/collections/CItemVector.h>
 #include <KzXmlLib10/collections/CKzIterator.h>
 #include <KzXmlLib10/collections/CPrimitiveCol.h>
 #include <KzXmlLib10/collections/CXmlCollection.h>

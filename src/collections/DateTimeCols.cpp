@@ -6,8 +6,6 @@
 
 #include "collections/ItemIndex.h"
 
-#include <typeinfo>
-
 namespace KzXmlLib10 {
 
 namespace {
@@ -85,17 +83,17 @@ CdatetimeBaseCol::CdatetimeBaseCol(const CdatetimeBaseCol& other) = default;
 CdatetimeBaseCol& CdatetimeBaseCol::operator=(const CdatetimeBaseCol& other) = default;
 CdatetimeBaseCol::~CdatetimeBaseCol() = default;
 
-int CdatetimeBaseCol::GetCount() const { return static_cast<int>(m_items.size()); }
+int CdatetimeBaseCol::GetCount() const { return m_items.GetCount(); }
 
 void CdatetimeBaseCol::Clear() {
-    while (!m_items.empty())
+    while (m_items.GetCount() > 0)
         Remove(0);
 }
 
 void CdatetimeBaseCol::Remove(int index) {
     FireOnCollectionRemove(index); // Deliberate: also for an index that is refused below.
     RequireItemIndex(index, GetCount());
-    m_items.erase(m_items.begin() + index);
+    m_items.Remove(index);
     FireOnCollectionRemoveComplete(0); // Deliberate: 0 whatever the index.
     FireOnCollectionChange();
 }
@@ -104,14 +102,14 @@ void CdatetimeBaseCol::Add(const CDateTime& value) { AddAt(GetCount(), value); }
 
 CDateTime CdatetimeBaseCol::Item(int index) const {
     RequireItemIndex(index, GetCount());
-    return m_items[static_cast<std::size_t>(index)];
+    return m_items.Item(index);
 }
 
 void CdatetimeBaseCol::BaseAddAt(int index, const CDateTime& value) {
     CDateTime item = value; // which may be one of the vector's own, about to move
     FireOnCollectionAdd(&item);
     RequireInsertIndex(index, GetCount());
-    m_items.insert(m_items.begin() + index, item);
+    m_items.Insert(index, item);
     FireOnCollectionAddComplete(&item);
     FireOnCollectionChange();
 }
@@ -148,14 +146,6 @@ CDateTimeKindCol<Collection>&
 CDateTimeKindCol<Collection>::operator=(const CDateTimeKindCol& other) = default;
 template <class Collection>
 CDateTimeKindCol<Collection>::~CDateTimeKindCol() = default;
-
-template <class Collection>
-void CDateTimeKindCol<Collection>::Clear() {
-    // Nobody can tell the difference, except a subclass whose Remove does more.
-    if (!HasEventListeners() && typeid(*this) == typeid(Collection))
-        m_items.clear();
-    CdatetimeBaseCol::Clear();
-}
 
 template <class Collection>
 void CDateTimeKindCol<Collection>::AddAt(int index, const CDateTime& value) {

@@ -8,7 +8,6 @@
 #include "collections/ItemIndex.h"
 
 #include <type_traits>
-#include <typeinfo>
 #include <utility>
 
 /// The operations of CPrimitiveCol. The source of a family gives the facts of each of its classes and
@@ -65,7 +64,7 @@ void CPrimitiveCol<Collection, T>::AddAt(int index, T value) {
     if constexpr (!std::is_null_pointer_v<decltype(primitiveColFacts<Collection>.check)>)
         primitiveColFacts<Collection>.check(GetElementName().c_str(), value, m_restrictions);
     // Listeners still see the value afterwards; without any it is moved.
-    m_items.insert(m_items.begin() + index, HasEventListeners() ? value : std::move(value));
+    m_items.Insert(index, HasEventListeners() ? value : std::move(value));
     FireOnCollectionAddComplete(&value);
     FireOnCollectionChange();
 }
@@ -73,20 +72,17 @@ void CPrimitiveCol<Collection, T>::AddAt(int index, T value) {
 template <class Collection, class T>
 T CPrimitiveCol<Collection, T>::Item(int index) const {
     RequireItemIndex(index, GetCount());
-    return m_items[static_cast<std::size_t>(index)];
+    return m_items.Item(index);
 }
 
 template <class Collection, class T>
 int CPrimitiveCol<Collection, T>::GetCount() const {
-    return static_cast<int>(m_items.size());
+    return m_items.GetCount();
 }
 
 template <class Collection, class T>
 void CPrimitiveCol<Collection, T>::Clear() {
-    // Nobody can tell the difference, except a subclass whose Remove does more.
-    if (!HasEventListeners() && typeid(*this) == typeid(Collection))
-        m_items.clear();
-    while (!m_items.empty())
+    while (m_items.GetCount() > 0)
         Remove(0);
 }
 
@@ -94,7 +90,7 @@ template <class Collection, class T>
 void CPrimitiveCol<Collection, T>::Remove(int index) {
     FireOnCollectionRemove(index); // Deliberate: also for an index that is refused below.
     RequireItemIndex(index, GetCount());
-    m_items.erase(m_items.begin() + index);
+    m_items.Remove(index);
     FireOnCollectionRemoveComplete(0); // Deliberate: 0 whatever the index.
     FireOnCollectionChange();
 }

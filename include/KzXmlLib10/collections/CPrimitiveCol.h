@@ -1,10 +1,10 @@
 #pragma once
 
+#include <KzXmlLib10/collections/CItemVector.h>
 #include <KzXmlLib10/collections/CXmlTypeCollection.h>
 #include <KzXmlLib10/object/CInstanceMonitor.h>
 
 #include <string>
-#include <vector>
 
 namespace KzXmlLib10 {
 
@@ -17,8 +17,8 @@ namespace KzXmlLib10 {
 ///     // written as <score>7</score>
 ///
 /// `Collection` is the class itself, `T` the type of its values. The values stand in a vector: access is
-/// constant time, removal and insertion move what is behind. They are checked against the facets when they
-/// are added, from a document as from code, and not again when they are written.
+/// constant time, removal and insertion move what is behind, except that clearing is linear. They are checked
+/// against the facets when they are added, from a document as from code, and not again when they are written.
 ///
 /// Deliberate: listeners hear of an addition or removal before its index is looked at, and the end of every
 /// removal tells them the index 0. Formats are heeded by Cr4Col, Cr8Col and CdecimalCol alone.
@@ -46,7 +46,6 @@ public:
     T Item(int index) const;
 
     int GetCount() const override;
-    /// Linear time where nobody listens.
     void Clear() override;
     void Remove(int index) override;
 
@@ -64,7 +63,7 @@ protected:
     void ToXml_Int(CXmlWriter* writer, bool isRoot, const char16_t* elementNamespace,
                    const CXmlSerializationContext& context, bool isOptional) const override;
 
-    std::vector<T> m_items;
+    CItemVector<T> m_items;
 };
 
 } // namespace KzXmlLib10

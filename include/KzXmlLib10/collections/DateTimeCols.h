@@ -1,11 +1,11 @@
 #pragma once
 
+#include <KzXmlLib10/collections/CItemVector.h>
 #include <KzXmlLib10/collections/CXmlTypeCollection.h>
 #include <KzXmlLib10/object/CInstanceMonitor.h>
 #include <KzXmlLib10/values/CDateTime.h>
 
 #include <string>
-#include <vector>
 
 namespace KzXmlLib10 {
 
@@ -14,8 +14,8 @@ namespace KzXmlLib10 {
 ///     void AddToday(CdatetimeBaseCol& days) { days.Add(CDateTime(2001, 5, 12)); }
 ///
 /// Each takes values of one DTType alone. The values stand in a vector: access is constant time, removal and
-/// insertion move what is behind. They are checked against the facets when they are added, and not again when
-/// they are written.
+/// insertion move what is behind, except that clearing is linear. They are checked against the facets when
+/// they are added, and not again when they are written.
 ///
 /// Deliberate: unlike in the collections of numbers, kind and facets are checked before listeners hear of an
 /// addition; its index is checked behind that. Listeners hear of a removal before its index is looked at, and
@@ -66,7 +66,7 @@ protected:
     void ToXml_Int(CXmlWriter* writer, bool isRoot, const char16_t* elementNamespace,
                    const CXmlSerializationContext& context, bool isOptional) const override;
 
-    std::vector<CDateTime> m_items;
+    CItemVector<CDateTime> m_items;
 };
 
 /// What tells the five classes apart, written once. `Collection` is the class itself.
@@ -84,8 +84,6 @@ public:
     CDateTimeKindCol& operator=(const CDateTimeKindCol& other);
     ~CDateTimeKindCol() override;
 
-    /// Linear time where nobody listens.
-    void Clear() override;
     void AddAt(int index, const CDateTime& value) override;
 
 protected:
