@@ -172,7 +172,8 @@ TEST_F(CXmlDocumentLoad, ReportsFaultsOfReading) {
     EXPECT_EQ(FailureOf("f.xml", true), "Failed to read the contents of the file. Error [0x00000005]");
 }
 
-TEST_F(CXmlDocumentLoad, EmptiesTheTreeWhenABlockFails) {
+TEST_F(CXmlDocumentLoad, EmptiesTheTreeAndClosesTheFileWhenABlockFails) {
+    const std::ptrdiff_t descriptors = OpenDescriptors();
     AsyncFromXmlFile(true);
     const std::string xml = DocumentOfSize(2 * blockSize);
     m_dir.Write("broken.xml", xml.substr(0, blockSize / 2) + "--" + xml.substr(blockSize / 2));
@@ -180,6 +181,7 @@ TEST_F(CXmlDocumentLoad, EmptiesTheTreeWhenABlockFails) {
     EXPECT_NE(Failure([&] { broken.Load(m_dir.Path16("broken.xml").c_str()); }).find("at line"),
               std::string::npos);
     EXPECT_EQ(broken.GetDocumentElement(), nullptr);
+    EXPECT_EQ(OpenDescriptors(), descriptors);
 
     m_dir.Write("f.xml", xml + " ");
     CXmlDocument document([](CXmlElement*) -> bool { throw std::out_of_range("enough"); });
