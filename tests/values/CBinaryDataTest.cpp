@@ -20,15 +20,10 @@ namespace {
 
 TEST(CBinaryData, NoArrayAndAnEmptyArrayAreDifferent) {
     CBinaryData none, alsoNone;
-    EXPECT_EQ(none.GetData(), nullptr);
-    EXPECT_EQ(none.GetLength(), 0u);
-    EXPECT_EQ(none.GetAsBase64(), u"");
-    EXPECT_EQ(none.GetAsHexString(), u"");
-    EXPECT_EQ(none.ReleaseData(), nullptr);
-    EXPECT_TRUE(none == alsoNone);
+    EXPECT_TRUE(none == alsoNone && !none.GetData() && none.GetLength() == 0 && !none.ReleaseData());
+    EXPECT_EQ(none.GetAsBase64() + none.GetAsHexString(), u"");
     for (const CBinaryData& empty : {ToBinary(""), CBinaryData(u""), CBinaryData(nullptr, 0, true)}) {
-        EXPECT_TRUE(none != empty);
-        EXPECT_TRUE(empty == ToBinary(""));
+        EXPECT_TRUE(none != empty && empty == ToBinary(""));
         EXPECT_EQ(empty.GetAsHexString(), u"");
     }
     none.Append(alsoNone);
@@ -72,17 +67,14 @@ TEST(CBinaryData, AnAdoptedArrayGoesWithTheLastHandle) {
 TEST(CBinaryData, AppendsItselfAndPiecesOfItself) {
     CBinaryData adopted(new unsigned char[3]{'a', 'b', 'c'}, 3, true); // full, so that each step moves it
     adopted.Append(adopted);
-    EXPECT_EQ(FromBinary(adopted), "abcabc");
     adopted.Append(adopted.GetData() + 4, 2);
     EXPECT_EQ(FromBinary(adopted), "abcabcbc");
     const CBinaryData shared = adopted;
     adopted.Append(adopted.GetData(), 1);
-    EXPECT_EQ(FromBinary(adopted), "abcabcbca");
     adopted.Append(shared);
     EXPECT_EQ(FromBinary(adopted), "abcabcbcaabcabcbc");
     adopted.SetBuffer(adopted.GetData() + 1, 2);
-    EXPECT_EQ(FromBinary(adopted), "bc");
-    EXPECT_EQ(FromBinary(shared), "abcabcbc");
+    EXPECT_EQ(FromBinary(adopted) + FromBinary(shared), "bcabcabcbc");
 }
 
 TEST(CBinaryData, AppendsTextAsLittleEndianUnitsWithoutTerminator) {
@@ -98,12 +90,9 @@ TEST(CBinaryData, AppendsTextAsLittleEndianUnitsWithoutTerminator) {
 TEST(CBinaryData, GrowsByteByByteAcrossItsCapacity) {
     CBinaryData data;
     std::string expected;
-    for (int i = 0; i < 40000; ++i) {
-        data.Append(static_cast<unsigned char>(i * 7));
-        expected += static_cast<char>(i * 7);
-    }
-    EXPECT_TRUE(data == ToBinary(expected));
-    EXPECT_TRUE(data != ToBinary(expected + "x"));
+    for (int i = 0; i < 40000; ++i)
+        data.Append(static_cast<unsigned char>(expected += static_cast<char>(i * 7), expected.back()));
+    EXPECT_TRUE(data == ToBinary(expected) && data != ToBinary(expected + "x"));
     expected[20000] ^= 1;
     EXPECT_TRUE(data != ToBinary(expected));
 }
@@ -119,16 +108,6 @@ TEST(CBinaryData, IndexEqualToTheLengthIsASpareByte) {
     EXPECT_EQ(Failure([&] { data[3] = 0; }), "Index Out of range [3]");
     EXPECT_EQ(Failure([&] { (void)view[3]; }), "Index Out of range [3]");
     EXPECT_EQ(Failure([] { (void)CBinaryData()[0]; }), "Index Out of range [0]");
-}
-
-TEST(CBinaryData, HexadecimalText) {
-    CBinaryData data;
-    data.SetAsHexString(u"0123456789abcdefABCDEF");
-    EXPECT_TRUE(data == ToBinary("\x01\x23\x45\x67\x89\xab\xcd\xef\xab\xcd\xef"));
-    EXPECT_EQ(data.GetAsHexString(), u"0123456789ABCDEFABCDEF");
-    data.SetAsHexString(u"");
-    EXPECT_TRUE(data == ToBinary(""));
-    EXPECT_EQ(CBinaryData::GetAsHexString(nullptr, 5), u"");
 }
 
 TEST(CBinaryData, BadHexadecimalTextThrowsAndLeavesTheObjectEmpty) {
@@ -149,32 +128,35 @@ TEST(CBinaryData, BadHexadecimalTextThrowsAndLeavesTheObjectEmpty) {
     }
 }
 
-TEST(CBinaryData, Base64BothWays) {
+TEST(CBinaryData, Base64AndHexadecimalTextBothWays) {
     const struct {
         const char* bytes;
-        const char16_t* text;
-    } rows[] = {
-        {"", u""}, {"f", u"Zg=="}, {"fo", u"Zm8="}, {"foo", u"Zm9v"}, {"\xfb\xff\xbf\xfe", u"+/+//g=="}};
-    for (const auto& row : rows) {
-        CBinaryData data;
-        data.SetAsBase64(row.text);
-        EXPECT_TRUE(data == ToBinary(row.bytes)) << row.bytes;
-        EXPECT_EQ(ToBinary(row.bytes).GetAsBase64(), row.text);
+        const char16_t *base64, *hex;
+    } rows[] = {{"", u"", u""},
+                {"f", u"Zg==", u"66"},
+                {"fo", u"Zm8=", u"666F"},
+                {"foo", u"Zm9v", u"666F6F"},
+                {"\xfb\xff\xbf\xfe", u"+/+//g==", u"FBFFBFFE"},
+                {"\x01\x23\x45\x67\x89\xab\xcd\xef", u"ASNFZ4mrze8=", u"0123456789ABCDEF"}};
+    CBinaryData data;
+    for (const auto& [bytes, base64, hex] : rows) {
+        data.SetAsBase64(base64);
+        EXPECT_EQ(FromBinary(data), bytes);
+        EXPECT_EQ(data.GetAsBase64(), base64);
+        data.SetAsHexString(hex);
+        EXPECT_TRUE(data == ToBinary(bytes)) << bytes;
+        EXPECT_EQ(data.GetAsHexString(), hex);
     }
-    const std::string longBytes(1000, '\xa5');
-    const std::u16string longText = ToBinary(longBytes).GetAsBase64();
+    data.SetAsHexString(u"abcdef");
+    EXPECT_EQ(FromBinary(data), "\xab\xcd\xef");
+    EXPECT_EQ(CBinaryData::GetAsHexString(nullptr, 5), u"");
+    const std::u16string longText = ToBinary(std::string(1000, '\xa5')).GetAsBase64();
     EXPECT_EQ(longText.size(), 1336u);
     EXPECT_EQ(longText.find_first_of(u"\r\n "), std::u16string::npos);
-    CBinaryData back;
-    back.SetAsBase64(longText);
-    EXPECT_EQ(FromBinary(back), longBytes);
 }
 
 TEST(CBinaryData, LooseBase64IsAcceptedSilently) {
-    const struct {
-        std::u16string text;
-        const char* bytes;
-    } rows[] = {
+    const std::pair<std::u16string, const char*> rows[] = {
         {u" Zm\r\n9v\tYmFy ", "foobar"},
         {u"Zg==Zg==", "f\x06`"},
         {u"Zm9vYg", "foob"},
@@ -185,10 +167,10 @@ TEST(CBinaryData, LooseBase64IsAcceptedSilently) {
         {std::u16string(u"Zm\0v", 4), ""},
         {u"\u015a\u016d\u20b9\u0176", "foo"}, // low seven bits: Z m 9 v
     };
-    for (const auto& row : rows) {
+    for (const auto& [text, bytes] : rows) {
         CBinaryData data = ToBinary("old");
-        data.SetAsBase64(row.text);
-        EXPECT_TRUE(data == ToBinary(row.bytes)) << ToUtf8(row.text);
+        data.SetAsBase64(text);
+        EXPECT_TRUE(data == ToBinary(bytes)) << ToUtf8(text);
     }
 }
 
@@ -196,9 +178,8 @@ TEST(CBinaryData, RefusesNullAndWhatDoesNotFit32Bits) {
     unsigned char byte = 1;
     CBinaryData data = ToBinary("abc");
     const std::string tooLong = "Binary data cannot hold more than 4294967295 bytes";
-    EXPECT_EQ(Failure([&] { data.Append(&byte, 1ul << 32); }), tooLong);
-    EXPECT_EQ(Failure([&] { data.Append(&byte, (1ul << 32) - 3); }), tooLong);
-    EXPECT_EQ(Failure([&] { data.Append(&byte, ~0ul); }), tooLong);
+    for (const std::size_t length : {(1ul << 32) - 3, 1ul << 32, ~0ul})
+        EXPECT_EQ(Failure([&] { data.Append(&byte, length); }), tooLong);
     EXPECT_EQ(Failure([&] { data.SetBuffer(&byte, 1ul << 32); }), tooLong);
     EXPECT_EQ(Failure([&] { CBinaryData(&byte, 1ul << 32, true); }), tooLong);
     EXPECT_THROW(data.Append(static_cast<const char16_t*>(nullptr)), CKzInvalidParamException);

@@ -10,6 +10,7 @@
 #include <limits>
 #include <optional>
 #include <string>
+#include <utility>
 
 using namespace KzXmlLib10;
 
@@ -31,8 +32,6 @@ public:
         m_held ? setenv("TZ", m_held->c_str(), 1) : unsetenv("TZ");
         tzset();
     }
-    TimeZone(const TimeZone&) = delete;
-    TimeZone& operator=(const TimeZone&) = delete;
 
 private:
     std::optional<std::string> m_held;
@@ -51,22 +50,18 @@ std::string FromFileTime(unsigned long long ticks) {
 }
 
 TEST(CDateTimeClock, TimesAreReadAsUtcInEveryTimeZone) {
-    const struct {
-        long long time;
-        const char16_t* text;
-    } rows[] = {{0, u"1970-01-01T00:00:00"},
-                {-1, u"1969-12-31T23:59:59"},
-                {951782399, u"2000-02-28T23:59:59"},
-                {951782400, u"2000-02-29T00:00:00"},
-                {1234567890, u"2009-02-13T23:31:30"},
-                {253402300799, u"9999-12-31T23:59:59"},
-                {-62135596800, u"0001-01-01T00:00:00"},
-                {-377705116800, u"-9999-01-01T00:00:00"}};
+    const std::pair<long long, const char16_t*> rows[] = {{0, u"1970-01-01T00:00:00"},
+                                                          {-1, u"1969-12-31T23:59:59"},
+                                                          {951782399, u"2000-02-28T23:59:59"},
+                                                          {951782400, u"2000-02-29T00:00:00"},
+                                                          {253402300799, u"9999-12-31T23:59:59"},
+                                                          {-62135596800, u"0001-01-01T00:00:00"},
+                                                          {-377705116800, u"-9999-01-01T00:00:00"}};
     for (const char* name : {"UTC", "EAST-11:30", "WEST5DST"}) {
         const TimeZone zone(name);
-        for (const auto& row : rows) {
-            EXPECT_EQ(FromTime(row.time), ToUtf8(row.text));
-            EXPECT_EQ(CDateTime(row.text).GetTime(), row.time);
+        for (const auto& [time, text] : rows) {
+            EXPECT_EQ(FromTime(time), ToUtf8(text));
+            EXPECT_EQ(CDateTime(text).GetTime(), time);
         }
     }
 }
@@ -131,14 +126,14 @@ TEST(CDateTimeClock, FileTimes) {
 
 TEST(CDateTimeClock, TheDayOfTheWeekIsLocal) {
     const CDateTime saturday(2000, 1, 1);
-    {
-        const TimeZone zone("UTC");
-        EXPECT_EQ(saturday.GetDayOfWeek(), 7);
-        EXPECT_EQ(CDateTime(2000, 1, 2, 23, 59, 59).GetDayOfWeek(), 1);
-        EXPECT_EQ(CDateTime(1969, 12, 31).GetDayOfWeek(), 4);
-    }
-    const TimeZone zone("WEST5");
-    EXPECT_EQ(saturday.GetDayOfWeek(), 6);
+    const auto day = [](const char* name, const CDateTime& value) {
+        const TimeZone zone(name);
+        return value.GetDayOfWeek();
+    };
+    EXPECT_EQ(day("UTC", saturday), 7);
+    EXPECT_EQ(day("UTC", CDateTime(2000, 1, 2, 23, 59, 59)), 1);
+    EXPECT_EQ(day("UTC", CDateTime(1969, 12, 31)), 4);
+    EXPECT_EQ(day("WEST5", saturday), 6);
     EXPECT_EQ(Forbidden([] { CDateTime().GetDayOfWeek(); }),
               "Failed to GetDayOfWeek. Invalid Date Type: yearZero.");
 }
