@@ -41,15 +41,9 @@ CBinaryData Concatenated(const std::string& head, const CBinaryData& piece, std:
     return bytes;
 }
 
-struct Row {
-    /// What stands behind the identification and the byte of options. Behind a "@", the attributes of a root
-    /// "a"; behind a ".", its content.
-    std::string bytes;
-    std::string result;
-};
-
-template <std::size_t N>
-void Check(const Row (&rows)[N]) {
+/// Compares what is read of the bytes behind the identification and the byte of options. Behind a "@" stand
+/// the attributes of a root "a"; behind a ".", its content.
+void Check(std::initializer_list<std::pair<std::string, std::string>> rows) {
     for (const auto& [bytes, result] : rows) {
         const std::string body = bytes[0] == '@'   ? "7C 00 'a'" + bytes.substr(1) + "FF F0"
                                  : bytes[0] == '.' ? "3C 00 'a'" + bytes.substr(1) + "FF"
@@ -60,7 +54,7 @@ void Check(const Row (&rows)[N]) {
 
 TEST(CFastInfosetReader, ReadsNamesInAllForms) {
     const std::string literal = "3F 00 'p' 04 'urn:p' 00 'a'";
-    const Row rows[] = {
+    Check({
         {"3C 00 'a' FF", "a"},
         {"3D 04 'urn:p' 00 'a' FF", "{urn:p}a"},
         {literal + "FF", "{urn:p}a"},
@@ -72,21 +66,24 @@ TEST(CFastInfosetReader, ReadsNamesInAllForms) {
         {"@ 7B 00 'p' 04 'urn:p' 00 'b' 40 '1' 00 80 79 81 80 FF", "a[@{urn:p}b=1 @{urn:p}b=1 @{urn:p}a=]"},
         {"3C 02 62 00 63 FF", "b"}, // a name ends at a zero
         {"3C 02 62 C0 63 FF", "b"}, // and at malformed UTF-8
-    };
-    Check(rows);
+    });
 }
 
-TEST(CFastInfosetReader, KeepsTheLastDeclarationOfAPrefix) {
-    CXmlDocument document;
+TEST(CFastInfosetReader, KeepsTheLastDeclarationOfAPrefixAndLeavesTheCallbackForElementsAlone) {
+    CXmlDocument document([](CXmlElement*) { return true; });
     Load(document, HexBytes(start + "38 CD 04 'urn:d' CF 00 'p' 04 'urn:p' F0 3C 00 'a'"
                                     "38 CF 81 81 CE 00 'q' F0 00 FF F0"));
     EXPECT_EQ(document.LookupNamespaceFromAlias(u""), u"urn:d");
     EXPECT_EQ(document.LookupNamespaceFromAlias(u"p"), u"urn:d");
     EXPECT_EQ(document.LookupNamespaceFromAlias(u"q"), u"");
+    EXPECT_EQ(DumpTree(document.GetDocumentElement()), "a[a]");
+    const CSmartPtr<ScriptedObject> object = new ScriptedObject("");
+    EXPECT_EQ(Failure([&] { object->FromXmlStream(HexBytes(start + "F0"), defaults); }),
+              "Invalid or empty XML document");
 }
 
 TEST(CFastInfosetReader, ReadsValuesInAllForms) {
-    const Row rows[] = {
+    Check({
         {"@ 78 00 'b' 00 'v'", "a[@b=v]"},
         {"@ 78 00 'b' FF", "a[@b=]"},
         {"@ 78 00 'b' 00 'u' 00 40 'v' 00 00 'w' 00 40 'x' 00 80 00 81", // some of them for the table
@@ -99,23 +96,18 @@ TEST(CFastInfosetReader, ReadsValuesInAllForms) {
         {". 82 00 'x' 0D 'y'", "a[\"xy\"]"},        // carriage returns go
         {". 82 00 'x' 00 'y' 80 'z'", "a[\"xz\"]"}, // a piece of text ends at a zero
         {". 82 00 'x' C0 'y' 80 'z'", "a[\"xz\"]"}, // and at malformed UTF-8
-    };
-    Check(rows);
+    });
 }
 
 TEST(CFastInfosetReader, DecodesEveryAlgorithmAndAlphabet) {
     const std::string noAlphabet = "Invalid Encoding of Restricted Alphabet. Alphabet must contain between 2 "
                                    "and 2^20 characters.";
     const std::string uuid = "00112233445566778899AABBCCDDEEFF";
-    const Row rows[] = {
+    Check({
         {"@ 78 00 'b' 70 01 0AFF", "a[@b=0AFF]"},
         {"@ 78 00 'b' 70 12 0AFF01", "a[@b=Cv8B]"},
         {"@ 78 00 'b' 70 23 FFFE0001", "a[@b=-2 1]"},
-        {"@ 78 00 'b' 70 33 80000000", "a[@b=-2147483648]"},
-        {"@ 78 00 'b' 70 47 7FFFFFFFFFFFFFFF", "a[@b=9223372036854775807]"},
         {"@ 78 00 'b' 70 50 38", "a[@b=true]"},
-        {"@ 78 00 'b' 70 63 3FC00000", "a[@b=0.7470588]"}, // the first byte stands for all four
-        {"@ 78 00 'b' 70 77 3FF8000000000000", "a[@b=1.5]"},
         {"@ 78 00 'b' 70 88 07" + uuid, "a[@b=" + uuid + "]"},
         {"@ 78 00 'b' 70 91 C3A9", "a[@b=\u00E9]"},
         {"@ 78 00 'b' 60 01 A12D", "a[@b=-12e]"},
@@ -131,20 +123,18 @@ TEST(CFastInfosetReader, DecodesEveryAlgorithmAndAlphabet) {
         {". 8B FC 00", noAlphabet},
         {"@ 78 00 'b' 11 0041", "Unsupported Feature UTF16BE string."},
         {". 85 0041", "Unsupported Feature UTF16BE string."},
-    };
-    Check(rows);
+    });
 }
 
 TEST(CFastInfosetReader, EndsStandAloneOrInPairs) {
-    const Row rows[] = {
+    Check({
         {"3C 00 'a' 00 F0 F0 F0", "a[a]"},
         {"3C 00 'a' 00 00 FF 00 FF", "a[a[a] a]"},
         {"3C 00 'a' 00 FF", "a[a]"},                          // what follows the root is not looked at
         {"7C 00 'a' 78 00 'b' FF F0 FF", "a[@b=]"},           // of the attributes; of element and document
         {"3C 00 'a' 7C 80 78 80 FF FF 00 FF", "a[a[@a=] a]"}, // of attributes and element
         {"7C 00 'a' F0 F0", "a"},
-    };
-    Check(rows);
+    });
 }
 
 /// One with all optional components, and each of their optional parts once there and once not.
@@ -171,13 +161,13 @@ const std::string everything =
 TEST(CFastInfosetReader, ReadsPastWhatItDoesNotKeep) {
     EXPECT_EQ(Read(HexBytes("E0 00 00 01" + everything)),
               "{urn:d}a[@b=value @{urn:d}c=value @b=1Z  \"text\" x[\"text7\"] {urn:d}a[{urn:d}a[@b=]]]");
-    const Row rows[] = {
-        {"C4 F0 3C 00 'a' FF", "a"},    {"C6 00 's' 3C 00 'a' FF", "a"}, // a document type without its end
-        {"D5 E0 C3 3C 00 'a' FF", "a"},                                  // unknown items
-        {"F0 3C 00 'a' FF", "null"},                                     // the end of the document
+    Check({
+        {"C4 F0 3C 00 'a' FF", "a"},
+        {"C6 00 's' 3C 00 'a' FF", "a"}, // a document type without its end
+        {"D5 E0 C3 3C 00 'a' FF", "a"},  // unknown items
+        {"F0 3C 00 'a' FF", "null"},     // the end of the document
         {"E2 00 'c' FF", "null"},
-    };
-    Check(rows);
+    });
     const std::string head = "E0 00 00 01";
     CBinaryData manyItems = Concatenated(head + "40 800000", HexBytes("00 'u' 00 'd'"), 129);
     manyItems.Append(HexBytes("3C 00 'a' FF"));
@@ -194,7 +184,7 @@ TEST(CFastInfosetReader, RefusesWhatHasNoMeaning) {
     const std::string octets = "Invalid NonEmptyOctetString type  on the ";
     const std::string from1 = "Invalid Encoding of integers 1 To 2^20 type  on the ";
     const std::string from0 = "Invalid Encoding of integers 0 To 2^20 type  on the ";
-    const Row rows[] = {
+    Check({
         {"3E 00 'p' 00 'a' FF", "Invalid QName type Prefix without Namespace."},
         {"3C 41", octets + "second bit of an octet."},
         {"@ 78 00 'b' 09", octets + "fifth bit of an octet."},
@@ -208,8 +198,7 @@ TEST(CFastInfosetReader, RefusesWhatHasNoMeaning) {
         {"3C 60 FFFFFFFF 'a'", "Unexpected End of File."}, // 2^32 + 320 bytes, which are not 320
         {"@ 78 00 'b' 0C FFFFFFFF", "Unexpected End of File."},
         {". 83 FFFFFFFF", "Unexpected End of File."},
-    };
-    Check(rows);
+    });
 }
 
 TEST(CFastInfosetReader, ChecksEveryIndexAgainstItsTable) {
@@ -231,18 +220,6 @@ TEST(CFastInfosetReader, RecognisesDocumentsByTheirFirstBytes) {
     const std::string declared = "<?xml version='1.0' encoding='finf'?>\xE0\0\0\1";
     for (std::size_t length = 1; length <= declared.size(); ++length)
         EXPECT_TRUE(Read(ToBinary(declared.substr(0, length))).ends_with(" at line 1")) << length;
-}
-
-TEST(CFastInfosetReader, ADocumentWithoutARootFillsNoObject) {
-    const CSmartPtr<ScriptedObject> object = new ScriptedObject("");
-    EXPECT_EQ(Failure([&] { object->FromXmlStream(HexBytes(start + "F0"), defaults); }),
-              "Invalid or empty XML document");
-}
-
-TEST(CFastInfosetReader, LeavesTheCallbackForElementsAlone) {
-    CXmlDocument document([](CXmlElement*) { return true; });
-    Load(document, HexBytes(start + "3C 00 'a' 3C 00 'b' FF F0"));
-    EXPECT_EQ(DumpTree(document.GetDocumentElement()), "a[b]");
 }
 
 TEST(CFastInfosetReader, DamagedDocumentsAreReadOrRefused) {
@@ -278,10 +255,10 @@ std::string ReadReferences(const std::string& head, std::size_t more, const std:
     CBinaryData bytes = Concatenated(start + head + "00010000", HexBytes("78"), 65536 + more);
     bytes.Append(Concatenated("", HexBytes(reference), count));
     const std::string limit = std::to_string((64ull << 20) + 256ull * bytes.GetLength());
+    const std::string refused =
+        "The names, values and texts of the document come to more than " + limit + " bytes";
     const std::string result = Read(bytes);
-    return result == "The names, values and texts of the document come to more than " + limit + " bytes"
-               ? "refused"
-               : result;
+    return result == refused ? "refused" : result;
 }
 
 TEST(CFastInfosetReader, WhatReferencesAddIsLimited) {
@@ -318,20 +295,17 @@ TEST(CFastInfosetReader, ObjectsComeBackAsTheyWent) {
         .Attribute(u"on", kit::Optional, ItemType_boolean)
         .Prim(u"name", kit::Mnd, ItemType_string)
         .Prim(u"weight", kit::Mnd, ItemType_r8)
-        .Prim(u"small", kit::Opt, ItemType_ui1)
         .Prim(u"big", kit::Opt, ItemType_ui8, true)
         .Prim(u"none", kit::Opt, ItemType_i8, true)
         .Prim(u"price", kit::Opt, ItemType_decimal)
         .Prim(u"at", kit::Opt, ItemType_datetime)
-        .Prim(u"image", kit::Opt, ItemType_base64Binary)
-        .Prim(u"hash", kit::Opt, ItemType_hexBinary)
-        .Prim(u"span", kit::Opt, ItemType_duration);
+        .Prim(u"image", kit::Opt, ItemType_base64Binary);
     const CSmartPtr<kit::CModelObject> object = item.New();
     object->FromXml(
         u"<item xmlns='urn:i' xmlns:i='http://www.w3.org/2001/XMLSchema-instance' id='-7' on='true'>"
-        u"<name>K\u00E4se &amp; Brot</name><weight>0.1</weight><small>200</small>"
+        u"<name>K\u00E4se &amp; Brot</name><weight>0.1</weight>"
         u"<big>9223372036854775807</big><none i:nil='true'/><price>12.50</price>"
-        u"<at>2024-02-29T12:30:00Z</at><image>AAEC</image><hash>00FF</hash><span>P1DT2H</span></item>",
+        u"<at>2024-02-29T12:30:00Z</at><image>AAEC</image></item>",
         defaults);
 
     CXmlSerializationContext suggested;
@@ -339,7 +313,6 @@ TEST(CFastInfosetReader, ObjectsComeBackAsTheyWent) {
     CXmlSerializationContext prepared = suggested;
     prepared.GetFIContext().GetVocabulary().AddElement(u"", u"", u"name");
     prepared.GetFIContext().GetVocabulary().AddAttribute(u"", u"", u"id");
-    prepared.GetFIContext().GetVocabulary().AddElementValue(u"18");
     prepared.GetFIContext().SetUseGeneratedVocabulary(true);
     for (const CXmlSerializationContext& context : {defaults, suggested, prepared}) {
         const CSmartPtr<kit::CModelObject> copy = item.New();

@@ -22,6 +22,7 @@ constexpr auto ByAlgorithm = CFastInfosetContext::EncodingType_Algorithm;
 
 const CXmlSerializationContext defaults;
 const std::string header = "E0 00 00 01 00";
+const std::string root = header + "38 F0 3C 00 'a'", withAttributes = header + "78 F0 3C 00 'a'";
 const std::string xsi = "28 'http://www.w3.org/2001/XMLSchema-instance'";
 
 std::string Hex(const CBinaryData& data) { return ToUtf8(data.GetAsHexString()); }
@@ -57,17 +58,16 @@ TEST(CFastInfosetWriter, WritesElementsAttributesAndText) {
 }
 
 TEST(CFastInfosetWriter, EndsShareAByteInPairs) {
-    const std::string start = header + "38 F0 3C 00 'a'";
-    EXPECT_EQ(Write("<a >"), Hex(start + "FF")); // root and document
-    EXPECT_EQ(Write("<a <a > >"), Hex(start + "00 FF F0"));
-    EXPECT_EQ(Write("<a <a <a > > <a > >"), Hex(start + "00 00 FF 00 FF F0"));
+    EXPECT_EQ(Write("<a >"), Hex(root + "FF")); // root and document
+    EXPECT_EQ(Write("<a <a > >"), Hex(root + "00 FF F0"));
+    EXPECT_EQ(Write("<a <a <a > > <a > >"), Hex(root + "00 00 FF 00 FF F0"));
     // Text behind a child comes without the mark that ends the child.
-    EXPECT_EQ(Write("<a <a > 'x >"), Hex(start + "00 90 'x' FF F0"));
+    EXPECT_EQ(Write("<a <a > 'x >"), Hex(root + "00 90 'x' FF F0"));
 }
 
 TEST(CFastInfosetWriter, ShortValuesGoToTheTables) {
     const std::string words = "<a @b=12345 @c=123456 @d=12345 @e=123456 '12345 '123456 '12345 '123456 >";
-    const std::string start = header + "78 F0 3C 00 'a' 78 00 'b' 44 '12345' 78 00 'c'";
+    const std::string start = withAttributes + "78 00 'b' 44 '12345' 78 00 'c'";
     EXPECT_EQ(Write(words), Hex(start + "05 '123456'  78 00 'd' 80  78 00 'e' 05 '123456'  F0"
                                         "92 02 '12345' 82 03 '123456'  A0 82 03 '123456'  FF"));
     CXmlSerializationContext context;
@@ -93,22 +93,17 @@ TEST(CFastInfosetWriter, NamespaceAttributesStandOnTheRootOnly) {
 }
 
 TEST(CFastInfosetWriter, XsiTypeHasTwoFormsForPrefixes) {
-    EXPECT_EQ(Write("<a type=T nil >"), // in no namespace
-              Hex(header + "78 F0 3C 00 'a' 7B 01 'AA'" + xsi +
-                  "03 'type' 40 'T'  7B 81 81 02 'nil' 43 'true'  F0 FF"));
+    EXPECT_EQ(
+        Write("<a type=T nil >"), // in no namespace
+        Hex(withAttributes + "7B 01 'AA'" + xsi + "03 'type' 40 'T'  7B 81 81 02 'nil' 43 'true'  F0 FF"));
     EXPECT_EQ(Write("+p=urn:p <a type={urn:p}T >"), // the prefix of the type with the namespace of xsi
               Hex(header + "78 CF 00 'p' 04 'urn:p' F0 3C 00 'a' 7B 81" + xsi + "03 'type' 42 'p:T' F0 FF"));
     EXPECT_EQ(Write("<a type={urn:p}T >"), // the name and namespace of the type itself
-              Hex(header + "78 F0 3C 00 'a' 7B 01 'AA' 04 'urn:p' 00 'T' 43 'AA:T' F0 FF"));
+              Hex(withAttributes + "7B 01 'AA' 04 'urn:p' 00 'T' 43 'AA:T' F0 FF"));
 }
 
 TEST(CFastInfosetWriter, EncodesValuesByKind) {
-    struct Row {
-        Encoding encoding;
-        const char* value;
-        const char* bytes;
-    };
-    const Row rows[] = {
+    const std::tuple<Encoding, std::string, std::string> rows[] = {
         {{ByAlgorithm, 1}, "0aff", "9C 01 0AFF"},
         {{ByAlgorithm, 2}, "Cv8B", "9C 06 00 0AFF01"},
         {{ByAlgorithm, 3}, "-2", "9C 09 FFFE"},
@@ -119,25 +114,23 @@ TEST(CFastInfosetWriter, EncodesValuesByKind) {
         {{ByAlgorithm, 8}, "1.5", "9C 1E 05 3FF8000000000000"},
         {{ByAlgorithm, 9}, "ab", "9C 20 AB"},
         {{ByAlgorithm, 10}, "\u00E9", "9C 25 C3A9"},
-        {{ByAlphabet, 1}, "-12e", "98 01 A12D"}, // two to a byte
-        {{ByAlphabet, 1}, "-1.", "98 01 A1CF"},  // F pads
-        {{ByAlphabet, 2}, "1Z:", "98 05 1DBF"},
-    };
-    for (const Row& row : rows) {
+        {{ByAlphabet, 1}, "-12e", "98 01 A12D"},
+        {{ByAlphabet, 1}, "-1.", "98 01 A1CF"}, // two to a byte; F pads
+        {{ByAlphabet, 2}, "1Z:", "98 05 1DBF"}};
+    for (const auto& [encoding, value, bytes] : rows) {
         // The second time by its index, whatever its kind.
-        const std::string words = "<a \"" + std::string(row.value) + " '" + row.value + " >";
-        EXPECT_EQ(Write(words, WithEncoding(row.encoding, ItemType_char)),
-                  Hex(header + "38 F0 3C 00 'a'" + row.bytes + "A0 FF"));
+        const std::string words = "<a \"" + value + " '" + value + " >";
+        EXPECT_EQ(Write(words, WithEncoding(encoding, ItemType_char)), Hex(root + bytes + "A0 FF"));
     }
     EXPECT_EQ(Write("<a @b=7 @c=7654321 >", WithEncoding({ByAlgorithm, 4})),
-              Hex(header + "78 F0 3C 00 'a'  78 00 'b' 70 33 00000007  78 00 'c' 30 33 0074CBB1  F0 FF"));
+              Hex(withAttributes + " 78 00 'b' 70 33 00000007  78 00 'c' 30 33 0074CBB1  F0 FF"));
     EXPECT_EQ(Write("<a @b=1Z >", WithEncoding({ByAlphabet, 2})),
-              Hex(header + "78 F0 3C 00 'a'  78 00 'b' 60 10 1D  F0 FF"));
+              Hex(withAttributes + " 78 00 'b' 60 10 1D  F0 FF"));
 }
 
 TEST(CFastInfosetWriter, ValuesWithoutBytesAreEmpty) {
     EXPECT_EQ(Write("<a @b=!! '!! \"t >", WithEncoding({ByAlgorithm, 2})),
-              Hex(header + "78 F0 3C 00 'a' 78 00 'b' FF F0 90 't' FF"));
+              Hex(withAttributes + "78 00 'b' FF F0 90 't' FF"));
     const ScriptedObject loneSurrogate([](CXmlWriter& writer) {
         writer.StartElement(u"a", u"");
         writer.WriteAttribute(u"b", u"", u"\xD800x", ItemType_string);
@@ -145,7 +138,7 @@ TEST(CFastInfosetWriter, ValuesWithoutBytesAreEmpty) {
         writer.WriteText(u"t", ItemType_string);
         writer.EndElement();
     });
-    EXPECT_EQ(Hex(loneSurrogate.Written()), Hex(header + "78 F0 3C 00 'a' 78 00 'b' FF F0 90 't' FF"));
+    EXPECT_EQ(Hex(loneSurrogate.Written()), Hex(withAttributes + "78 00 'b' FF F0 90 't' FF"));
 }
 
 TEST(CFastInfosetWriter, RefersToAVocabularyThatBothEndsKnow) {

@@ -90,8 +90,10 @@ TEST(CBinaryData, AppendsTextAsLittleEndianUnitsWithoutTerminator) {
 TEST(CBinaryData, GrowsByteByByteAcrossItsCapacity) {
     CBinaryData data;
     std::string expected;
-    for (int i = 0; i < 40000; ++i)
-        data.Append(static_cast<unsigned char>(expected += static_cast<char>(i * 7), expected.back()));
+    for (int i = 0; i < 40000; ++i) {
+        expected += static_cast<char>(i * 7);
+        data.Append(static_cast<unsigned char>(i * 7));
+    }
     EXPECT_TRUE(data == ToBinary(expected) && data != ToBinary(expected + "x"));
     expected[20000] ^= 1;
     EXPECT_TRUE(data != ToBinary(expected));
