@@ -31,6 +31,11 @@ std::u16string Outcome(Reader reader, const std::u16string& text, CConversions::
     }
 }
 
+template <auto Reader>
+std::u16string Read(const std::u16string& text) {
+    return Outcome(Reader, text);
+}
+
 template <class Action>
 std::string InvalidValue(Action action) {
     return support::Failure<CKzInvalidValueException>(action);
@@ -43,22 +48,16 @@ TEST(CConversions, IntegersAreReadUpToTheirLimits) {
         const char16_t *lowest, *highest, *tooLow, *tooHigh, *name;
     };
     const Row rows[] = {
-        {[](const std::u16string& t) { return Outcome(C::i1FromString, t); }, u"-128", u"127", u"-129",
-         u"128", u"i1"},
-        {[](const std::u16string& t) { return Outcome(C::i2FromString, t); }, u"-32768", u"32767", u"-32769",
-         u"32768", u"i2"},
-        {[](const std::u16string& t) { return Outcome(C::i4FromString, t); }, u"-2147483648", u"2147483647",
-         u"-2147483649", u"2147483648", u"i4"},
-        {[](const std::u16string& t) { return Outcome(C::i8FromString, t); }, u"-9223372036854775808",
-         u"9223372036854775807", u"-9223372036854775809", u"9223372036854775808", u"i8"},
-        {[](const std::u16string& t) { return Outcome(C::ui1FromString, t); }, u"0", u"255", u"-1", u"256",
-         u"ui1"},
-        {[](const std::u16string& t) { return Outcome(C::ui2FromString, t); }, u"0", u"65535", u"-1",
-         u"65536", u"ui2"},
-        {[](const std::u16string& t) { return Outcome(C::ui4FromString, t); }, u"0", u"4294967295",
-         u"-4294967296", u"4294967296", u"ui4"},
-        {[](const std::u16string& t) { return Outcome(C::ui8FromString, t); }, u"0", u"18446744073709551615",
-         u"-18446744073709551616", u"18446744073709551616", u"ui8"},
+        {Read<C::i1FromString>, u"-128", u"127", u"-129", u"128", u"i1"},
+        {Read<C::i2FromString>, u"-32768", u"32767", u"-32769", u"32768", u"i2"},
+        {Read<C::i4FromString>, u"-2147483648", u"2147483647", u"-2147483649", u"2147483648", u"i4"},
+        {Read<C::i8FromString>, u"-9223372036854775808", u"9223372036854775807", u"-9223372036854775809",
+         u"9223372036854775808", u"i8"},
+        {Read<C::ui1FromString>, u"0", u"255", u"-1", u"256", u"ui1"},
+        {Read<C::ui2FromString>, u"0", u"65535", u"-1", u"65536", u"ui2"},
+        {Read<C::ui4FromString>, u"0", u"4294967295", u"-4294967296", u"4294967296", u"ui4"},
+        {Read<C::ui8FromString>, u"0", u"18446744073709551615", u"-18446744073709551616",
+         u"18446744073709551616", u"ui8"},
     };
     for (const Row& row : rows) {
         EXPECT_EQ(row.outcome(row.lowest), row.lowest);
@@ -69,52 +68,41 @@ TEST(CConversions, IntegersAreReadUpToTheirLimits) {
 }
 
 TEST(CConversions, IntegerFormIsThatOfStrtol) {
-    struct Row {
-        std::u16string text;
-        const char16_t* outcome;
-    };
-    const Row rows[] = {
-        {u"+5", u"5"},
-        {u"-0", u"0"},
-        {u" \t\n\v\f\r7", u"7"},
-        {u"0000000000000000000000000000000012", u"12"},
-        {u"12\0rest"s, u"12"},
-        {u"\0"s, u"0"},
-        {u"", u"0"},
-        {u" ", u"The value [ ] can not be converted to a i4"},
-        {u"7 ", u"The value [7 ] can not be converted to a i4"},
-        {u"\u00A07", u"The value [\u00A07] can not be converted to a i4"},
-        {u"+", u"The value [+] can not be converted to a i4"},
-        {u"+-5", u"The value [+-5] can not be converted to a i4"},
-        {u"0x10", u"The value [0x10] can not be converted to a i4"},
-        {u"1\u0661", u"The value [1\u0661] can not be converted to a i4"},
-        // The range is looked at before the form.
-        {u"99999999999x", u"The value [99999999999x] is to large to fit in a i4"},
-        {u"999999999999999999999x", u"The value [999999999999999999999x] is to large to fit in a i4"},
-    };
-    for (const Row& row : rows)
-        EXPECT_EQ(Outcome(CConversions::i4FromString, row.text), row.outcome);
+    const std::pair<std::u16string, const char16_t*> rows[] = {{u"+5", u"5"},
+                                                               {u"-0", u"0"},
+                                                               {u" \t\n\v\f\r7", u"7"},
+                                                               {u"0000000000000000000000000000000012", u"12"},
+                                                               {u"12\0rest"s, u"12"},
+                                                               {u"\0"s, u"0"},
+                                                               {u"", u"0"}};
+    for (const auto& [text, value] : rows)
+        EXPECT_EQ(Read<CConversions::i4FromString>(text), value);
+    for (const std::u16string text : {u" ", u"7 ", u"\u00A07", u"+", u"+-5", u"0x10", u"1\u0661"})
+        EXPECT_EQ(Read<CConversions::i4FromString>(text),
+                  u"The value [" + text + u"] can not be converted to a i4");
+    // The range is looked at before the form.
+    for (const std::u16string text : {u"99999999999x", u"999999999999999999999x"})
+        EXPECT_EQ(Read<CConversions::i4FromString>(text),
+                  u"The value [" + text + u"] is to large to fit in a i4");
     EXPECT_EQ(Outcome(CConversions::i4FromString, u"  ", collapse), u"0");
     EXPECT_EQ(Outcome(CConversions::i4FromString, u" 7 ", collapse), u"7");
-}
 
-TEST(CConversions, UnsignedReadersNegateInTheirOwnWidth) {
-    EXPECT_EQ(Outcome(CConversions::ui4FromString, u"-1"), u"4294967295");
-    EXPECT_EQ(Outcome(CConversions::ui4FromString, u"-4294967295"), u"1");
-    EXPECT_EQ(Outcome(CConversions::ui8FromString, u"-1"), u"18446744073709551615");
-    EXPECT_EQ(Outcome(CConversions::ui1FromString, u"-4294967295"), u"1");
+    // Unsigned readers negate in their own width.
+    EXPECT_EQ(Read<CConversions::ui4FromString>(u"-1"), u"4294967295");
+    EXPECT_EQ(Read<CConversions::ui8FromString>(u"-1"), u"18446744073709551615");
+    EXPECT_EQ(Read<CConversions::ui1FromString>(u"-4294967295"), u"1");
 }
 
 TEST(CConversions, NarrowReadersShowTheirInputAndPassTheWideFailureOn) {
     EXPECT_EQ(Outcome(CConversions::i1FromString, u" 128 ", collapse),
               u"The value [ 128 ] is to large to fit in a i1");
-    EXPECT_EQ(Outcome(CConversions::i1FromString, u"99999999999"),
+    EXPECT_EQ(Read<CConversions::i1FromString>(u"99999999999"),
               u"The value [99999999999] is to large to fit in a i4");
     EXPECT_EQ(Outcome(CConversions::i2FromString, u" abc ", collapse),
               u"The value [abc] can not be converted to a i4");
-    EXPECT_EQ(Outcome(CConversions::ui1FromString, u"x"), u"The value [x] can not be converted to a ui4");
-    EXPECT_EQ(Outcome(CConversions::ui8FromString, u"x"), u"The value [x] can not be converted to a ui8");
-    EXPECT_EQ(Outcome(CConversions::i8FromString, u"x"), u"The value [x] can not be converted to a i8");
+    EXPECT_EQ(Read<CConversions::ui1FromString>(u"x"), u"The value [x] can not be converted to a ui4");
+    EXPECT_EQ(Read<CConversions::ui8FromString>(u"x"), u"The value [x] can not be converted to a ui8");
+    EXPECT_EQ(Read<CConversions::i8FromString>(u"x"), u"The value [x] can not be converted to a i8");
 }
 
 TEST(CConversions, RealsAreReadInDecimalNotation) {
@@ -128,15 +116,14 @@ TEST(CConversions, RealsAreReadInDecimalNotation) {
         {u"1e309", infinity},
         {u"-1e999999999999999999999", -infinity},
         {u"1e-400", 0},
+        {u"1.5\0x"s, 1.5},
+        {u"\0"s, 0},
         {u"4.9406564584124654e-324", 4.9406564584124654e-324},
         {u"0e999999999999999999999", 0},
         {u"1" + std::u16string(400, u'0') + u"e-400", 1},
         {u"0." + std::u16string(400, u'0') + u"1e401", 1},
         {u"0." + std::u16string(400, u'0') + u"1e1000", infinity},
-        {u"1" + std::u16string(400, u'0') + u"e-1000", 0},
-        {u"1.5\0x"s, 1.5},
-        {u"\0"s, 0},
-    };
+        {u"1" + std::u16string(400, u'0') + u"e-1000", 0}};
     for (const auto& [text, value] : rows)
         EXPECT_EQ(CConversions::r8FromString(text, none), value) << CConversions::r8ToString(value).size();
     EXPECT_TRUE(std::signbit(CConversions::r8FromString(u"-0", none)));
@@ -145,6 +132,10 @@ TEST(CConversions, RealsAreReadInDecimalNotation) {
         EXPECT_TRUE(std::isnan(CConversions::r8FromString(text, collapse)));
         EXPECT_TRUE(std::isnan(CConversions::r4FromString(text, collapse)));
     }
+    // A float is rounded from the double.
+    EXPECT_EQ(CConversions::r4FromString(u"1e39", none), std::numeric_limits<float>::infinity());
+    // Just above the middle of 1 and the next float, by less than a double can show.
+    EXPECT_EQ(CConversions::r4FromString(u"1.00000005960464477540000000000000001", none), 1.0f);
 }
 
 TEST(CConversions, RealsOfAnotherFormAreRefused) {
@@ -158,12 +149,6 @@ TEST(CConversions, RealsOfAnotherFormAreRefused) {
     }
 }
 
-TEST(CConversions, R4IsRoundedFromTheDouble) {
-    EXPECT_EQ(CConversions::r4FromString(u"1e39", none), std::numeric_limits<float>::infinity());
-    // Just above the middle of 1 and the next float, by less than a double can show.
-    EXPECT_EQ(CConversions::r4FromString(u"1.00000005960464477540000000000000001", none), 1.0f);
-}
-
 TEST(CConversions, MillionsOfDigitsAreReadInOnePass) {
     const std::u16string digits(5'000'000, u'7');
     EXPECT_EQ(CConversions::r8FromString(digits + u"e-4999999", none), 7.777777777777778);
@@ -171,19 +156,17 @@ TEST(CConversions, MillionsOfDigitsAreReadInOnePass) {
 }
 
 TEST(CConversions, RealsAreWrittenInGeneralNotation) {
-    const std::pair<double, const char16_t*> rows[] = {
-        {0.1, u"0.1"},
-        {-0.0, u"-0"},
-        {1.0 / 3, u"0.3333333333333333"},
-        {1e15, u"1000000000000000"},
-        {1e16, u"1e+16"},
-        {1e-4, u"0.0001"},
-        {1e-5, u"1e-05"},
-        {-1.7976931348623157e308, u"-1.797693134862316e+308"},
-        {infinity, u"INF"},
-        {-infinity, u"-INF"},
-        {std::nan(""), u"NaN"},
-    };
+    const std::pair<double, const char16_t*> rows[] = {{0.1, u"0.1"},
+                                                       {-0.0, u"-0"},
+                                                       {1.0 / 3, u"0.3333333333333333"},
+                                                       {1e15, u"1000000000000000"},
+                                                       {1e16, u"1e+16"},
+                                                       {1e-4, u"0.0001"},
+                                                       {1e-5, u"1e-05"},
+                                                       {-1.7976931348623157e308, u"-1.797693134862316e+308"},
+                                                       {infinity, u"INF"},
+                                                       {-infinity, u"-INF"},
+                                                       {std::nan(""), u"NaN"}};
     for (const auto& [value, text] : rows)
         EXPECT_EQ(CConversions::r8ToString(value), text);
     EXPECT_EQ(CConversions::r4ToString(0.1f), u"0.1");

@@ -1,13 +1,12 @@
 #include <KzXmlLib10/conversions/CWhitespaceUtils.h>
 
-#include <KzXmlLib10/object/CKzException.h>
+#include "support/Failure.h"
 
 #include <gtest/gtest.h>
 
-#include <typeinfo>
-
 using namespace KzXmlLib10;
 using namespace std::literals;
+using W = CWhitespaceUtils;
 
 namespace {
 
@@ -17,14 +16,12 @@ TEST(CWhitespaceUtils, RulesTransformText) {
     };
     const Row rows[] = {
         {u"", u"", u"", u""},
-        {u"abc", u"abc", u"abc", u"abc"},
         {u"   ", u"   ", u"   ", u""},
         {u"a\r\nb\rc\n", u"a\nb\nc\n", u"a b c ", u"a b c"},
         {u"a\r", u"a\n", u"a ", u"a"},
         {u"a\r\nb\tc\nd\re", u"a\nb\tc\nd\ne", u"a b c d e", u"a b c d e"},
         {u"a\n\rb", u"a\n\nb", u"a  b", u"a b"},
         {u"\r\r\n\n", u"\n\n\n", u"   ", u""},
-        {u"a  b", u"a  b", u"a  b", u"a b"},
         {u"  a \r\n\t b  ", u"  a \n\t b  ", u"  a    b  ", u"a b"},
         {u"\u00A0\u2003\u0085 \xD83D", u"\u00A0\u2003\u0085 \xD83D", u"\u00A0\u2003\u0085 \xD83D",
          u"\u00A0\u2003\u0085 \xD83D"},
@@ -34,13 +31,10 @@ TEST(CWhitespaceUtils, RulesTransformText) {
         {u"a \0b "s, u"a \0b "s, u"a \0b "s, u"a "},
     };
     for (const Row& row : rows) {
-        EXPECT_EQ(CWhitespaceUtils::ApplyRule(CWhitespaceUtils::WhitespaceRule_None, row.text), row.text);
-        EXPECT_EQ(CWhitespaceUtils::ApplyRule(CWhitespaceUtils::WhitespaceRule_Preserve, row.text),
-                  row.preserve);
-        EXPECT_EQ(CWhitespaceUtils::ApplyRule(CWhitespaceUtils::WhitespaceRule_Replace, row.text),
-                  row.replace);
-        EXPECT_EQ(CWhitespaceUtils::ApplyRule(CWhitespaceUtils::WhitespaceRule_Collapse, row.text),
-                  row.collapse);
+        EXPECT_EQ(W::ApplyRule(W::WhitespaceRule_None, row.text), row.text);
+        EXPECT_EQ(W::ApplyRule(W::WhitespaceRule_Preserve, row.text), row.preserve);
+        EXPECT_EQ(W::ApplyRule(W::WhitespaceRule_Replace, row.text), row.replace);
+        EXPECT_EQ(W::ApplyRule(W::WhitespaceRule_Collapse, row.text), row.collapse);
     }
 }
 
@@ -54,15 +48,9 @@ TEST(CWhitespaceUtils, PreserveOfUnterminatedCharactersStaysInside) {
 }
 
 TEST(CWhitespaceUtils, UnknownRuleThrowsTheRootException) {
-    for (const int rule : {4, -1}) {
-        try {
-            CWhitespaceUtils::ApplyRule(static_cast<CWhitespaceUtils::WhitespaceRule>(rule), u"a");
-            ADD_FAILURE();
-        } catch (const CKzException& e) {
-            EXPECT_EQ(typeid(e), typeid(CKzException));
-            EXPECT_EQ(e.GetFullMessage(), u"Unknown WhitespaceRule");
-        }
-    }
+    for (const int rule : {4, -1})
+        EXPECT_EQ(support::Failure([&] { W::ApplyRule(static_cast<W::WhitespaceRule>(rule), u"a"); }),
+                  "Unknown WhitespaceRule");
 }
 
 } // namespace

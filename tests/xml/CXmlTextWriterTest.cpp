@@ -6,12 +6,14 @@
 
 #include <gtest/gtest.h>
 
+#include <sstream>
+#include <vector>
+
 using namespace KzXmlLib10;
 using support::Failure;
+using namespace std::literals;
 
 namespace {
-
-const std::u16string xsi = u"http://www.w3.org/2001/XMLSchema-instance";
 
 /// A writer over a stream of its own; the tests compare text as UTF-8 so that failures can be read.
 struct Output {
@@ -25,250 +27,154 @@ struct Output {
         return ToUtf8(std::u16string(stream.GetBuffer().GetString(), stream.GetBuffer().GetLength()));
     }
 
-    void Start(const char16_t* name, const char16_t* uri = u"") { writer.StartElement(name, uri); }
+    void Start(const std::u16string& name, const std::u16string& uri = u"") {
+        writer.StartElement(name, uri);
+    }
     void End() { writer.EndElement(); }
     void Write(const std::u16string& text) { writer.WriteText(text, ItemType_string); }
-    void Attribute(const char16_t* name, const std::u16string& value, const char16_t* uri = u"") {
+    void Attribute(const std::u16string& name, const std::u16string& value, const std::u16string& uri = u"") {
         writer.WriteAttribute(name, uri, value, ItemType_string);
+    }
+
+    /// Runs operations that stand with a space between: `(name|uri` starts an element and `)` ends it,
+    /// `'text`, `@name=value|uri`, `+prefix=uri`, `^uri` of the default namespace, `:name|uri` of a type, `!`
+    /// nil.
+    std::string Run(const std::string& script) {
+        std::istringstream tokens(script);
+        for (std::string token; tokens >> token;) {
+            const std::u16string all = FromUtf8(token.substr(1)), body = all.substr(0, all.find(u'|'));
+            const std::u16string uri = body.size() < all.size() ? all.substr(body.size() + 1) : u"";
+            const std::u16string name = body.substr(0, body.find(u'='));
+            const std::u16string value = name.size() < body.size() ? body.substr(name.size() + 1) : u"";
+            const char operation = token[0];
+            operation == '('    ? Start(name, uri)
+            : operation == ')'  ? End()
+            : operation == '\'' ? Write(body)
+            : operation == '@'  ? Attribute(name, value, uri)
+            : operation == '+'  ? writer.AddNamespace(name, value)
+            : operation == '^'  ? writer.SetDefaultNamespace(body)
+            : operation == ':'  ? writer.WriteXsiType(uri, name, ItemType_string)
+                                : writer.WriteXsiNil();
+        }
+        return Text();
     }
 
     CTextStream stream;
     CXmlTextWriter writer;
 };
 
-void WriteSample(Output& out) {
-    out.writer.WriteDeclaration();
-    out.Start(u"a");
-    out.Start(u"b");
-    out.Write(u"x");
-    out.End();
-    out.Start(u"c");
-    out.End();
-    out.End();
-    out.writer.Close();
-}
-
 TEST(CXmlTextWriter, FormatsWithTabsAndTheChosenLineEnd) {
-    Output lf(true, EOLType_LF, XmlEncoding_UTF8);
-    WriteSample(lf);
-    EXPECT_EQ(lf.Text(), "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<a>\n\t<b>x</b>\n\t<c/>\n</a>\n");
-
-    Output crlf(true, EOLType_CRLF, XmlEncoding_UTF16);
-    WriteSample(crlf);
-    EXPECT_EQ(crlf.Text(),
-              "<?xml version=\"1.0\" encoding=\"UTF-16\"?>\r\n<a>\r\n\t<b>x</b>\r\n\t<c/>\r\n</a>\r\n");
-
-    Output plain(false, EOLType_CRLF, XmlEncoding_UTF16NoDecl);
-    WriteSample(plain);
-    EXPECT_EQ(plain.Text(), "<?xml version=\"1.0\"?>\r\n<a><b>x</b><c/></a>");
-}
-
-TEST(CXmlTextWriter, StartsFormattedWithLineFeedsInAnEmptiedStream) {
+    const struct {
+        bool formatted;
+        EOLType eol;
+        XmlEncoding encoding;
+        const char* text;
+    } rows[] = {
+        {true, EOLType_LF, XmlEncoding_UTF8,
+         "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<a>\n\t<b>x</b>\n\t<c/>\n</a>\n"},
+        {true, EOLType_CRLF, XmlEncoding_UTF16,
+         "<?xml version=\"1.0\" encoding=\"UTF-16\"?>\r\n<a>\r\n\t<b>x</b>\r\n\t<c/>\r\n</a>\r\n"},
+        {false, EOLType_CRLF, XmlEncoding_UTF16NoDecl, "<?xml version=\"1.0\"?>\r\n<a><b>x</b><c/></a>"},
+    };
+    for (const auto& [formatted, eol, encoding, text] : rows) {
+        Output out(formatted, eol, encoding);
+        out.writer.WriteDeclaration();
+        EXPECT_EQ(out.Run("(a (b 'x ) (c ) )"), text);
+        out.writer.Close();
+    }
     CTextStream stream(XmlEncoding_None);
     stream.GetBuffer().Append(u"old");
-    CXmlTextWriter writer(&stream);
-    writer.StartElement(u"a", u"");
-    writer.StartElement(u"b", u"");
-    writer.EndElement();
-    writer.EndElement();
+    CXmlTextWriter writer(&stream); // empties the stream, and formats with line feeds
+    for (const char16_t* name : {u"a", u"b"})
+        writer.StartElement(name, u"");
+    for (int i = 0; i < 2; ++i)
+        writer.EndElement();
     EXPECT_EQ(ToUtf8(stream.GetBuffer().GetString()), "<a>\n\t<b/>\n</a>\n");
 }
 
-TEST(CXmlTextWriter, FormatsMixedContent) {
-    Output out(true);
-    out.Start(u"a");
-    out.Write(u"before");
-    out.Start(u"b");
-    out.Start(u"c");
-    out.End();
-    out.End();
-    out.Write(u"after");
-    out.End();
-    EXPECT_EQ(out.Text(), "<a>before\t<b>\n\t\t<c/>\n\t</b>\nafter</a>\n");
-}
-
-TEST(CXmlTextWriter, EmptyTextLeavesTheStartTagOpen) {
-    Output out(true);
-    out.Start(u"a");
-    out.Write(u"");
-    out.Attribute(u"n", u"");
-    out.End();
-    EXPECT_EQ(out.Text(), "<a n=\"\"/>\n");
+TEST(CXmlTextWriter, FormatsMixedContentAndLeavesTheStartTagOpenAtEmptyText) {
+    EXPECT_EQ(Output(true).Run("(a 'before (b (c ) ) 'after )"),
+              "<a>before\t<b>\n\t\t<c/>\n\t</b>\nafter</a>\n");
+    EXPECT_EQ(Output(true).Run("(a ' @n= )"), "<a n=\"\"/>\n");
 }
 
 TEST(CXmlTextWriter, EscapesTextAndAttributes) {
     const std::u16string value = u"a\r\nb\nc\rd\t\"'&<>\x01\u00e9\U0001F600]]>";
     const std::string tail = "\x01\xC3\xA9\xF0\x9F\x98\x80]]&gt;";
+    const struct {
+        EOLType eol;
+        std::u16string attribute;
+        std::vector<std::u16string> texts;
+        std::string xml;
+    } rows[] = {
+        {EOLType_LF,
+         value,
+         {value},
+         "a&#xA;b&#xA;cd\t&quot;'&amp;&lt;&gt;" + tail + "\">a\nb\ncd\t\"'&amp;&lt;&gt;" + tail},
+        {EOLType_CRLF, u"\n", {u"\n\r\n"}, "&#xA;\">\r\n\r\n"},
+        // Texts end at their first NUL.
+        {EOLType_LF, u"v\0w"s, {u"a&\0b"s, u"<![CDATA[x\0y"s}, "v\">a&amp;<![CDATA[x"},
+        // A text that begins as CDATA is not escaped.
+        {EOLType_LF,
+         u"",
+         {u"<![CDATA[<&]]><\r\n", u"<![CDATA", u" <![CDATA[]]>"},
+         "\"><![CDATA[<&]]><\r\n&lt;![CDATA &lt;![CDATA[]]&gt;"},
+    };
+    for (const auto& [eol, attribute, texts, xml] : rows) {
+        Output out(false, eol);
+        out.Start(u"e");
+        out.Attribute(u"n", attribute);
+        for (const std::u16string& text : texts)
+            out.Write(text);
+        EXPECT_EQ(out.Run(")"), "<e n=\"" + xml + "</e>");
+    }
     Output out;
     out.Start(u"e");
-    out.Attribute(u"n", value);
-    out.Write(value);
-    out.End();
-    EXPECT_EQ(out.Text(), "<e n=\"a&#xA;b&#xA;cd\t&quot;'&amp;&lt;&gt;" + tail +
-                              "\">a\nb\ncd\t\"'&amp;&lt;&gt;" + tail + "</e>");
-
-    Output crlf(false, EOLType_CRLF);
-    crlf.Start(u"e");
-    crlf.Attribute(u"n", u"\n");
-    crlf.Write(u"\n\r\n");
-    crlf.End();
-    EXPECT_EQ(crlf.Text(), "<e n=\"&#xA;\">\r\n\r\n</e>");
-}
-
-TEST(CXmlTextWriter, TextsEndAtTheirFirstZero) {
-    Output out;
-    out.Start(u"e");
-    out.Attribute(u"n", std::u16string(u"v\0w", 3));
-    out.Write(std::u16string(u"a&\0b", 4));
-    out.Write(std::u16string(u"<![CDATA[x\0y", 12));
-    out.End();
-    EXPECT_EQ(out.Text(), "<e n=\"v\">a&amp;<![CDATA[x</e>");
-}
-
-TEST(CXmlTextWriter, LoneSurrogatesPass) {
-    Output out;
-    out.Start(u"e");
-    out.Write(u"\xD800x");
+    out.Write(u"\xD800x"); // lone surrogates pass
     EXPECT_EQ(std::u16string(out.stream.GetBuffer().GetString()), u"<e>\xD800x");
-}
-
-TEST(CXmlTextWriter, TextInCDataFormIsNotEscaped) {
-    Output out;
-    out.Start(u"e");
-    out.Write(u"<![CDATA[<&]]><\r\n");
-    out.Write(u"<![CDATA");
-    out.Write(u" <![CDATA[]]>");
-    out.End();
-    EXPECT_EQ(out.Text(), "<e><![CDATA[<&]]><\r\n&lt;![CDATA &lt;![CDATA[]]&gt;</e>");
 }
 
 TEST(CXmlTextWriter, WritesCommentsInstructionsAndInlineSchema) {
     Output out(true, EOLType_CRLF);
     out.writer.WriteProcessingInstruction(u"<?x a<b?>");
     out.writer.WriteComment(u"a--b<\n");
-    out.Start(u"e");
-    out.Attribute(u"n", u"1");
+    out.Run("(e @n=1");
     out.writer.WriteInlineSchema(u"<s/>");
-    out.Write(u"t");
-    out.End();
-    EXPECT_EQ(out.Text(), "<?x a<b?>\r\n\r\n<!--a--b&lt;\r\n-->\r\n<e n=\"1\" \r\n<s/>\r\n>t</e>\r\n");
+    EXPECT_EQ(out.Run("'t )"), "<?x a<b?>\r\n\r\n<!--a--b&lt;\r\n-->\r\n<e n=\"1\" \r\n<s/>\r\n>t</e>\r\n");
 }
 
-TEST(CXmlTextWriter, RootDeclaresTheNamespacesInOrderOfTheirUris) {
-    Output out;
-    out.writer.AddNamespace(u"z", u"urn:a");
-    out.writer.AddNamespace(u"y", u"urn:b");
-    out.writer.AddNamespace(u"q", u"http://www.w3.org/XML/1998/namespace/more");
-    out.writer.AddNamespace(u"w", u"http://www.w3.org/XML/1998/namespac");
-    out.writer.SetDefaultNamespace(u"urn:d\"<");
-    out.Start(u"e", u"urn:new");
-    out.Start(u"d", u"urn:d\"<");
-    out.Attribute(u"lang", u"en", u"http://www.w3.org/XML/1998/namespace");
-    out.Attribute(u"n", u"1", u"urn:d\"<");
-    out.End();
-    out.Start(u"b", u"urn:b");
-    out.Start(u"none");
-    out.End();
-    out.End();
-    out.End();
-    EXPECT_EQ(out.Text(), "<AA:e xmlns:AA=\"urn:new\" xmlns=\"urn:d\"<\" "
-                          "xmlns:w=\"http://www.w3.org/XML/1998/namespac\" xmlns:z=\"urn:a\" "
-                          "xmlns:y=\"urn:b\"><d xml:lang=\"en\" xmlns:AB=\"urn:d\"<\" AB:n=\"1\"/>"
-                          "<y:b><none/></y:b></AA:e>");
-}
-
-TEST(CXmlTextWriter, GeneratedPrefixesLiveAsLongAsTheirElement) {
-    Output out;
-    out.Start(u"r");
-    for (const char16_t* name : {u"a", u"b"}) {
-        out.Start(name, u"urn:x");
-        out.Start(u"c", u"urn:x");
-        out.Attribute(u"n", u"1", u"urn:y");
-        out.Attribute(u"m", u"2", u"urn:y");
-        out.End();
-        out.End();
-    }
-    out.End();
-    EXPECT_EQ(out.Text(), "<r><AA:a xmlns:AA=\"urn:x\">"
-                          "<AA:c xmlns:AB=\"urn:y\" AB:n=\"1\" AB:m=\"2\"/></AA:a>"
-                          "<AA:b xmlns:AA=\"urn:x\">"
-                          "<AA:c xmlns:AB=\"urn:y\" AB:n=\"1\" AB:m=\"2\"/></AA:b></r>");
-}
-
-TEST(CXmlTextWriter, GeneratedPrefixIsTheFirstFreeOne) {
-    Output out;
-    out.writer.AddNamespace(u"AB", u"urn:b");
-    out.writer.AddNamespace(u"AA", u"urn:a");
-    out.writer.AddNamespace(u"AA", u"urn:a2");
-    out.Start(u"r");
-    out.Attribute(u"n", u"1", u"urn:c");
-    out.writer.AddNamespace(u"p", u"urn:a");
-    out.Attribute(u"n", u"1", u"urn:d");
-    out.writer.AddNamespace(u"p", u"urn:a2");
-    out.Attribute(u"n", u"1", u"urn:e");
-    out.Attribute(u"n", u"1", u"urn:f");
-    out.End();
-    EXPECT_EQ(out.Text(), "<r xmlns:AA=\"urn:a\" xmlns:AA=\"urn:a2\" xmlns:AB=\"urn:b\""
-                          " xmlns:AC=\"urn:c\" AC:n=\"1\" xmlns:AD=\"urn:d\" AD:n=\"1\""
-                          " xmlns:AA=\"urn:e\" AA:n=\"1\" xmlns:AE=\"urn:f\" AE:n=\"1\"/>");
-}
-
-TEST(CXmlTextWriter, NamespacesAddedInsideAnElementAreSilentAndLocal) {
-    Output out;
-    out.Start(u"r");
-    out.Start(u"a");
-    out.writer.AddNamespace(u"p", u"urn:p");
-    out.writer.SetDefaultNamespace(u"urn:d");
-    out.Start(u"b", u"urn:p");
-    out.Start(u"c", u"urn:d");
-    out.End();
-    out.End();
-    out.End();
-    out.Start(u"b", u"urn:p");
-    out.End();
-    out.Start(u"c", u"urn:d");
-    out.End();
-    out.End();
-    EXPECT_EQ(out.Text(), "<r><a><p:b><c/></p:b></a><AA:b xmlns:AA=\"urn:p\"/>"
-                          "<AA:c xmlns:AA=\"urn:d\"/></r>");
-}
-
-TEST(CXmlTextWriter, ElementWhoseDefaultNamespaceChangesEndsWithAnEmptyPrefix) {
-    Output out;
-    out.writer.SetDefaultNamespace(u"urn:d");
-    out.Start(u"e", u"urn:d");
-    out.writer.SetDefaultNamespace(u"urn:other");
-    out.Write(u"x");
-    out.End();
-    EXPECT_EQ(out.Text(), "<e xmlns=\"urn:d\">x</:e>");
-}
-
-TEST(CXmlTextWriter, WritesTypeAndNil) {
-    Output out;
-    out.writer.SetDefaultNamespace(u"urn:d");
-    out.Start(u"r");
-    out.writer.WriteXsiType(u"", u"T", ItemType_string);
-    out.Start(u"a");
-    out.writer.WriteXsiType(u"urn:d", u"T", ItemType_string);
-    out.Start(u"b");
-    out.writer.WriteXsiType(u"urn:t", u"T", ItemType_string);
-    out.writer.WriteXsiNil();
-    out.End();
-    out.End();
-    out.End();
-    EXPECT_EQ(out.Text(), "<r xmlns=\"urn:d\" xmlns:AA=\"" + ToUtf8(xsi) +
-                              "\" AA:type=\"T\"><a AA:type=\"T\">"
-                              "<b xmlns:AB=\"urn:t\"  AA:type=\"AB:T\" AA:nil=\"true\"/></a></r>");
-}
-
-TEST(CXmlTextWriter, SecondRootDeclaresAgain) {
-    Output out;
-    out.writer.AddNamespace(u"p", u"urn:p");
-    for (int i = 0; i < 2; ++i) {
-        out.Start(u"r");
-        out.End();
-    }
-    EXPECT_EQ(out.Text(), "<r xmlns:p=\"urn:p\"/><r xmlns:p=\"urn:p\"/>");
+TEST(CXmlTextWriter, DeclaresNamespaces) {
+    const std::string types = "\" xmlns:AA=\"http://www.w3.org/2001/XMLSchema-instance\" AA:type=\"T\">";
+    const std::pair<std::string, std::string> rows[] = {
+        // The root declares them in the order of their URIs, without those that begin as that of "xml".
+        {"+z=urn:a +y=urn:b +q=http://www.w3.org/XML/1998/namespace/more "
+         "+w=http://www.w3.org/XML/1998/namespac ^urn:d\"< (e|urn:new (d|urn:d\"< "
+         "@lang=en|http://www.w3.org/XML/1998/namespace @n=1|urn:d\"< ) (b|urn:b (none ) ) )",
+         "<AA:e xmlns:AA=\"urn:new\" xmlns=\"urn:d\"<\" xmlns:w=\"http://www.w3.org/XML/1998/namespac\" "
+         "xmlns:z=\"urn:a\" xmlns:y=\"urn:b\"><d xml:lang=\"en\" xmlns:AB=\"urn:d\"<\" AB:n=\"1\"/>"
+         "<y:b><none/></y:b></AA:e>"},
+        // Generated prefixes live as long as their element.
+        {"(r (a|urn:x (c|urn:x @n=1|urn:y @m=2|urn:y ) ) (b|urn:x (c|urn:x @n=1|urn:y ) ) )",
+         "<r><AA:a xmlns:AA=\"urn:x\"><AA:c xmlns:AB=\"urn:y\" AB:n=\"1\" AB:m=\"2\"/></AA:a>"
+         "<AA:b xmlns:AA=\"urn:x\"><AA:c xmlns:AB=\"urn:y\" AB:n=\"1\"/></AA:b></r>"},
+        // A generated prefix is the first free one.
+        {"+AB=urn:b +AA=urn:a +AA=urn:a2 (r @n=1|urn:c +p=urn:a @n=1|urn:d +p=urn:a2 @n=1|urn:e @n=1|urn:f )",
+         "<r xmlns:AA=\"urn:a\" xmlns:AA=\"urn:a2\" xmlns:AB=\"urn:b\" xmlns:AC=\"urn:c\" AC:n=\"1\" "
+         "xmlns:AD=\"urn:d\" AD:n=\"1\" xmlns:AA=\"urn:e\" AA:n=\"1\" xmlns:AE=\"urn:f\" AE:n=\"1\"/>"},
+        // What is added inside an element is silent and local.
+        {"(r (a +p=urn:p ^urn:d (b|urn:p (c|urn:d ) ) ) (b|urn:p ) (c|urn:d ) )",
+         "<r><a><p:b><c/></p:b></a><AA:b xmlns:AA=\"urn:p\"/><AA:c xmlns:AA=\"urn:d\"/></r>"},
+        // An element whose default namespace changes ends with an empty prefix.
+        {"^urn:d (e|urn:d ^urn:other 'x )", "<e xmlns=\"urn:d\">x</:e>"},
+        {"^urn:d (r :T (a :T|urn:d (b :T|urn:t ! ) ) )",
+         "<r xmlns=\"urn:d" + types +
+             "<a AA:type=\"T\">"
+             "<b xmlns:AB=\"urn:t\"  AA:type=\"AB:T\" AA:nil=\"true\"/></a></r>"},
+        // A second root declares again.
+        {"+p=urn:p (r ) (r )", "<r xmlns:p=\"urn:p\"/><r xmlns:p=\"urn:p\"/>"},
+    };
+    for (const auto& [script, xml] : rows)
+        EXPECT_EQ(Output().Run(script), xml);
 }
 
 /// Reaches what only derived writers reach.
@@ -281,12 +187,9 @@ struct DerivedWriter : CXmlTextWriter {
 TEST(CXmlTextWriter, Failures) {
     const auto late = "Attributes must be added before elements";
     Output out;
-    out.Start(u"r");
-    out.Start(u"c");
-    out.End();
-    EXPECT_EQ(Failure([&] { out.Attribute(u"n", u""); }), late);
-    EXPECT_EQ(Failure([&] { out.writer.WriteXsiType(u"u", u"t", ItemType_string); }), late);
-    EXPECT_EQ(Failure([&] { out.writer.WriteXsiNil(); }), late);
+    out.Run("(r (c )");
+    for (const char* operation : {"@n=", ":t|u", "!"})
+        EXPECT_EQ(Failure([&] { out.Run(operation); }), late) << operation;
     EXPECT_EQ(Failure([&] { out.writer.SetEOLType(static_cast<EOLType>(2)); }), "Invalid EOL type.");
     EXPECT_EQ(Failure([&] { out.writer.Close(); }), "An Element has not been closed.");
     out.End();
@@ -306,28 +209,21 @@ TEST(CXmlTextWriter, OperationsWithoutAnOpenElementFailCleanly) {
     Output out;
     out.Write(u"");
     for (int i = 0; i < 2; ++i) {
-        EXPECT_EQ(Failure<CKzInvalidStateException>([&] { out.Write(u"x"); }), none);
-        EXPECT_EQ(Failure<CKzInvalidStateException>([&] { out.End(); }), none);
-        EXPECT_EQ(Failure<CKzInvalidStateException>([&] { out.Attribute(u"n", u""); }), none);
-        EXPECT_EQ(Failure<CKzInvalidStateException>([&] { out.writer.WriteXsiNil(); }), none);
-        EXPECT_EQ(
-            Failure<CKzInvalidStateException>([&] { out.writer.WriteXsiType(u"", u"t", ItemType_string); }),
-            none);
+        for (const char* operation : {"'x", ")", "@n=", "!", ":t"})
+            EXPECT_EQ(Failure<CKzInvalidStateException>([&] { out.Run(operation); }), none) << operation;
         out.writer.CloseStartTag();
-        out.Start(u"r");
-        out.End();
+        out.Run("(r )");
     }
     EXPECT_EQ(out.Text(), "<r/><r/>");
     EXPECT_THROW(CXmlTextWriter(nullptr), CKzInvalidParamException);
 }
 
 TEST(CXmlTextWriter, GeneratedPrefixesRunThroughPairsOfLettersAndStopAtTheSurrogates) {
-    EXPECT_EQ(DerivedWriter::MakeAlias(0), u"AA");
-    EXPECT_EQ(DerivedWriter::MakeAlias(27), u"BB");
-    EXPECT_EQ(DerivedWriter::MakeAlias(675), u"ZZ");
-    EXPECT_EQ(DerivedWriter::MakeAlias(676), u"[A");
     constexpr std::uint32_t end = (0xD800 - u'A') * 26;
-    EXPECT_EQ(DerivedWriter::MakeAlias(end - 1), u"\uD7FFZ");
+    const std::pair<std::uint32_t, const char16_t*> rows[] = {
+        {0, u"AA"}, {27, u"BB"}, {675, u"ZZ"}, {676, u"[A"}, {end - 1, u"\uD7FFZ"}};
+    for (const auto& [index, alias] : rows)
+        EXPECT_EQ(DerivedWriter::MakeAlias(index), alias);
     EXPECT_THROW(DerivedWriter::MakeAlias(end), CKzException);
 }
 
@@ -371,9 +267,7 @@ TEST(CXmlTextWriter, ManyOpenElementsNeedNoStack) {
     Output out;
     for (int i = 0; i < 250'000; ++i)
         out.Start(u"e", u"urn:x");
-    out.Attribute(u"n", u"1");
-    for (int i = 0; i < 2; ++i)
-        out.End();
+    out.Run("@n=1 ) )");
     const std::u16string_view text = out.stream.GetBuffer().GetString();
     EXPECT_TRUE(text.starts_with(u"<AA:e xmlns:AA=\"urn:x\"><AA:e><AA:e>"));
     EXPECT_TRUE(text.ends_with(u"<AA:e><AA:e n=\"1\"/></AA:e>"));
@@ -383,15 +277,12 @@ TEST(CXmlTextWriter, ManyNestedNamespacesStayCheap) {
     constexpr int depth = 5'000;
     Output out;
     for (int i = 0; i < depth; ++i)
-        out.writer.StartElement(u"e", u"urn:" + FromUtf8(std::to_string(i)));
-    out.Start(u"e", u"urn:7");
-    out.End();
-    EXPECT_TRUE(out.Text().ends_with("<" + ToUtf8(DerivedWriter::MakeAlias(depth - 1)) + ":e xmlns:" +
-                                     ToUtf8(DerivedWriter::MakeAlias(depth - 1)) + "=\"urn:4999\"><AH:e/>"));
+        out.Start(u"e", u"urn:" + FromUtf8(std::to_string(i)));
+    const std::string last = ToUtf8(DerivedWriter::MakeAlias(depth - 1));
+    EXPECT_TRUE(out.Run("(e|urn:7 )").ends_with("<" + last + ":e xmlns:" + last + "=\"urn:4999\"><AH:e/>"));
     for (int i = 0; i < depth - 1; ++i)
         out.End();
-    out.Start(u"e", u"urn:new");
-    EXPECT_TRUE(out.Text().ends_with("<AB:e xmlns:AB=\"urn:new\""));
+    EXPECT_TRUE(out.Run("(e|urn:new").ends_with("<AB:e xmlns:AB=\"urn:new\""));
 }
 
 } // namespace
