@@ -1,11 +1,13 @@
 #include <KzXmlLib10/conversions/CConversions.h>
 
 #include "support/Failure.h"
+#include "support/Row.h"
 
 #include <gtest/gtest.h>
 
 #include <bit>
 #include <cmath>
+#include <cstdlib>
 #include <limits>
 
 using namespace KzXmlLib10;
@@ -68,15 +70,12 @@ TEST(CConversions, IntegersAreReadUpToTheirLimits) {
 }
 
 TEST(CConversions, IntegerFormIsThatOfStrtol) {
-    const std::pair<std::u16string, const char16_t*> rows[] = {{u"+5", u"5"},
-                                                               {u"-0", u"0"},
-                                                               {u" \t\n\v\f\r7", u"7"},
-                                                               {u"0000000000000000000000000000000012", u"12"},
-                                                               {u"12\0rest"s, u"12"},
-                                                               {u"\0"s, u"0"},
-                                                               {u"", u"0"}};
+    const support::Row rows[] = {"+5 -> 5", "-0 -> 0", " \t\n\v\f\r7 -> 7",
+                                 "0000000000000000000000000000000012 -> 12", " -> 0"};
     for (const auto& [text, value] : rows)
-        EXPECT_EQ(Read<CConversions::i4FromString>(text), value);
+        EXPECT_EQ(Read<CConversions::i4FromString>(text), FromUtf8(value));
+    EXPECT_EQ(Read<CConversions::i4FromString>(u"12\0rest"s), u"12");
+    EXPECT_EQ(Read<CConversions::i4FromString>(u"\0"s), u"0");
     for (const std::u16string text : {u" ", u"7 ", u"\u00A07", u"+", u"+-5", u"0x10", u"1\u0661"})
         EXPECT_EQ(Read<CConversions::i4FromString>(text),
                   u"The value [" + text + u"] can not be converted to a i4");
@@ -106,26 +105,25 @@ TEST(CConversions, NarrowReadersShowTheirInputAndPassTheWideFailureOn) {
 }
 
 TEST(CConversions, RealsAreReadInDecimalNotation) {
-    const std::pair<std::u16string, double> rows[] = {
-        {u"INF", infinity},
-        {u"-INF", -infinity},
-        {u"1.5", 1.5},
-        {u"+.5e1", 5},
-        {u" \v-5.E-1", -0.5},
-        {u"1.7976931348623157e308", 1.7976931348623157e308},
-        {u"1e309", infinity},
-        {u"-1e999999999999999999999", -infinity},
-        {u"1e-400", 0},
-        {u"1.5\0x"s, 1.5},
-        {u"\0"s, 0},
-        {u"4.9406564584124654e-324", 4.9406564584124654e-324},
-        {u"0e999999999999999999999", 0},
-        {u"1" + std::u16string(400, u'0') + u"e-400", 1},
-        {u"0." + std::u16string(400, u'0') + u"1e401", 1},
-        {u"0." + std::u16string(400, u'0') + u"1e1000", infinity},
-        {u"1" + std::u16string(400, u'0') + u"e-1000", 0}};
+    const support::Row rows[] = {"INF -> INF",
+                                 "-INF -> -INF",
+                                 "1.5 -> 1.5",
+                                 "+.5e1 -> 5",
+                                 " \v-5.E-1 -> -0.5",
+                                 "1e309 -> INF",
+                                 "1.7976931348623157e308 -> 1.7976931348623157e308",
+                                 "-1e999999999999999999999 -> -INF",
+                                 "4.9406564584124654e-324 -> 4.9406564584124654e-324",
+                                 "0e999999999999999999999 -> 0"};
     for (const auto& [text, value] : rows)
-        EXPECT_EQ(CConversions::r8FromString(text, none), value) << CConversions::r8ToString(value).size();
+        EXPECT_EQ(CConversions::r8FromString(text, none), std::strtod(value.c_str(), nullptr)) << value;
+    const std::u16string zeros(400, u'0');
+    EXPECT_EQ(CConversions::r8FromString(u"1" + zeros + u"e-400", none), 1);
+    EXPECT_EQ(CConversions::r8FromString(u"0." + zeros + u"1e401", none), 1);
+    EXPECT_EQ(CConversions::r8FromString(u"0." + zeros + u"1e1000", none), infinity);
+    EXPECT_EQ(CConversions::r8FromString(u"1" + zeros + u"e-1000", none), 0);
+    EXPECT_EQ(CConversions::r8FromString(u"1.5\0x"s, none), 1.5);
+    EXPECT_EQ(CConversions::r8FromString(u"\0"s, none), 0);
     EXPECT_TRUE(std::signbit(CConversions::r8FromString(u"-0", none)));
     EXPECT_TRUE(std::signbit(CConversions::r8FromString(u"-1e-400", none)));
     for (const char16_t* text : {u"", u"  ", u"NaN", u"1.#QNAN", u" -NAN "}) {
@@ -156,19 +154,19 @@ TEST(CConversions, MillionsOfDigitsAreReadInOnePass) {
 }
 
 TEST(CConversions, RealsAreWrittenInGeneralNotation) {
-    const std::pair<double, const char16_t*> rows[] = {{0.1, u"0.1"},
-                                                       {-0.0, u"-0"},
-                                                       {1.0 / 3, u"0.3333333333333333"},
-                                                       {1e15, u"1000000000000000"},
-                                                       {1e16, u"1e+16"},
-                                                       {1e-4, u"0.0001"},
-                                                       {1e-5, u"1e-05"},
-                                                       {-1.7976931348623157e308, u"-1.797693134862316e+308"},
-                                                       {infinity, u"INF"},
-                                                       {-infinity, u"-INF"},
-                                                       {std::nan(""), u"NaN"}};
+    const support::Row rows[] = {"0.1 -> 0.1",
+                                 "-0 -> -0",
+                                 "0.33333333333333331 -> 0.3333333333333333",
+                                 "1e15 -> 1000000000000000",
+                                 "1e16 -> 1e+16",
+                                 "1e-4 -> 0.0001",
+                                 "1e-5 -> 1e-05",
+                                 "INF -> INF",
+                                 "-INF -> -INF",
+                                 "NaN -> NaN",
+                                 "-1.7976931348623157e308 -> -1.797693134862316e+308"};
     for (const auto& [value, text] : rows)
-        EXPECT_EQ(CConversions::r8ToString(value), text);
+        EXPECT_EQ(CConversions::r8ToString(CConversions::r8FromString(value, none)), FromUtf8(text));
     EXPECT_EQ(CConversions::r4ToString(0.1f), u"0.1");
     EXPECT_EQ(CConversions::r4ToString(16777216.0f), u"1.677722e+07");
     EXPECT_EQ(CConversions::r4ToString(-std::numeric_limits<float>::infinity()), u"-INF");

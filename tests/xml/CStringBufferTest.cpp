@@ -27,10 +27,8 @@ TEST(CStringBuffer, GathersTextAcrossChunks) {
             buffer.Append(u"xy");
             expected += piece + u"-xy";
             if (i % 10 == 3)
-                buffer.AddChunk(); // closes a chunk that is not full
-            if (i % 13 == 5) {
-                EXPECT_EQ(TextOf(buffer), expected); // joins; appending goes on behind
-            }
+                buffer.AddChunk();                                        // closes a chunk that is not full
+            EXPECT_EQ(i % 13 == 5 ? TextOf(buffer) : expected, expected); // joins; appending goes on behind
         }
         EXPECT_EQ(TextOf(buffer), expected);
         buffer.Append(buffer.GetString());
