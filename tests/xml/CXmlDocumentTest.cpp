@@ -11,7 +11,6 @@
 #include <chrono>
 #include <stdexcept>
 #include <string>
-#include <utility>
 #include <vector>
 
 namespace KzXmlLib10 {

@@ -7,6 +7,7 @@
 #include <gtest/gtest.h>
 
 #include <sstream>
+#include <utility>
 #include <vector>
 
 using namespace KzXmlLib10;
@@ -36,9 +37,8 @@ struct Output {
         writer.WriteAttribute(name, uri, value, ItemType_string);
     }
 
-    /// Runs operations that stand with a space between: `(name|uri` starts an element and `)` ends it,
-    /// `'text`, `@name=value|uri`, `+prefix=uri`, `^uri` of the default namespace, `:name|uri` of a type, `!`
-    /// nil.
+    /// Runs operations with a space between each: `(name|uri` starts an element, `)` ends it, `'text`,
+    /// `@name=value|uri`, `+prefix=uri`, `^uri` as the default namespace, `:name|uri` as a type, `!` for nil.
     std::string Run(const std::string& script) {
         std::istringstream tokens(script);
         for (std::string token; tokens >> token;) {
@@ -85,10 +85,10 @@ TEST(CXmlTextWriter, FormatsWithTabsAndTheChosenLineEnd) {
     CTextStream stream(XmlEncoding_None);
     stream.GetBuffer().Append(u"old");
     CXmlTextWriter writer(&stream); // empties the stream, and formats with line feeds
-    for (const char16_t* name : {u"a", u"b"})
-        writer.StartElement(name, u"");
-    for (int i = 0; i < 2; ++i)
-        writer.EndElement();
+    writer.StartElement(u"a", u"");
+    writer.StartElement(u"b", u"");
+    writer.EndElement();
+    writer.EndElement();
     EXPECT_EQ(ToUtf8(stream.GetBuffer().GetString()), "<a>\n\t<b/>\n</a>\n");
 }
 
