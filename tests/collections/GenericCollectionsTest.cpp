@@ -36,23 +36,20 @@ std::string Describe(const CElementCol& elements) {
     return ToUtf8(text);
 }
 
+const std::string notOfA =
+    "Invalid namespace [urn:b]. The namespace must be one of [urn:a] where the target namespace is [urn:t]";
+
 TEST(CAttributeCol, TakesItsDefaultNamespaceFromARestrictionToNamespaces) {
-    const struct {
-        const char16_t* given;
-        const char16_t* restriction;
-        const char16_t* expected;
-    } rows[] = {
-        {u"urn:x", u"urn:x", u"urn:x"},
-        {u"", u"urn:a", u"urn:a"},
-        {u"", u"urn:a urn:b", u"urn:a"},
-        {u"urn:x", u"urn:a", u"urn:x"},
-        {u"", u"##any", u""},
-        {u"", u"a#", u""},
-        {u"", u"u", u""},
-        {u"", u"", u""},
-    };
-    for (const auto& row : rows)
-        EXPECT_EQ(CAttributeCol(row.given, row.restriction, u"").GetNamespace(), row.expected);
+    // What is given, the restriction, what is expected.
+    const char16_t* const rows[][3] = {{u"", u"urn:a", u"urn:a"},
+                                       {u"", u"urn:a urn:b", u"urn:a"},
+                                       {u"urn:x", u"urn:a", u"urn:x"},
+                                       {u"", u"##any", u""},
+                                       {u"", u"a#", u""},
+                                       {u"", u"u", u""},
+                                       {u"", u"", u""}};
+    for (const auto& [given, restriction, expected] : rows)
+        EXPECT_EQ(CAttributeCol(given, restriction, u"").GetNamespace(), expected);
 }
 
 TEST(CAttributeCol, AddsUnderItsRestriction) {
@@ -60,9 +57,7 @@ TEST(CAttributeCol, AddsUnderItsRestriction) {
     const CSmartPtr<CAttribute> last = attributes.Add(u"x");
     attributes.Add(u"y", u"2");
     attributes.Add(u"z", u"3", u"");
-    EXPECT_EQ(Failure<CKzInvalidNamespaceException>([&] { attributes.Add(u"z", u"3", u"urn:b"); }),
-              "Invalid namespace [urn:b]. The namespace must be one of [urn:a] where the target namespace is "
-              "[urn:t]");
+    EXPECT_EQ(Failure<CKzInvalidNamespaceException>([&] { attributes.Add(u"z", u"3", u"urn:b"); }), notOfA);
     EXPECT_THROW(attributes.Add(u"z", nullptr), CKzInvalidParamException);
     EXPECT_THROW(attributes.Add(u"z", u"", nullptr), CKzInvalidParamException);
 
@@ -93,8 +88,7 @@ TEST(CAttributeCol, ReadsAllAttributesOrFails) {
 
 TEST(CElementCol, HoldsItsRestrictionAgainstTheDefaultNamespaceOnly) {
     EXPECT_EQ(Failure<CKzInvalidNamespaceException>([] { CElementCol(u"urn:b", u"urn:a", u"urn:t", 0, -1); }),
-              "Invalid namespace [urn:b]. The namespace must be one of [urn:a] where the target namespace is "
-              "[urn:t]");
+              notOfA);
     CElementCol elements(u"urn:a", u"urn:a", u"urn:t", 2, 3);
     EXPECT_EQ(elements.GetNamespace(), u"urn:t");
     elements.Add(u"x");
