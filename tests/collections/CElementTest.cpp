@@ -138,23 +138,29 @@ TEST(CElement, ChecksTheRestrictionOfAWholeTreeAndThrowsAPointer) {
               "namespace is [urn:t]");
 }
 
-constexpr const char16_t orderXml[] = u"<order no='7'><id>\u00E5\U0001F600 &lt;</id></order>";
+constexpr char16_t orderXml[] = u"<order no='7'><id>\u00E5\U0001F600 &lt;</id></order>";
+
+struct Order {
+    Order() {
+        model.Attribute(u"no", kit::Required, ItemType_i4).Prim(u"id", kit::Mnd, ItemType_string);
+        object = model.New();
+        object->FromXml(orderXml, Defaults());
+    }
+    kit::Model model{u"order"};
+    CSmartPtr<kit::CModelObject> object;
+};
 
 TEST(CElement, CopiesAnyObjectAndFillsAnyObject) {
-    kit::Model model(u"order");
-    model.Attribute(u"no", kit::Required, ItemType_i4).Prim(u"id", kit::Mnd, ItemType_string);
-    const CSmartPtr<kit::CModelObject> order = model.New(), other = model.New();
-    order->FromXml(orderXml, Defaults());
-    const CElement copy(order, nullptr);
+    const Order order;
+    const CElement copy(order.object, nullptr);
     EXPECT_EQ(Write(copy), Read(orderXml));
+    const CSmartPtr<kit::CModelObject> other = order.model.New();
     other->FromXmlElement(&copy, Defaults());
     EXPECT_EQ(Write(*other), Read(orderXml));
 }
 
 TEST(CElement, ADefaultNamespaceOfItsOwnCostsTheAttributes) {
-    CElement order(u"order");
-    order.FromXml(orderXml);
-    CElement element(&order, u"urn:d");
+    CElement element(Order().object, u"urn:d");
     const std::string text = "<order xmlns=\"urn:d\"><id>\xC3\xA5\xF0\x9F\x98\x80 &lt;</id></order>";
     EXPECT_EQ(Write(element), text);
     EXPECT_EQ(element.GetAttributes()->GetCount(), 1);

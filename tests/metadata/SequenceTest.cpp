@@ -23,22 +23,19 @@ protected:
 };
 
 TEST_F(SequenceOfPrimitives, ReadsInOrder) {
-    EXPECT_EQ(Read(line, u"<line><sku>A</sku><count> 7 </count><note>x</note><colour>red</colour></line>"),
-              u"A|7|x|1|-");
-    EXPECT_EQ(
-        Read(line,
-             u"<whatever><sku>A</sku><count>7</count><colour>green</colour><other>blue</other></whatever>"),
-        u"A|7|-|2|3");
+    ExpectReads(line,
+                {"<line><sku>A</sku><count> 7 </count><note>x</note><colour>red</colour></line> -> A|7|x|1|-",
+                 "<whatever><sku>A</sku><count>7</count><colour>green</colour><other>blue</other></whatever> "
+                 "-> A|7|-|2|3"});
 }
 
 TEST_F(SequenceOfPrimitives, ReportsWhatIsMissingOrLeftOver) {
-    EXPECT_EQ(Read(line, u"<line><count>7</count><colour>red</colour></line>"),
-              FailedToRead(u"line", u"Failed to find a required element [sku]"));
-    EXPECT_EQ(Read(line, u"<line><sku>A</sku><count>7</count><colour>red</colour><extra/></line>"),
-              LeftOver(u"line", u"extra"));
-    EXPECT_EQ(Read(line, u"<line><sku>a</sku></line>"), FailedToRead(u"line", u"Invalid Value for sku [a]"));
-    EXPECT_EQ(Read(line, u"<line><sku>A</sku><count>x</count></line>"),
-              FailedToRead(u"line", u"The value [x] can not be converted to a i4"));
+    ExpectReads(
+        line,
+        {"<line><count>7</count><colour>red</colour></line> -> !Failed to find a required element [sku]",
+         "<line><sku>A</sku><count>7</count><colour>red</colour><extra/></line> -> +extra",
+         "<line><sku>a</sku></line> -> !Invalid Value for sku [a]",
+         "<line><sku>A</sku><count>x</count></line> -> !The value [x] can not be converted to a i4"});
 }
 
 TEST_F(SequenceOfPrimitives, UnknownElementsAreSkippedUnderTheFlag) {
@@ -48,19 +45,17 @@ TEST_F(SequenceOfPrimitives, UnknownElementsAreSkippedUnderTheFlag) {
     // An optional member never skips: the next mandatory one passes over the note behind an unknown element.
     EXPECT_EQ(Read(line, unknown, unknownElements), u"A|7|-|1|3");
     // What is left over gives the member that moved last another look, and a mandatory one insists.
-    EXPECT_EQ(
-        Read(line, u"<line><sku>A</sku><count>7</count><colour>red</colour><u/></line>", unknownElements),
-        u"A|7|-|1|-");
-    EXPECT_EQ(
-        Read(line, u"<line><sku>A</sku><count>7</count><colour>red</colour><u/><u/></line>", unknownElements),
-        FailedToRead(u"line", u"Failed to find a required element [colour]"));
-    EXPECT_EQ(Read(line, u"<line><sku>A</sku><u/></line>", unknownElements),
-              FailedToRead(u"line", u"Failed to find a required element [count]"));
+    ExpectReads(line,
+                {"<line><sku>A</sku><count>7</count><colour>red</colour><u/></line> -> A|7|-|1|-",
+                 "<line><sku>A</sku><count>7</count><colour>red</colour><u/><u/></line> -> !Failed to find a "
+                 "required element [colour]",
+                 "<line><sku>A</sku><u/></line> -> !Failed to find a required element [count]"},
+                unknownElements);
 }
 
 TEST_F(SequenceOfPrimitives, MissingElementsPassUnderTheFlag) {
-    EXPECT_EQ(Read(line, u"<line><note>x</note></line>", missingElements), u"-|-|x|-|-");
-    EXPECT_EQ(Read(line, u"<line><u/></line>", missingElements), LeftOver(u"line", u"u"));
+    ExpectReads(line, {"<line><note>x</note></line> -> -|-|x|-|-", "<line><u/></line> -> +u"},
+                missingElements);
 }
 
 TEST_F(SequenceOfPrimitives, NilIsReadByItsAttribute) {
@@ -103,12 +98,10 @@ TEST(SequenceOfClasses, FailuresReadAsThePathOfElements) {
     point.Prim(u"x", Mnd, ItemType_i4).Prim(u"y", Mnd, ItemType_i1);
     Model shape(u"shape");
     shape.Class(u"from", Mnd, point).Class(u"to", Opt, point);
-    EXPECT_EQ(Read(shape, u"<shape><from><x>1</x><y>2</y></from><to><x>3</x><y>4</y></to></shape>"),
-              u"{1,2}|{3,4}");
-    EXPECT_EQ(
-        Read(shape, u"<shape><from><x>1</x><y>2</y></from><to><x>3</x><y>400</y></to></shape>"),
-        FailedToRead(u"shape",
-                     u"Failed to process the element [to]\nThe value [400] is to large to fit in a i1"));
+    ExpectReads(shape,
+                {"<shape><from><x>1</x><y>2</y></from><to><x>3</x><y>4</y></to></shape> -> {1,2}|{3,4}",
+                 "<shape><from><x>1</x><y>2</y></from><to><x>3</x><y>400</y></to></shape> -> !Failed to "
+                 "process the element [to]\nThe value [400] is to large to fit in a i1"});
 
     const auto object = shape.New();
     EXPECT_FALSE(FailureOf([&] {
@@ -145,15 +138,13 @@ TEST(NestedGroups, GiveBackThePositionWhenTheyFail) {
     pair.Prim(u"a", Mnd, ItemType_i4).Prim(u"b", Mnd, ItemType_i4);
     Model optional(u"r");
     optional.Class(u"pair", Opt, pair).Prim(u"a", Opt, ItemType_i4);
-    EXPECT_EQ(Read(optional, u"<r><a>1</a><b>2</b><a>3</a></r>"), u"{1,2}|3");
-    EXPECT_EQ(Read(optional, u"<r><a>1</a></r>"), u"-|1");
-    EXPECT_EQ(Read(optional, u"<r/>"), u"-|-");
+    ExpectReads(optional,
+                {"<r><a>1</a><b>2</b><a>3</a></r> -> {1,2}|3", "<r><a>1</a></r> -> -|1", "<r/> -> -|-"});
 
     Model required(u"r");
     required.Class(u"pair", Mnd, pair, true);
-    EXPECT_EQ(Read(required, u"<r><a>1</a><c/></r>"),
-              FailedToRead(u"r", u"Failed to find a required element [pair]"));
-    EXPECT_EQ(Read(required, u"<r/>"), FailedToRead(u"r", u"Failed to find a required element [pair]"));
+    ExpectReads(required, {"<r><a>1</a><c/></r> -> !Failed to find a required element [pair]",
+                           "<r/> -> !Failed to find a required element [pair]"});
 
     Model relaxed(u"r");
     relaxed.Class(u"pair", Mnd, pair, false);
@@ -188,9 +179,9 @@ TEST(Attributes, AreMatchedValidatedAndWritten) {
         .Attribute(u"size", Optional, ItemType_i4, u"007")
         .Attribute(u"mode", Optional, ItemType_string, u"fast")
         .ColourAttribute(u"colour", Optional, u"red");
-    EXPECT_EQ(Read(m, u"<m colour='blue' id=' 5 '/>"), u"5|-|-|3");
-    EXPECT_EQ(Read(m, u"<m size='1'/>"), FailedToRead(u"m", u"Failed to find the required Attribute [id]"));
-    EXPECT_EQ(Read(m, u"<m id='1' other='2'/>"), FailedToRead(u"m", u"Unexpected Attribute [other] found."));
+    ExpectReads(m, {"<m colour='blue' id=' 5 '/> -> 5|-|-|3",
+                    "<m size='1'/> -> !Failed to find the required Attribute [id]",
+                    "<m id='1' other='2'/> -> !Unexpected Attribute [other] found."});
     EXPECT_EQ(Read(m, u"<m id='1' other='2'/>", unknownAttributes), u"1|-|-|-");
     EXPECT_EQ(Read(m, std::u16string(u"<m id='1'") + xsi + u" xsi:schemaLocation='u f' xsi:type='t'/>"),
               u"1|-|-|-");
@@ -204,10 +195,8 @@ TEST(Attributes, AreMatchedValidatedAndWritten) {
     object->properties[2].SetString(u"fast");
     object->properties[3].SetI4(1);
     EXPECT_EQ(Write(*object), u"<m id=\"1\" size=\"7\" mode=\"fast\" colour=\"red\"/>");
-    CXmlSerializationContext context;
-    context.SetNoOptionalAttributeDefaultOutput(true);
     // Texts are compared, not values: "7" is not the default "007".
-    EXPECT_EQ(Write(*object, context), u"<m id=\"1\" size=\"7\"/>");
+    EXPECT_EQ(Write(*object, defaultAttributes), u"<m id=\"1\" size=\"7\"/>");
 }
 
 TEST(Attributes, PrimitiveOnesNeverIgnoreNamespaces) {
@@ -225,8 +214,8 @@ TEST(Attributes, PrimitiveOnesNeverIgnoreNamespaces) {
 TEST(Names, AreComparedWithNamespacesUnlessIgnored) {
     Model m(u"m", XmlElementGroupType_Sequence, XmlElementType_Element, u"urn:m");
     m.Prim(u"a", Mnd, ItemType_i4);
-    EXPECT_EQ(Read(m, u"<m xmlns='urn:m'><a>1</a></m>"), u"1");
-    EXPECT_EQ(Read(m, u"<m><a>1</a></m>"), FailedToRead(u"m", u"Failed to find a required element [a]"));
+    ExpectReads(m, {"<m xmlns='urn:m'><a>1</a></m> -> 1",
+                    "<m><a>1</a></m> -> !Failed to find a required element [a]"});
     EXPECT_EQ(Read(m, u"<m><a>1</a></m>", namespaces), u"1");
     CXmlSerializationContext context;
     context.SetSchemaType(SchemaType_NoNamespaces);
@@ -255,8 +244,8 @@ TEST(NillableClass, IsReadAndWrittenWithoutContent) {
 TEST(TextOfAClass, FollowsTheChildren) {
     Model m(u"m");
     m.Prim(u"a", Opt, ItemType_i4).Content(ItemType_r8, u"%.2f");
-    EXPECT_EQ(Read(m, u"<m>1<a>7</a>.5</m>"), u"7|1.5");
-    EXPECT_EQ(Read(m, u"<m>1 </m>"), FailedToRead(u"m", u"The value [1 ] can not be converted to a r8"));
+    ExpectReads(m,
+                {"<m>1<a>7</a>.5</m> -> 7|1.5", "<m>1 </m> -> !The value [1 ] can not be converted to a r8"});
     const auto object = m.New();
     object->properties[0].SetI4(7);
     object->properties[1].SetR8(2.5);
@@ -309,32 +298,24 @@ TEST(RootOutput, FollowsTheContext) {
         u"xmlns:z=\"urn:b\" id=\"1\" \r\n<schema/>\r\n>\r\n\t<a>x\r\ny&lt;</a>\r\n</m>\r\n");
 }
 
+std::u16string Repeat(const std::u16string& text, int times) {
+    std::u16string all;
+    for (int i = 0; i < times; ++i)
+        all += text;
+    return all;
+}
+
 class DeepObjects : public testing::Test {
 protected:
     DeepObjects() { node.Class(u"n", Opt, node).Prim(u"v", Opt, ItemType_i4); }
-
     static std::u16string Document(int levels) {
-        std::u16string xml;
-        for (int i = 0; i < levels; ++i)
-            xml += u"<n>";
-        xml += u"<v>bad</v>";
-        for (int i = 0; i < levels; ++i)
-            xml += u"</n>";
-        return xml;
+        return Repeat(u"<n>", levels) + u"<v>bad</v>" + Repeat(u"</n>", levels);
     }
-
     Model node{u"n"};
 };
 
-std::u16string Path(const char16_t* line, int levels) {
-    std::u16string path;
-    for (int i = 0; i < levels; ++i)
-        path += line;
-    return path;
-}
-
 TEST_F(DeepObjects, FailWithTheirWholePath) {
-    EXPECT_EQ(Read(node, Document(1000)), Path(u"Failed to process the element [n]\n", 1000) +
+    EXPECT_EQ(Read(node, Document(1000)), Repeat(u"Failed to process the element [n]\n", 1000) +
                                               u"The value [bad] can not be converted to a i4");
 }
 
@@ -342,7 +323,7 @@ TEST_F(DeepObjects, StopWithAClearFailureWhateverTheStack) {
     std::u16string onSmallStack;
     support::RunOnStack(256 * 1024, [&] { onSmallStack = Read(node, Document(100000)); });
     for (const std::u16string& failure : {Read(node, Document(100000)), onSmallStack}) {
-        EXPECT_TRUE(failure.starts_with(Path(u"Failed to process the element [n]\n", 50)));
+        EXPECT_TRUE(failure.starts_with(Repeat(u"Failed to process the element [n]\n", 50)));
         EXPECT_NE(failure.find(u"\nThe elements are nested too deep ("), failure.npos);
     }
 }

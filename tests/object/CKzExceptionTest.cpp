@@ -20,10 +20,11 @@ TEST(CKzException, ChainsAreJoinedByLineFeedsConvertedAndCloned) {
     const CKzOverFlowException converted(e); // does not wrap
     CKzException assigned(u"old");
     assigned = e;
-    for (const CKzException& copy : {CKzException(converted), assigned}) {
-        EXPECT_EQ(copy.GetFullMessage(), u"a\nb\nc");
-        EXPECT_NE(copy.GetInnerException(), e.GetInnerException());
-        const CKzException* cause = copy.GetInnerException()->GetInnerException();
+    const CKzException* const copies[] = {&converted, &assigned};
+    for (const CKzException* copy : copies) {
+        EXPECT_EQ(copy->GetFullMessage(), u"a\nb\nc");
+        EXPECT_NE(copy->GetInnerException(), e.GetInnerException());
+        const CKzException* cause = copy->GetInnerException()->GetInnerException();
         EXPECT_NE(dynamic_cast<const CKzInvalidValueException*>(cause), nullptr);
     }
 }

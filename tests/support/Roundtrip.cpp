@@ -5,6 +5,8 @@
 #include <KzXmlLib10/collections/CElement.h>
 #include <KzXmlLib10/collections/CElementCol.h>
 
+#include <gtest/gtest.h>
+
 namespace kit {
 
 namespace {
@@ -69,6 +71,29 @@ std::u16string Read(const Model& model, const std::u16string& xml, Flag flag) {
     const CSmartPtr<CModelObject> object = model.New();
     const std::u16string failure = FailureOf([&] { object->FromXml(xml.c_str(), context); });
     return failure.empty() ? Show(*object) : failure;
+}
+
+void ExpectReads(const Model& model, std::initializer_list<support::Row> rows, Flag flag) {
+    for (const auto& [xml, row] : rows) {
+        const std::u16string root = xml.substr(1, xml.find_first_of(u" />") - 1);
+        const std::u16string rest = FromUtf8(row.substr(1));
+        EXPECT_EQ(Read(model, xml, flag), row[0] == '!'   ? FailedToRead(root.c_str(), rest)
+                                          : row[0] == '+' ? LeftOver(root.c_str(), rest.c_str())
+                                                          : FromUtf8(row))
+            << ToUtf8(xml);
+    }
+}
+
+std::u16string Rewritten(const Model& model, const std::u16string& xml) {
+    const CSmartPtr<CModelObject> object = model.New();
+    object->FromXml(xml.c_str(), {});
+    return Write(*object);
+}
+
+std::u16string Write(const CXmlObjectBase& object, Flag flag) {
+    CXmlSerializationContext context;
+    (context.*flag)(true);
+    return Write(object, context);
 }
 
 std::u16string Write(const CXmlObjectBase& object, const CXmlSerializationContext& context) {

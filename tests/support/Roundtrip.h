@@ -1,6 +1,9 @@
 #pragma once
 
 #include "support/Model.h"
+#include "support/Row.h"
+
+#include <initializer_list>
 
 /// Whole documents in, one line of text out: what tests of content models compare.
 namespace kit {
@@ -15,6 +18,7 @@ inline constexpr Flag missingElements = &CXmlSerializationContext::SetIgnoreMiss
 inline constexpr Flag unknownAttributes = &CXmlSerializationContext::SetIgnoreUnknownAttributes;
 inline constexpr Flag missingChoice = &CXmlSerializationContext::SetIgnoreMissingChoice;
 inline constexpr Flag invalidCounts = &CXmlSerializationContext::SetIgnoreInvalidCollectionCounts;
+inline constexpr Flag defaultAttributes = &CXmlSerializationContext::SetNoOptionalAttributeDefaultOutput;
 inline constexpr Flag namespaces = &CXmlSerializationContext::SetIgnoreNamespaces;
 
 /// The failure of reading an element of this name, in front of `cause`.
@@ -32,7 +36,15 @@ std::u16string Show(const CModelObject& object);
 /// failure.
 std::u16string Read(const Model& model, const std::u16string& xml, Flag flag = none);
 
+/// Compares what Read gives for each document. In the rows "!cause" is FailedToRead the root, and "+child" is
+/// LeftOver in the root.
+void ExpectReads(const Model& model, std::initializer_list<support::Row> rows, Flag flag = none);
+
 /// The object as unformatted text, or the full message of the failure.
 std::u16string Write(const CXmlObjectBase& object, const CXmlSerializationContext& context = {});
+std::u16string Write(const CXmlObjectBase& object, Flag flag);
+
+/// What a fresh object of the model writes after reading the document.
+std::u16string Rewritten(const Model& model, const std::u16string& xml);
 
 } // namespace kit
