@@ -5,6 +5,7 @@
 #include "support/Failure.h"
 #include "support/FastInfoset.h"
 #include "support/Model.h"
+#include "support/Row.h"
 
 #include <KzXmlLib10/xml/CXmlDocument.h>
 #include <KzXmlLib10/xml/Compression.h>
@@ -42,30 +43,30 @@ CBinaryData Concatenated(const std::string& head, const CBinaryData& piece, std:
 }
 
 /// Compares what is read of the bytes behind the identification and the byte of options. Behind a "@" stand
-/// the attributes of a root "a"; behind a ".", its content.
-void Check(std::initializer_list<std::pair<std::string, std::string>> rows) {
-    for (const auto& [bytes, result] : rows) {
-        const std::string body = bytes[0] == '@'   ? "7C 00 'a'" + bytes.substr(1) + "FF F0"
-                                 : bytes[0] == '.' ? "3C 00 'a'" + bytes.substr(1) + "FF"
+/// the attributes of a root "a"; behind a "=", the value of its attribute "b"; behind a ".", its content.
+void Check(std::initializer_list<Row> rows) {
+    for (const Row& row : rows) {
+        const std::string bytes = ToUtf8(row.text), rest = bytes.substr(1);
+        const std::string body = bytes[0] == '@'   ? "7C 00 'a'" + rest + "FF F0"
+                                 : bytes[0] == '=' ? "7C 00 'a' 78 00 'b'" + rest + "FF F0"
+                                 : bytes[0] == '.' ? "3C 00 'a'" + rest + "FF"
                                                    : bytes;
-        EXPECT_EQ(Read(HexBytes(start + body)), result) << bytes;
+        EXPECT_EQ(Read(HexBytes(start + body)), row.expected) << bytes;
     }
 }
 
 TEST(CFastInfosetReader, ReadsNamesInAllForms) {
-    const std::string literal = "3F 00 'p' 04 'urn:p' 00 'a'";
     Check({
-        {"3C 00 'a' FF", "a"},
-        {"3D 04 'urn:p' 00 'a' FF", "{urn:p}a"},
-        {literal + "FF", "{urn:p}a"},
-        {literal + "00 FF F0", "{urn:p}a[{urn:p}a]"},                      // by index
-        {literal + "3F 81 81 80 FF F0", "{urn:p}a[{urn:p}a]"},             // by indices of its parts
-        {"3F 80 80 00 'a' FF", "{http://www.w3.org/XML/1998/namespace}a"}, // known from the start
-        {"3D 04 'urn:p' 00 'a' 3C 80 01 00 FF FF", "{urn:p}a[a[a[{urn:p}a]]]"},
-        {"38 CC CD 04 'urn:d' CE 00 'p' CF 81 81 F0 3D 81 00 'a' FF", "{urn:d}a"},
-        {"@ 7B 00 'p' 04 'urn:p' 00 'b' 40 '1' 00 80 79 81 80 FF", "a[@{urn:p}b=1 @{urn:p}b=1 @{urn:p}a=]"},
-        {"3C 02 62 00 63 FF", "b"}, // a name ends at a zero
-        {"3C 02 62 C0 63 FF", "b"}, // and at malformed UTF-8
+        "3C 00 'a' FF -> a", "3D 04 'urn:p' 00 'a' FF -> {urn:p}a",
+        "3F 00 'p' 04 'urn:p' 00 'a' FF -> {urn:p}a",
+        "3F 00 'p' 04 'urn:p' 00 'a' 00 FF F0 -> {urn:p}a[{urn:p}a]",          // by index
+        "3F 00 'p' 04 'urn:p' 00 'a' 3F 81 81 80 FF F0 -> {urn:p}a[{urn:p}a]", // by indices of its parts
+        "3F 80 80 00 'a' FF -> {http://www.w3.org/XML/1998/namespace}a",       // known from the start
+        "3D 04 'urn:p' 00 'a' 3C 80 01 00 FF FF -> {urn:p}a[a[a[{urn:p}a]]]",
+        "38 CC CD 04 'urn:d' CE 00 'p' CF 81 81 F0 3D 81 00 'a' FF -> {urn:d}a",
+        "@ 7B 00 'p' 04 'urn:p' 00 'b' 40 '1' 00 80 79 81 80 FF -> a[@{urn:p}b=1 @{urn:p}b=1 @{urn:p}a=]",
+        "3C 02 62 00 63 FF -> b", // a name ends at a zero
+        "3C 02 62 C0 63 FF -> b"  // and at malformed UTF-8
     });
 }
 
@@ -84,57 +85,54 @@ TEST(CFastInfosetReader, KeepsTheLastDeclarationOfAPrefixAndLeavesTheCallbackFor
 
 TEST(CFastInfosetReader, ReadsValuesInAllForms) {
     Check({
-        {"@ 78 00 'b' 00 'v'", "a[@b=v]"},
-        {"@ 78 00 'b' FF", "a[@b=]"},
-        {"@ 78 00 'b' 00 'u' 00 40 'v' 00 00 'w' 00 40 'x' 00 80 00 81", // some of them for the table
-         "a[@b=u @b=v @b=w @b=x @b=v @b=x]"},
-        {"@ 78 00 'b' 02 'v' 0D 'w'", "a[@b=v\\rw]"},
-        {". 80 'u' 92 00 'vwx' 90 'y' A0 A1", "a[\"uvwxyvwxy\"]"},
-        {". 81 C3A9 C8 00 'e' 80 '1' CB 00 'e' 00 's' 80 80 '2'", "a[\"\u00E9"
-                                                                  "12\"]"},
-        {". 80 '1' E1 00 't' 00 'd' 80 '2' E2 00 'c' 80 '3'", "a[\"123\"]"},
-        {". 82 00 'x' 0D 'y'", "a[\"xy\"]"},        // carriage returns go
-        {". 82 00 'x' 00 'y' 80 'z'", "a[\"xz\"]"}, // a piece of text ends at a zero
-        {". 82 00 'x' C0 'y' 80 'z'", "a[\"xz\"]"}, // and at malformed UTF-8
+        "= 00 'v' -> a[@b=v]", "= FF -> a[@b=]",
+        // Some of them for the table.
+        "= 00 'u' 00 40 'v' 00 00 'w' 00 40 'x' 00 80 00 81 -> a[@b=u @b=v @b=w @b=x @b=v @b=x]",
+        "= 02 'v' 0D 'w' -> a[@b=v\\rw]", ". 80 'u' 92 00 'vwx' 90 'y' A0 A1 -> a[\"uvwxyvwxy\"]",
+        ". 81 C3A9 C8 00 'e' 80 '1' CB 00 'e' 00 's' 80 80 '2' -> a[\"\u00E9"
+        "12\"]",
+        ". 80 '1' E1 00 't' 00 'd' 80 '2' E2 00 'c' 80 '3' -> a[\"123\"]",
+        ". 82 00 'x' 0D 'y' -> a[\"xy\"]",        // carriage returns go
+        ". 82 00 'x' 00 'y' 80 'z' -> a[\"xz\"]", // a piece of text ends at a zero
+        ". 82 00 'x' C0 'y' 80 'z' -> a[\"xz\"]"  // and at malformed UTF-8
     });
 }
 
 TEST(CFastInfosetReader, DecodesEveryAlgorithmAndAlphabet) {
-    const std::string noAlphabet = "Invalid Encoding of Restricted Alphabet. Alphabet must contain between 2 "
-                                   "and 2^20 characters.";
-    const std::string uuid = "00112233445566778899AABBCCDDEEFF";
-    Check({
-        {"@ 78 00 'b' 70 01 0AFF", "a[@b=0AFF]"},
-        {"@ 78 00 'b' 70 12 0AFF01", "a[@b=Cv8B]"},
-        {"@ 78 00 'b' 70 23 FFFE0001", "a[@b=-2 1]"},
-        {"@ 78 00 'b' 70 50 38", "a[@b=true]"},
-        {"@ 78 00 'b' 70 88 07" + uuid, "a[@b=" + uuid + "]"},
-        {"@ 78 00 'b' 70 91 C3A9", "a[@b=\u00E9]"},
-        {"@ 78 00 'b' 60 01 A12D", "a[@b=-12e]"},
-        {"@ 78 00 'b' 60 11 1DEF", "a[@b=1Z ]"},
-        {". 9C 09 FFFE A0", "a[\"-2-2\"]"},
-        {". 8C 25 C3A9", "a[\"\u00E9\"]"},
-        {". 88 05 1DEF", "a[\"1Z \"]"},
-        {"@ 78 00 'b' 70 20 00", "Invalid value for SHORT byte encoding."},
-        {"@ 78 00 'b' 7F F0 00", "Unknown byte encoding."},
-        {". 8C 28 00", "Unknown byte encoding."},
-        {"@ 78 00 'b' 60 00 F1", "The position [15] lies beyond the Restricted Alphabet."},
-        {"@ 78 00 'b' 60 20 00", noAlphabet},
-        {". 8B FC 00", noAlphabet},
-        {"@ 78 00 'b' 11 0041", "Unsupported Feature UTF16BE string."},
-        {". 85 0041", "Unsupported Feature UTF16BE string."},
-    });
+    Check({"= 70 01 0AFF -> a[@b=0AFF]",
+           "= 70 12 0AFF01 -> a[@b=Cv8B]",
+           "= 70 23 FFFE0001 -> a[@b=-2 1]",
+           "= 70 50 38 -> a[@b=true]",
+           "= 70 33 80000000 -> a[@b=-2147483648]",
+           "= 70 47 7FFFFFFFFFFFFFFF -> a[@b=9223372036854775807]",
+           "= 70 77 3FF8000000000000 -> a[@b=1.5]",
+           "= 70 63 3FC00000 -> a[@b=0.7470588]", // the first byte stands for all four
+
+           "= 70 88 0700112233445566778899AABBCCDDEEFF -> a[@b=00112233445566778899AABBCCDDEEFF]",
+           "= 70 91 C3A9 -> a[@b=\u00E9]",
+           "= 60 01 A12D -> a[@b=-12e]",
+           "= 60 11 1DEF -> a[@b=1Z ]",
+           ". 9C 09 FFFE A0 -> a[\"-2-2\"]",
+           ". 8C 25 C3A9 -> a[\"\u00E9\"]",
+           ". 88 05 1DEF -> a[\"1Z \"]",
+           "= 70 20 00 -> Invalid value for SHORT byte encoding.",
+           "= 7F F0 00 -> Unknown byte encoding.",
+           ". 8C 28 00 -> Unknown byte encoding.",
+           "= 60 00 F1 -> The position [15] lies beyond the Restricted Alphabet.",
+           "= 60 20 00 -> Invalid Encoding of Restricted Alphabet. Alphabet must contain between 2 and 2^20 "
+           "characters.",
+           ". 8B FC 00 -> Invalid Encoding of Restricted Alphabet. Alphabet must contain between 2 and 2^20 "
+           "characters.",
+           "= 11 0041 -> Unsupported Feature UTF16BE string.",
+           ". 85 0041 -> Unsupported Feature UTF16BE string."});
 }
 
 TEST(CFastInfosetReader, EndsStandAloneOrInPairs) {
-    Check({
-        {"3C 00 'a' 00 F0 F0 F0", "a[a]"},
-        {"3C 00 'a' 00 00 FF 00 FF", "a[a[a] a]"},
-        {"3C 00 'a' 00 FF", "a[a]"},                          // what follows the root is not looked at
-        {"7C 00 'a' 78 00 'b' FF F0 FF", "a[@b=]"},           // of the attributes; of element and document
-        {"3C 00 'a' 7C 80 78 80 FF FF 00 FF", "a[a[@a=] a]"}, // of attributes and element
-        {"7C 00 'a' F0 F0", "a"},
-    });
+    Check({"3C 00 'a' 00 F0 F0 F0 -> a[a]", "3C 00 'a' 00 00 FF 00 FF -> a[a[a] a]",
+           "3C 00 'a' 00 FF -> a[a]",                          // what follows the root is not looked at
+           "7C 00 'a' 78 00 'b' FF F0 FF -> a[@b=]",           // of the attributes; of element and document
+           "3C 00 'a' 7C 80 78 80 FF FF 00 FF -> a[a[@a=] a]", // of attributes and element
+           "7C 00 'a' F0 F0 -> a"});
 }
 
 /// One with all optional components, and each of their optional parts once there and once not.
@@ -161,44 +159,36 @@ const std::string everything =
 TEST(CFastInfosetReader, ReadsPastWhatItDoesNotKeep) {
     EXPECT_EQ(Read(HexBytes("E0 00 00 01" + everything)),
               "{urn:d}a[@b=value @{urn:d}c=value @b=1Z  \"text\" x[\"text7\"] {urn:d}a[{urn:d}a[@b=]]]");
-    Check({
-        {"C4 F0 3C 00 'a' FF", "a"},
-        {"C6 00 's' 3C 00 'a' FF", "a"}, // a document type without its end
-        {"D5 E0 C3 3C 00 'a' FF", "a"},  // unknown items
-        {"F0 3C 00 'a' FF", "null"},     // the end of the document
-        {"E2 00 'c' FF", "null"},
-    });
+    Check({"C4 F0 3C 00 'a' FF -> a",
+           "C6 00 's' 3C 00 'a' FF -> a", // a document type without its end
+           "D5 E0 C3 3C 00 'a' FF -> a",  // unknown items
+           "F0 3C 00 'a' FF -> null",     // the end of the document
+           "E2 00 'c' FF -> null"});
     const std::string head = "E0 00 00 01";
     CBinaryData manyItems = Concatenated(head + "40 800000", HexBytes("00 'u' 00 'd'"), 129);
     manyItems.Append(HexBytes("3C 00 'a' FF"));
     EXPECT_EQ(Read(manyItems), "a");
-    // The tables in the document have no effect.
-    EXPECT_EQ(Read(HexBytes(head + "20 0100 00 00 'n' 3D 81 00 'a' FF")),
-              "The index [2] lies beyond its table.");
-    EXPECT_EQ(Read(HexBytes(head + "40 90 00")), "Invalid Encoding of the length of a sequence.");
-    EXPECT_EQ(Read(HexBytes(head + "10 C8 00")), "Invalid Encoding of Notations or Unparsed Entities.");
-    EXPECT_EQ(Read(HexBytes(head + "08 C0 00")), "Invalid Encoding of Notations or Unparsed Entities.");
+    const std::string declarations = "Invalid Encoding of Notations or Unparsed Entities.";
+    for (const auto& [bytes, failure] :
+         {std::pair<std::string, std::string>{"40 90 00", "Invalid Encoding of the length of a sequence."},
+          {"10 C8 00", declarations},
+          {"08 C0 00", declarations},
+          {"20 0100 00 00 'n' 3D 81 00 'a' FF", "The index [2] lies beyond its table."}}) // it has no effect
+        EXPECT_EQ(Read(HexBytes(head + bytes)), failure);
 }
 
 TEST(CFastInfosetReader, RefusesWhatHasNoMeaning) {
-    const std::string octets = "Invalid NonEmptyOctetString type  on the ";
-    const std::string from1 = "Invalid Encoding of integers 1 To 2^20 type  on the ";
-    const std::string from0 = "Invalid Encoding of integers 0 To 2^20 type  on the ";
-    Check({
-        {"3E 00 'p' 00 'a' FF", "Invalid QName type Prefix without Namespace."},
-        {"3C 41", octets + "second bit of an octet."},
-        {"@ 78 00 'b' 09", octets + "fifth bit of an octet."},
-        {"@ 77", from1 + "second bit of an octet."},
-        {"31", from1 + "third bit of an octet."},
-        {". B9", from1 + "fourth bit of an octet."},
-        {"@ 78 00 'b' F0", from0 + "second bit of an octet."},
-        {". CC", "Invalid Encoding of Element type."},
-        {". E0", "Invalid Encoding of Element type."},
-        {". F1", "Invalid Encoding of Element type."},
-        {"3C 60 FFFFFFFF 'a'", "Unexpected End of File."}, // 2^32 + 320 bytes, which are not 320
-        {"@ 78 00 'b' 0C FFFFFFFF", "Unexpected End of File."},
-        {". 83 FFFFFFFF", "Unexpected End of File."},
-    });
+    Check({"3E 00 'p' 00 'a' FF -> Invalid QName type Prefix without Namespace.",
+           "3C 41 -> Invalid NonEmptyOctetString type  on the second bit of an octet.",
+           "= 09 -> Invalid NonEmptyOctetString type  on the fifth bit of an octet.",
+           "@ 77 -> Invalid Encoding of integers 1 To 2^20 type  on the second bit of an octet.",
+           "31 -> Invalid Encoding of integers 1 To 2^20 type  on the third bit of an octet.",
+           ". B9 -> Invalid Encoding of integers 1 To 2^20 type  on the fourth bit of an octet.",
+           "= F0 -> Invalid Encoding of integers 0 To 2^20 type  on the second bit of an octet.",
+           ". CC -> Invalid Encoding of Element type.", ". E0 -> Invalid Encoding of Element type.",
+           ". F1 -> Invalid Encoding of Element type.",
+           "3C 60 FFFFFFFF 'a' -> Unexpected End of File.", // 2^32 + 320 bytes, which are not 320
+           "= 0C FFFFFFFF -> Unexpected End of File.", ". 83 FFFFFFFF -> Unexpected End of File."});
 }
 
 TEST(CFastInfosetReader, ChecksEveryIndexAgainstItsTable) {
