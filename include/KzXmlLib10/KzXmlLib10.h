@@ -18,6 +18,7 @@
 #include <KzXmlLib10/object/IEventSink.h>
 #include <KzXmlLib10/object/INillable.h>
 #include <KzXmlLib10/object/ItemType.h>
+#include <KzXmlLib10/object/Limits.h>
 #include <KzXmlLib10/object/Register.h>
 #include <KzXmlLib10/object/Text.h>
 

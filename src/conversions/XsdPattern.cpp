@@ -4,6 +4,7 @@
 
 #include "conversions/LenientPattern.h"
 #include "conversions/Messages.h"
+#include "object/CurrentLimit.h"
 #include "object/Throw.h"
 
 #define PCRE2_CODE_UNIT_WIDTH 8
@@ -89,10 +90,10 @@ Code Compile(const std::string& pattern, const std::u16string& value) {
 } // namespace
 
 bool MatchXsdPattern(std::string pattern, std::u16string value) {
-    constexpr std::uint32_t heapLimitInKiB = 64 * 1024;
     const Code code = Compile(Translate(std::move(pattern)), value);
     const MatchContext context(NotOutOfMemory(pcre2_match_context_create(nullptr)));
-    pcre2_set_heap_limit(context.get(), heapLimitInKiB);
+    pcre2_set_heap_limit(context.get(),
+                         static_cast<std::uint32_t>(CurrentLimit(&Limits::patternHeapBytes) / 1024));
     const MatchData data(NotOutOfMemory(pcre2_match_data_create_from_pattern(code.get(), nullptr)));
     const std::string subject = ConvertToUtf8(value);
     const int result = pcre2_match(code.get(), reinterpret_cast<PCRE2_SPTR>(subject.data()), subject.size(),

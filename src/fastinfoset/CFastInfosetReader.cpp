@@ -46,10 +46,12 @@ bool IsOneOf(Byte byte, Byte markWithParts) { return (byte & ~PartsMask) == mark
 
 } // namespace
 
-CFastInfosetReader::CFastInfosetReader(const CFastInfosetContext* context, CXmlDocument* document)
+CFastInfosetReader::CFastInfosetReader(const CFastInfosetContext* context, CXmlDocument* document,
+                                       std::uint64_t handedIn)
     : CInstanceMonitor(u"CFastInfosetReader"), m_fiContext(context), m_document(document),
-      m_next(document->m_buffer.get()), m_end(m_next + document->m_bufferSize),
-      m_budget(document->m_bufferSize) {}
+      m_next(document->m_buffer.get()), m_end(m_next + document->m_bufferSize) {
+    m_budget.Extend(handedIn, document->m_bufferSize);
+}
 
 CFastInfosetReader::~CFastInfosetReader() = default;
 
@@ -197,7 +199,7 @@ void CFastInfosetReader::ParseElement(Byte first) {
     if ((first & ElementNameMask) == NamespaceAttributesFollow)
         first = ParseNamespaceAttributes();
     ParseName(first, LiteralElementName, ElementNameMask, integerBit3, m_vocabulary->m_elementNames);
-    m_budget.Charge(m_namespaceName.size() + m_localName.size());
+    m_budget.Charge(m_namespaceName.size() + m_localName.size(), sizeof(CXmlElement));
     if (m_document->m_documentElement)
         m_document->AddChildElement(m_namespaceName, m_localName);
     else
@@ -267,7 +269,7 @@ bool CFastInfosetReader::ParseAttributes() {
 void CFastInfosetReader::ParseAttribute(Byte first) {
     ParseName(first, LiteralAttributeName, AttributeNameMask, integerBit2, m_vocabulary->m_attributeNames);
     const std::u16string_view value = ParseNonIdentifyingString();
-    m_budget.Charge(m_namespaceName.size() + m_localName.size() + value.size());
+    m_budget.Charge(m_namespaceName.size() + m_localName.size() + value.size(), sizeof(CXmlAttribute));
     m_document->AddElementAttribute(m_document->m_elementStack.back(), m_localName, value, m_namespaceName);
 }
 

@@ -32,7 +32,8 @@ namespace KzXmlLib10 {
 /// callback for elements is not called; malformed UTF-8 ends its string, without a failure.
 class CFastInfosetReader : public CInstanceMonitor {
 public:
-    CFastInfosetReader(const CFastInfosetContext* context, CXmlDocument* document);
+    /// `handedIn` is the size that the document's buffer had before decompression.
+    CFastInfosetReader(const CFastInfosetContext* context, CXmlDocument* document, std::uint64_t handedIn);
     ~CFastInfosetReader() override;
 
     /// Whether the buffer holds a Fast Infoset document, with or without a declaration. Moves behind its

@@ -9,6 +9,8 @@ inline constexpr char16_t MalformedUtf8[] = u"Malformed UTF-8 at byte %I64u";
 
 inline constexpr char16_t NullArgument[] = u"The argument %s may not be null";
 
+inline constexpr char16_t LimitTooLarge[] = u"The limit %s may not be above %I64u";
+
 inline constexpr char16_t AliasNotFound[] = u"Namespace alias [%s] not found";
 inline constexpr char16_t NamespaceIndexOutOfRange[] = u"There is no namespace at the index %d";
 inline constexpr char16_t MissingElementsAreIgnored[] =

@@ -1,5 +1,6 @@
 #include "object/RecursionLevel.h"
 
+#include "object/CurrentLimit.h"
 #include "object/Messages.h"
 #include "object/Throw.h"
 
@@ -14,33 +15,33 @@ namespace KzXmlLib10 {
 namespace {
 
 #if defined(__SANITIZE_ADDRESS__)
-constexpr std::size_t reserveSize = 512 * 1024;
+constexpr std::uint64_t leastReserve = 512 * 1024;
 #elif defined(__has_feature)
 #    if __has_feature(address_sanitizer)
-constexpr std::size_t reserveSize = 512 * 1024;
+constexpr std::uint64_t leastReserve = 512 * 1024;
 #    else
-constexpr std::size_t reserveSize = 128 * 1024;
+constexpr std::uint64_t leastReserve = 0;
 #    endif
 #else
-constexpr std::size_t reserveSize = 128 * 1024;
+constexpr std::uint64_t leastReserve = 0;
 #endif
 
-constexpr int maxLevels = 10000;
+struct Stack {
+    std::uintptr_t low;
+    std::uintptr_t size;
 
-/// The part of a stack that is kept for reporting the failure.
-struct Reserve {
-    std::uintptr_t begin;
-    std::uintptr_t end;
-
-    /// Whether the caller has come so far down. A coroutine runs on a stack elsewhere, which is not known.
-    bool IsReached() const {
+    /// Whether the caller stands in the part that is kept for reporting the failure. A coroutine runs on a
+    /// stack elsewhere, which is not known.
+    bool IsUsedUp() const {
+        const std::uint64_t reserve = std::max(CurrentLimit(&Limits::stackReserve), leastReserve);
         // Not the address of a variable, which a sanitizer may keep off the stack.
         const auto here = reinterpret_cast<std::uintptr_t>(__builtin_frame_address(0));
-        return here >= begin && here < end;
+        return here - low <
+               std::min<std::uint64_t>(size / 2, reserve); // a small stack keeps half for the work
     }
 };
 
-Reserve FindReserve() {
+Stack FindStack() {
     pthread_attr_t attributes;
     if (pthread_getattr_np(pthread_self(), &attributes) != 0)
         return {0, 0};
@@ -48,17 +49,16 @@ Reserve FindReserve() {
     std::size_t size = 0;
     pthread_attr_getstack(&attributes, &low, &size);
     pthread_attr_destroy(&attributes);
-    const auto begin = reinterpret_cast<std::uintptr_t>(low);
-    return {begin, begin + std::min(size / 2, reserveSize)}; // a small stack keeps half for the work
+    return {reinterpret_cast<std::uintptr_t>(low), size};
 }
 
-thread_local int levels = 0;
-thread_local const Reserve reserve = FindReserve();
+thread_local std::uint32_t levels = 0;
+thread_local const Stack stack = FindStack();
 
 } // namespace
 
 RecursionLevel::RecursionLevel() {
-    if (levels >= maxLevels || reserve.IsReached())
+    if (levels >= CurrentLimit(&Limits::nestedObjects) || stack.IsUsedUp())
         Throw<CKzException>(messages::NestedTooDeep, levels);
     ++levels;
 }

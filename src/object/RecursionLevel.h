@@ -4,8 +4,9 @@ namespace KzXmlLib10 {
 
 /// Counts one level of nested objects while it lives.
 ///
-/// Generated classes recurse by nature. The constructor throws CKzException at 10,000 levels, or when little
-/// of the thread's stack is left, so that a deep document ends in a clear failure.
+/// Generated classes recurse by nature. The constructor throws CKzException at Limits::nestedObjects, or when
+/// no more than Limits::stackReserve of the thread's stack is left, so that a deep document ends in a clear
+/// failure.
 class RecursionLevel {
 public:
     RecursionLevel();

@@ -2,6 +2,7 @@
 
 #include <KzXmlLib10/object/FormatString.h>
 
+#include "object/CurrentLimit.h"
 #include "object/NotNull.h"
 #include "object/Throw.h"
 #include "values/DecimalReader.h"
@@ -25,7 +26,6 @@ namespace {
 
 using Digits = CBigInteger::Digits;
 
-constexpr int largestExponent = 10'000;
 constexpr int largestPlaces = 4'096;
 constexpr int guardPlaces = 2;
 constexpr std::size_t longestText = 1024;
@@ -111,8 +111,9 @@ void CDecimal::Parse(const char16_t* text) {
 void CDecimal::MultiplyByPowerOfTen(long long exponent, const char16_t* text) {
     CBigInteger scaled = Scaled();
     if (!scaled.IsZero()) {
-        if (exponent > largestExponent)
-            Throw<CKzInvalidValueException>(messages::ExponentOfDecimalTooLarge, largestExponent, text);
+        if (const auto limit = static_cast<long long>(CurrentLimit(&Limits::decimalExponent));
+            exponent > limit)
+            Throw<CKzInvalidValueException>(messages::ExponentOfDecimalTooLarge, limit, text);
         CBigInteger::ShiftLeft(scaled.m_digits, static_cast<std::uint32_t>(exponent));
     }
     *this = FromScaled(std::move(scaled), m_divider);

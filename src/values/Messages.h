@@ -106,7 +106,7 @@ inline constexpr char16_t PowerOfTenTooLarge[] = u"ERROR: The power of ten %u is
 inline constexpr char16_t InvalidCharInDecimal[] =
     u"The string representing a Decimal, contained an invalid char at position %d [%s]"; // sic
 inline constexpr char16_t ExponentOfDecimalTooLarge[] =
-    u"The string representing a Decimal, contained an exponent above %d [%s]";
+    u"The string representing a Decimal, contained an exponent above %I64d [%s]";
 inline constexpr char16_t DecimalTooLargeForLong[] =
     u"The Decimal value if to large to fit into a LONG"; // sic
 inline constexpr char16_t DecimalTooLargeForLongLong[] =

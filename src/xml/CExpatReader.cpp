@@ -54,6 +54,9 @@ void CExpatReader::Initialize(const char16_t* protocolEncoding) {
     static const bool hasWideCharacters = expat::HasWideCharacters();
     if (!hasWideCharacters)
         Throw<CKzException>(messages::ParserCharactersDiffer);
+    static const bool boundsEntities = expat::BoundsEntities();
+    if (!boundsEntities)
+        Throw<CKzException>(messages::EntitiesUnbounded);
 
     m_buffer = std::make_unique<unsigned char[]>(m_bufferSize);
     const XML_Char* encoding = expat::Text(protocolEncoding);
@@ -72,10 +75,10 @@ void CExpatReader::Initialize(const char16_t* protocolEncoding) {
         XML_SetCdataSectionHandler(parser, StartCdataHandler, EndCdataHandler);
 }
 
-void CExpatReader::ParseChunk(bool isFinal) {
+void CExpatReader::ParseChunk(bool isFinal, std::uint64_t handedIn) {
     const char* next = reinterpret_cast<const char*>(m_document->m_buffer.get());
     std::uint32_t left = m_document->m_bufferSize;
-    m_budget.Extend(left);
+    m_budget.Extend(handedIn, left);
     do {
         const std::uint32_t slice = std::min(left, SliceSize);
         left -= slice;
@@ -115,7 +118,7 @@ void CExpatReader::Handle(void* userData, Action action) noexcept {
 
 void CExpatReader::StartElement(const char16_t* name, const XML_Char** attributes) {
     const auto [uri, local] = SplitName(name);
-    m_budget.Charge(uri.size() + local.size());
+    m_budget.Charge(uri.size() + local.size(), sizeof(CXmlElement));
     CXmlElement* element = m_document->m_documentElement ? m_document->AddChildElement(uri, local)
                                                          : m_document->AddDocElement(uri, local);
     std::size_t count = 0;

@@ -35,8 +35,9 @@ public:
     /// Creates the parser. A protocol encoding overrules what the document declares; null leaves it to expat.
     void Initialize(const char16_t* protocolEncoding = nullptr);
 
-    /// Parses the document's buffer; `isFinal` says that nothing follows.
-    void ParseChunk(bool isFinal);
+    /// Parses the document's buffer; `isFinal` says that nothing follows. `handedIn` is the size that it had
+    /// before decompression.
+    void ParseChunk(bool isFinal, std::uint64_t handedIn);
 
 private:
     static void XMLCALL StartElementHandler(void* reader, const XML_Char* name, const XML_Char** attributes);
@@ -60,7 +61,7 @@ private:
     std::uint32_t m_bufferSize = 1024;
     expat::Parser m_parser;
     std::exception_ptr m_failure;
-    TreeBudget m_budget{0};
+    TreeBudget m_budget;
 };
 
 } // namespace KzXmlLib10

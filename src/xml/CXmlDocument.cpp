@@ -1,5 +1,6 @@
 #include <KzXmlLib10/xml/CXmlDocument.h>
 
+#include "object/CurrentLimit.h"
 #include "object/NotNull.h"
 #include "object/Throw.h"
 #include "xml/AsyncFiles.h"
@@ -51,7 +52,7 @@ void CXmlDocument::LoadXml(const char* text) {
     if (size == 0)
         Throw<CKzException>(messages::XmlStringIsEmpty);
     std::memcpy(SetBuffer(NewBuffer(size), size), text, size);
-    ParseText();
+    ParseText(size);
 }
 
 void CXmlDocument::LoadXml(const char16_t* text) {
@@ -65,13 +66,13 @@ void CXmlDocument::LoadXml(const char16_t* text) {
     Cleanup(); // not earlier, since the text may stand in the tree
     SetBuffer(std::move(buffer), size);
     // The parser would refuse a declaration of another encoding, had it only the mark to go by.
-    ParseText(u"UTF-16");
+    ParseText(size, u"UTF-16");
 }
 
 /// An array for an input of `size` bytes.
 std::unique_ptr<unsigned char[]> CXmlDocument::NewBuffer(std::uint64_t size) {
-    if (size > std::numeric_limits<std::uint32_t>::max())
-        Throw<CKzException>(messages::InputTooLarge, size);
+    if (const std::uint64_t limit = CurrentLimit(&Limits::inputBytes); size > limit)
+        Throw<CKzException>(messages::InputTooLarge, size, limit);
     return std::make_unique_for_overwrite<unsigned char[]>(size);
 }
 
@@ -81,10 +82,10 @@ unsigned char* CXmlDocument::SetBuffer(std::unique_ptr<unsigned char[]> buffer, 
     return m_buffer.get();
 }
 
-void CXmlDocument::ParseText(const char16_t* protocolEncoding) {
+void CXmlDocument::ParseText(std::uint64_t handedIn, const char16_t* protocolEncoding) {
     CExpatReader reader(this);
     reader.Initialize(protocolEncoding);
-    reader.ParseChunk(true);
+    reader.ParseChunk(true, handedIn);
 }
 
 std::u16string CXmlDocument::LookupNamespaceFromAlias(const char16_t* alias) const {

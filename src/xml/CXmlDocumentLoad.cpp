@@ -92,10 +92,11 @@ void CXmlDocument::LoadWhole(const std::u16string& fileName) {
 
 /// Reads the form that the buffer turns out to have; text is what is nothing else.
 void CXmlDocument::Parse() {
+    const std::uint64_t handedIn = m_bufferSize;
     DecompressBuffer();
-    CFastInfosetReader reader(&m_context->GetFIContext(), this);
+    CFastInfosetReader reader(&m_context->GetFIContext(), this, handedIn);
     if (!reader.IsFastInfoset())
-        return ParseText();
+        return ParseText(handedIn);
     reader.ReadHeader();
     reader.ParseDocument();
 }
@@ -142,7 +143,7 @@ void CXmlDocument::AsyncParse(bool isLast) {
         reader.Initialize();
         while (!isLast) {
             ReadChunkFromFile(spare.get());
-            reader.ParseChunk(false);
+            reader.ParseChunk(false, m_bufferSize);
             std::size_t count = 0;
             // Deliberate: a file that ends with a full block fails here, since only a short one is the last.
             if (const int error = m_file->Finish(count))
@@ -152,7 +153,7 @@ void CXmlDocument::AsyncParse(bool isLast) {
             m_bufferSize = static_cast<std::uint32_t>(count);
             isLast = count < BlockSize;
         }
-        reader.ParseChunk(true);
+        reader.ParseChunk(true, m_bufferSize);
         if (!m_documentElement)
             Throw<CKzException>(messages::NoRootElement);
     } catch (...) {

@@ -1,12 +1,12 @@
 #include <KzXmlLib10/xml/Compression.h>
 
+#include "object/CurrentLimit.h"
 #include "object/NotNull.h"
 #include "object/Throw.h"
 #include "xml/Messages.h"
 
 #include <zlib.h>
 
-#include <atomic>
 #include <limits>
 #include <memory>
 #include <new>
@@ -19,8 +19,6 @@ constexpr int level = 1; // speed before size
 constexpr int gzipFormat = 15 + 16;
 constexpr int eitherFormat = 15 + 32; // inflate finds out by the first bytes
 constexpr unsigned long blockSize = 0x10000;
-
-std::atomic<std::uint32_t> maxInflatedSize = 1u << 30;
 
 using ByteArray = std::unique_ptr<unsigned char[]>;
 
@@ -99,7 +97,7 @@ void CompressBuffer(unsigned char** data, unsigned long* size, CompressionType t
 
 void Decompress(unsigned char** data, unsigned long* size) {
     RequireArray(data, size);
-    const std::uint32_t limit = GetMaxInflatedSize();
+    const std::uint64_t limit = CurrentLimit(&Limits::inflatedBytes);
     Stream<inflateEnd> stream(*data, *size);
     if (Checked(inflateInit2(&stream, eitherFormat)) != Z_OK)
         return;
@@ -119,9 +117,5 @@ void Decompress(unsigned char** data, unsigned long* size) {
     *data = content.ReleaseData();
     *size = stream.total_out;
 }
-
-std::uint32_t GetMaxInflatedSize() { return maxInflatedSize; }
-
-void SetMaxInflatedSize(std::uint32_t bytes) { maxInflatedSize = bytes; }
 
 } // namespace KzXmlLib10

@@ -16,14 +16,23 @@ static_assert(sizeof(XML_Char) == sizeof(char16_t), "expat has to be built for, 
 inline const char16_t* Text(const XML_Char* text) { return reinterpret_cast<const char16_t*>(text); }
 inline const XML_Char* Text(const char16_t* text) { return reinterpret_cast<const XML_Char*>(text); }
 
+/// A feature of the library that was linked, or 0 if it has none of the kind.
+inline long Feature(XML_FeatureEnum kind) {
+    for (const XML_Feature* feature = XML_GetFeatureList(); feature->feature != XML_FEATURE_END; ++feature) {
+        if (feature->feature == kind)
+            return feature->value;
+    }
+    return 0;
+}
+
 /// Whether the library that was linked has the characters of the header; the 8-bit library has the same
 /// symbols.
-inline bool HasWideCharacters() {
-    for (const XML_Feature* feature = XML_GetFeatureList(); feature->feature != XML_FEATURE_END; ++feature) {
-        if (feature->feature == XML_FEATURE_SIZEOF_XML_CHAR)
-            return feature->value == sizeof(char16_t);
-    }
-    return false;
+inline bool HasWideCharacters() { return Feature(XML_FEATURE_SIZEOF_XML_CHAR) == sizeof(char16_t); }
+
+/// Whether it stops entities that expand to many times the input.
+inline bool BoundsEntities() {
+    return Feature(XML_FEATURE_BILLION_LAUGHS_ATTACK_PROTECTION_MAXIMUM_AMPLIFICATION_DEFAULT) != 0 &&
+           Feature(XML_FEATURE_BILLION_LAUGHS_ATTACK_PROTECTION_ACTIVATION_THRESHOLD_DEFAULT) != 0;
 }
 
 /// The text of an error, which is ASCII.

@@ -9,12 +9,14 @@ namespace KzXmlLib10::messages {
 // Reading
 inline constexpr char16_t XmlStringIsEmpty[] = u"XML String is empty!";
 inline constexpr char16_t ParserFailed[] = u"%s at line %d";
-inline constexpr char16_t InputTooLarge[] =
-    u"The XML input has %I64u bytes; the parser takes at most 4294967295";
+inline constexpr char16_t InputTooLarge[] = u"The XML input has %I64u bytes; the limit is %I64u";
 inline constexpr char16_t ParserCharactersDiffer[] = u"The expat library at hand has no 16-bit characters";
 inline constexpr char16_t XmlStreamIsEmpty[] = u"XML Stream is empty!";
-inline constexpr char16_t TreeTooLarge[] =
+inline constexpr char16_t EntitiesUnbounded[] =
+    u"The expat library at hand does not bound the expansion of entities";
+inline constexpr char16_t TreeTextTooLarge[] =
     u"The names, values and texts of the document come to more than %I64u bytes";
+inline constexpr char16_t TreeTooLarge[] = u"The tree of the document comes to more than %I64u bytes";
 inline constexpr char16_t NoRootElement[] = u"Invalid or empty XML document";
 inline constexpr char16_t FileNotOpened[] = u"Failed to open the file [%s] Error [0x%08x]";
 inline constexpr char16_t FileSizeUnknown[] = u"Failed to get the size of the file [%s] Error [0x%08x]";
@@ -42,6 +44,6 @@ inline constexpr char16_t FileBlockNotWritten[] = u"Failed to write data to the 
 inline constexpr char16_t CompressionFailed[] = u"Failed to compress data. [Error Code: %d]";
 inline constexpr char16_t StreamTooLong[] = u"Streams of more than 4294967295 bytes are not supported";
 inline constexpr char16_t InflatedTooLong[] =
-    u"The content of the compressed stream is larger than the limit of %u bytes";
+    u"The content of the compressed stream is larger than the limit of %I64u bytes";
 
 } // namespace KzXmlLib10::messages

@@ -2,6 +2,7 @@
 
 #include "support/Bytes.h"
 #include "support/Failure.h"
+#include "support/LimitsScope.h"
 
 #include <gtest/gtest.h>
 
@@ -108,15 +109,14 @@ TEST(Compression, OnlyTheFirstStreamCounts) {
 }
 
 TEST(Compression, RefusesMoreThanTheLimit) {
-    EXPECT_EQ(GetMaxInflatedSize(), 1u << 30);
     const std::string bomb = Compressed(std::string(1000000, ' '), CompressionType_GZip);
-    SetMaxInflatedSize(1000000);
+    LimitsScope limits;
+    limits.Set(&Limits::inflatedBytes, 1000000);
     EXPECT_EQ(Decompressed(bomb).size(), 1000000u);
-    SetMaxInflatedSize(999999);
+    limits.Set(&Limits::inflatedBytes, 999999);
     Array array(bomb);
-    const std::string failure = Failure([&] { Decompress(&array.data, &array.size); });
-    SetMaxInflatedSize(1u << 30);
-    EXPECT_EQ(failure, "The content of the compressed stream is larger than the limit of 999999 bytes");
+    EXPECT_EQ(Failure([&] { Decompress(&array.data, &array.size); }),
+              "The content of the compressed stream is larger than the limit of 999999 bytes");
     EXPECT_EQ(array.Bytes(), bomb);
     array.size = 1ul << 32;
     const std::string tooLong = "Streams of more than 4294967295 bytes are not supported";

@@ -32,8 +32,8 @@ public:
     CDecimal(double value);
     CDecimal(const CBigInteger& value);
     /// Reads digits, with an optional point and an optional exponent after e or E; an empty text is zero.
-    /// Throws with the position of the first character that does not fit, and on an exponent above 10,000
-    /// of a value other than zero.
+    /// Throws with the position of the first character that does not fit, and on an exponent above
+    /// Limits::decimalExponent of a value other than zero.
     ///
     /// Deliberate: wider than the lexical form of the schema type. Whitespace is skipped up to the exponent,
     /// and a sign may stand anywhere before the point, the last one counting: 1 2.5- is no number, but

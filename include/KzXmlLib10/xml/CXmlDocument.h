@@ -34,9 +34,8 @@ class AsyncFile;
 ///
 /// All failures of loading are CKzException: malformed XML in the words of the parser, with the line, such as
 /// "mismatched tag at line 3"; files with their name and the error number of the system. A null argument
-/// throws CKzInvalidParamException. After a failure the tree may be there in part. An input may have up to
-/// 2^32 - 1 bytes, except on the road of AsyncFromXmlFile. Names, values and texts of a tree may come to 64
-/// MiB and 256 times the size of the input, which only documents made to exhaust memory exceed.
+/// throws CKzInvalidParamException. After a failure the tree may be there in part. Inputs and trees have
+/// limits, see Limits.
 class QUILLON_EXPORT CXmlDocument : public CInstanceMonitor {
 public:
     /// Uses the default context of the process.
@@ -65,8 +64,8 @@ public:
     /// A whole file may be in any form that LoadXmlStream takes.
     void Load(const char16_t* fileName);
     /// Reads a copy of `size` bytes: text, in the encoding that its mark or its declaration tells, or a Fast
-    /// Infoset document (ITU-T X.891), or a gzip or zlib stream of either, which is found out by trying, up
-    /// to the size of SetMaxInflatedSize. No bytes fail with "XML Stream is empty!".
+    /// Infoset document (ITU-T X.891), or a gzip or zlib stream of either, which is found out by trying.
+    /// No bytes fail with "XML Stream is empty!".
     ///
     /// For Fast Infoset the callback is not called, SchemaType_NoNamespaces leaves its namespaces, and its
     /// strings may hold what XML forbids.
@@ -86,7 +85,7 @@ private:
     friend class CFastInfosetReader;
 
     void Init();
-    void ParseText(const char16_t* protocolEncoding = nullptr);
+    void ParseText(std::uint64_t handedIn, const char16_t* protocolEncoding = nullptr);
     void Parse();
     void DecompressBuffer();
     void LoadWhole(const std::u16string& fileName);

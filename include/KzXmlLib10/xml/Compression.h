@@ -4,8 +4,6 @@
 #include <KzXmlLib10/object/Export.h>
 #include <KzXmlLib10/values/CBinaryData.h>
 
-#include <cstdint>
-
 namespace KzXmlLib10 {
 
 /// Compression of finished byte streams: gzip (RFC 1952) and zlib (RFC 1950), with no framing of its own.
@@ -30,13 +28,8 @@ QUILLON_EXPORT void CompressBuffer(unsigned char** data, unsigned long* size, Co
 /// Replaces an array that holds a complete gzip or zlib stream by a new one with its content. What comes
 /// behind the stream is ignored. Any other array stays as it is, since it may simply not be compressed.
 ///
-/// Throws CKzException where the content would be larger than GetMaxInflatedSize; the array is then
+/// Throws CKzException where the content would be larger than Limits::inflatedBytes; the array is then
 /// unchanged.
 QUILLON_EXPORT void Decompress(unsigned char** data, unsigned long* size);
-
-/// The most bytes that Decompress makes of one input, for the whole process: 1 GiB unless set.
-QUILLON_EXPORT std::uint32_t GetMaxInflatedSize();
-/// May be called at any time; holds for calls of Decompress that begin later.
-QUILLON_EXPORT void SetMaxInflatedSize(std::uint32_t bytes);
 
 } // namespace KzXmlLib10

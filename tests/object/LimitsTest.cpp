@@ -1,0 +1,99 @@
+#include <KzXmlLib10/object/Limits.h>
+
+#include "object/RecursionLevel.h"
+#include "support/Bytes.h"
+#include "support/Failure.h"
+#include "support/LimitsScope.h"
+#include "support/Threads.h"
+
+#include <KzXmlLib10/collections/CElement.h>
+#include <KzXmlLib10/conversions/XsdPattern.h>
+#include <KzXmlLib10/object/CXmlSerializationContext.h>
+#include <KzXmlLib10/values/CDecimal.h>
+#include <KzXmlLib10/xml/CXmlDocument.h>
+
+#include <gtest/gtest.h>
+
+#include <functional>
+#include <limits>
+#include <string>
+
+using namespace KzXmlLib10;
+using namespace KzXmlLib10::support;
+
+namespace {
+
+constexpr std::uint64_t most = std::numeric_limits<std::uint64_t>::max();
+
+std::string LoadFailure(const std::string& bytes) {
+    return Failure([&] {
+        CXmlDocument().LoadXmlStream(reinterpret_cast<const unsigned char*>(bytes.data()), bytes.size());
+    });
+}
+
+/// Begins a level of nesting on a thread that has used 40 MiB of its 64 MiB of stack.
+std::string NestOnUsedStack() {
+    std::string failure;
+    RunOnStack(64 << 20, [&] {
+        volatile char used[40 << 20];
+        used[0] = 0;
+        failure = Failure([] { RecursionLevel(); }) + std::string(1, used[0]).c_str();
+    });
+    return failure;
+}
+
+TEST(Limits, EachFigureBoundsItsWork) {
+    std::string elements = "<r>";
+    for (int i = 0; i < 5000; ++i)
+        elements += "<a b=''/>";
+    const std::string compressed = Compressed(elements + "</r>", CompressionType_GZip);
+    const std::string text = "<a>" + std::string(1000, 'b') + "</a>";
+    const auto load = [](const std::string& bytes) { return [&] { return LoadFailure(bytes); }; };
+    const auto decimal = [] { return Failure<CKzInvalidValueException>([] { CDecimal(u"1E3"); }); };
+    const auto write = [] { return Failure([] { CElement(u"a").ToXml(false, false, EOLType_LF, {}); }); };
+    const auto match = [] {
+        return MatchXsdPattern("(a|b)*", std::u16string(10000, u'a')) ? "no failure" : "no match";
+    };
+    const struct {
+        std::uint64_t Limits::*figure;
+        std::uint64_t value;
+        std::function<std::string()> work;
+        std::string failure;
+    } rows[] = {
+        {&Limits::inputBytes, 1006, load(text), "The XML input has 1007 bytes; the limit is 1006"},
+        {&Limits::inflatedBytes, 45006, load(compressed),
+         "The content of the compressed stream is larger than the limit of 45006 bytes"},
+        {&Limits::treeTextBytesPerInputByte, 1, load(text),
+         "The names, values and texts of the document come to more than 1007 bytes"},
+        {&Limits::treeBytesPerInputByte, 100, load(compressed),
+         "The tree of the document comes to more than " + std::to_string(100 * compressed.size()) + " bytes"},
+        {&Limits::decimalExponent, 2, decimal,
+         "The string representing a Decimal, contained an exponent above 2 [1E3]"},
+        {&Limits::nestedObjects, 0, write, "The elements are nested too deep (0 levels)"},
+        {&Limits::stackReserve, most, NestOnUsedStack, "The elements are nested too deep (0 levels)"},
+        {&Limits::patternHeapBytes, 1024, match, "no match"},
+    };
+    for (const auto& [figure, value, work, failure] : rows) {
+        EXPECT_EQ(work(), "no failure");
+        LimitsScope limits(&Limits::treeTextBytes, 0); // leaves what the size of the input allows
+        limits.Set(&Limits::treeBytes, 0);
+        limits.Set(figure, value);
+        EXPECT_EQ(work(), failure);
+    }
+}
+
+TEST(Limits, AreSetTogetherOrNotAtAll) {
+    const LimitsScope unchanged;
+    Limits limits;
+    limits.treeTextBytes = limits.treeTextBytesPerInputByte = most; // saturate instead of wrapping
+    limits.treeBytes = limits.treeBytesPerInputByte = most;
+    SetLimits(limits);
+    EXPECT_EQ(LoadFailure("<a b='c'>d</a>"), "no failure");
+    limits.treeBytes = 7;
+    limits.patternHeapBytes = most;
+    EXPECT_EQ(Failure<CKzInvalidParamException>([&] { SetLimits(limits); }),
+              "The limit patternHeapBytes may not be above 4398046510080");
+    EXPECT_EQ(GetLimits().treeBytes, most);
+}
+
+} // namespace
