@@ -59,8 +59,8 @@ public:
     static std::u16string r4ToString(float value, const std::u16string& format);
     static std::u16string r8ToString(double value, const std::u16string& format);
 
-    /// Digits with an optional point and exponent; also NaN, INF, -INF, 1.#QNAN and -NAN. A number too large
-    /// gives an infinity and one too small a zero. The r4 is rounded from the r8.
+    /// Digits with an optional point and exponent; also NaN, INF, -INF, "1.#QNAN" and -NAN. A number too
+    /// large gives an infinity and one too small a zero. The r4 is rounded from the r8.
     static float r4FromString(const std::u16string& text, WhitespaceRule rule);
     static double r8FromString(const std::u16string& text, WhitespaceRule rule);
 

@@ -10,11 +10,11 @@ namespace KzXmlLib10 {
 ///
 ///     MatchXsdPattern("\\i\\c*", u"xs:name"); // true
 ///
-/// The escapes \i \I \c \C and the first four Latin blocks are replaced in the text of the pattern, without
-/// regard to context. All the rest is read as PCRE2 reads it, but that a hyphen beside a class escape, as in
-/// [\w-.], and a letter without a meaning behind a backslash, as in \y, stand for themselves. A lone
-/// surrogate ends the value. Each call compiles the pattern anew and shares nothing, so it may come from any
-/// thread.
+/// The escapes `\i`, `\I`, `\c` and `\C` and the first four Latin blocks are replaced in the text of the
+/// pattern, without regard to context. All the rest is read as PCRE2 reads it, but that a hyphen beside a
+/// class escape, as in `[\w-.]`, and a letter without a meaning behind a backslash, as in `\y`, stand for
+/// themselves. A lone surrogate ends the value. Each call compiles the pattern anew and shares nothing, so it
+/// may come from any thread.
 ///
 /// Throws CKzException if the pattern does not compile. A match that would take more than 64 MiB of heap, or
 /// more than PCRE2's limit of steps, counts as none.

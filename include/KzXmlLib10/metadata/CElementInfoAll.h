@@ -42,9 +42,13 @@ public:
         : CElementInfoAll(name, namespaceUri, propertyIndex) {}
 };
 
+/// A primitive value that must be there.
 QUILLON_LEAF(CElementInfoAllPrimMnd, PrimKind, CElementInfoAllMandatory);
+/// A primitive value that may be absent.
 QUILLON_LEAF(CElementInfoAllPrimOpt, PrimKind, CElementInfoAllOptional);
+/// An enumerator that must be there.
 QUILLON_LEAF(CElementInfoAllEnumMnd, EnumKind, CElementInfoAllMandatory);
+/// An enumerator that may be absent.
 QUILLON_LEAF(CElementInfoAllEnumOpt, EnumKind, CElementInfoAllOptional);
 
 /// A mandatory object, which the generated class creates; reading only fills it.
@@ -64,6 +68,7 @@ private:
     bool m_consumeRequired;
 };
 
+/// An object of one class that may be absent.
 QUILLON_LEAF(CElementInfoAllClsOpt, ClsKind, CElementInfoAllOptional);
 
 /// Deliberate: can be written, but not read; ElementFromXml always throws CKzException.
@@ -81,7 +86,9 @@ private:
 
 /// Deliberate: can be written, but not read; ElementFromXml always throws CKzException.
 QUILLON_LEAF(CElementInfoAllAbsClsOpt, AbsClsKind, CElementInfoAllOptional);
+/// A generic element that must be there.
 QUILLON_LEAF(CElementInfoAllUntpdMnd, UntpdKind, CElementInfoAllMandatory);
+/// A generic element that may be absent.
 QUILLON_LEAF(CElementInfoAllUntpdOpt, UntpdKind, CElementInfoAllOptional);
 
 /// A repeated particle, which an all group does not support: Validate stays abstract, here and below.
@@ -92,21 +99,25 @@ public:
     QUILLON_ELEMENT_OPERATIONS
 };
 
+/// Repeated objects of one class.
 class QUILLON_EXPORT CElementInfoAllClsCol : public ObjectsKind<CElementInfoAllCol> {
 public:
     using ObjectsKind::ObjectsKind;
 };
 
+/// Repeated objects of classes that their elements choose.
 class QUILLON_EXPORT CElementInfoAllAbsClsCol : public ObjectsKind<CElementInfoAllCol> {
 public:
     using ObjectsKind::ObjectsKind;
 };
 
+/// Repeated primitive values.
 class QUILLON_EXPORT CElementInfoAllPrimCol : public CElementInfoAllCol {
 public:
     using CElementInfoAllCol::CElementInfoAllCol;
 };
 
+/// Repeated generic elements.
 class QUILLON_EXPORT CElementInfoAllUntpdCol : public CElementInfoAllCol {
 public:
     using CElementInfoAllCol::CElementInfoAllCol;

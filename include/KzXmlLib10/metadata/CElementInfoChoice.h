@@ -25,7 +25,9 @@ public:
                   bool isElement) const override;
 };
 
+/// A primitive value as a member of a choice.
 QUILLON_LEAF(CElementInfoChoicePrimOpt, PrimKind, CElementInfoChoice);
+/// An enumerator as a member of a choice.
 QUILLON_LEAF(CElementInfoChoiceEnumOpt, EnumKind, CElementInfoChoice);
 
 /// Stored before it is read, so that whatever runs during the reading sees the choice.
@@ -35,7 +37,9 @@ public:
     QUILLON_ELEMENT_OPERATIONS
 };
 
+/// An object, of a class that its element chooses, as a member of a choice.
 QUILLON_LEAF(CElementInfoChoiceAbsClsOpt, AbsClsKind, CElementInfoChoice);
+/// A generic element as a member of a choice.
 QUILLON_LEAF(CElementInfoChoiceUntpdOpt, UntpdKind, CElementInfoChoice);
 
 /// A repeated member. Its count is not looked at on writing.
@@ -51,26 +55,31 @@ protected:
                           CXmlElement* result, CXmlElement** current, XmlElementType ownerElementType);
 };
 
+/// Repeated objects of one class.
 class QUILLON_EXPORT CElementInfoChoiceClsCol : public ObjectsKind<CElementInfoChoiceCol> {
 public:
     using ObjectsKind::ObjectsKind;
 };
 
+/// Repeated objects of classes that their elements choose.
 class QUILLON_EXPORT CElementInfoChoiceAbsClsCol : public ObjectsKind<CElementInfoChoiceCol> {
 public:
     using ObjectsKind::ObjectsKind;
 };
 
+/// Repeated primitive values.
 class QUILLON_EXPORT CElementInfoChoicePrimCol : public CElementInfoChoiceCol {
 public:
     using CElementInfoChoiceCol::CElementInfoChoiceCol;
 };
 
+/// Repeated enumerators.
 class QUILLON_EXPORT CElementInfoChoiceEnumCol : public CElementInfoChoiceCol {
 public:
     using CElementInfoChoiceCol::CElementInfoChoiceCol;
 };
 
+/// Repeated generic elements.
 class QUILLON_EXPORT CElementInfoChoiceUntpdCol : public CElementInfoChoiceCol {
 public:
     using CElementInfoChoiceCol::CElementInfoChoiceCol;

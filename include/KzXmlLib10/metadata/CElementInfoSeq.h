@@ -31,7 +31,9 @@ public:
         : CElementInfoSeq(name, namespaceUri, propertyIndex) {}
 };
 
+/// A primitive value that must be there.
 QUILLON_LEAF(CElementInfoSeqPrimMnd, PrimKind, CElementInfoSeq);
+/// A primitive value that may be absent.
 QUILLON_LEAF(CElementInfoSeqPrimOpt, PrimKind, CElementInfoSeq);
 
 /// Written out, since its fields stand in an order of their own.
@@ -48,6 +50,7 @@ private:
     EnumToString m_enumToString;
 };
 
+/// An enumerator that may be absent.
 QUILLON_LEAF(CElementInfoSeqEnumOpt, EnumKind, CElementInfoSeq);
 
 /// A mandatory object. The generated class creates it in its constructor; reading only fills it.
@@ -74,12 +77,16 @@ private:
     [[maybe_unused]] std::int32_t m_classId;
 };
 
+/// An object of one class that may be absent.
 QUILLON_LEAF(CElementInfoSeqClsOpt, ClsKind, CElementInfoSeq);
+/// An object, of a class that its element chooses, that must be there.
 QUILLON_LEAF(CElementInfoSeqAbsClsMnd, AbsClsKind, CElementInfoSeq);
+/// An object, of a class that its element chooses, that may be absent.
 QUILLON_LEAF(CElementInfoSeqAbsClsOpt, AbsClsKind, CElementInfoSeq);
 
 /// A mandatory generic element, which the generated class creates; reading only fills it.
 QUILLON_LEAF(CElementInfoSeqUntpdMnd, UntpdKind, CElementInfoSeq);
+/// A generic element that may be absent.
 QUILLON_LEAF(CElementInfoSeqUntpdOpt, UntpdKind, CElementInfoSeq);
 
 /// A repeated particle. The collection takes the whole run of matching elements by itself.
@@ -90,26 +97,31 @@ public:
     QUILLON_ELEMENT_OPERATIONS
 };
 
+/// Repeated objects of one class.
 class QUILLON_EXPORT CElementInfoSeqClsCol : public ObjectsKind<CElementInfoSeqCol> {
 public:
     using ObjectsKind::ObjectsKind;
 };
 
+/// Repeated objects of classes that their elements choose.
 class QUILLON_EXPORT CElementInfoSeqAbsClsCol : public ObjectsKind<CElementInfoSeqCol> {
 public:
     using ObjectsKind::ObjectsKind;
 };
 
+/// Repeated primitive values.
 class QUILLON_EXPORT CElementInfoSeqPrimCol : public CElementInfoSeqCol {
 public:
     using CElementInfoSeqCol::CElementInfoSeqCol;
 };
 
+/// Repeated enumerators.
 class QUILLON_EXPORT CElementInfoSeqEnumCol : public CElementInfoSeqCol {
 public:
     using CElementInfoSeqCol::CElementInfoSeqCol;
 };
 
+/// Repeated generic elements.
 class QUILLON_EXPORT CElementInfoSeqUntpdCol : public CElementInfoSeqCol {
 public:
     using CElementInfoSeqCol::CElementInfoSeqCol;

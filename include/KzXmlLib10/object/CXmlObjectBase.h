@@ -148,11 +148,11 @@ protected:
     /// Throws CKzInvalidParamException for an object of another element name; null passes.
     static void Throw_IfElementNameDiffers(CXmlObjectBase* value, const char16_t* element);
 
-    /// Whether a wildcard admits a namespace. `restriction` is one of the keywords ##any, ##other, ##local
-    /// and ##targetNamespace, or a namespace, or several of them separated by single spaces.
+    /// Whether a wildcard admits a namespace. `restriction` is one of the keywords `##any`, `##other`,
+    /// `##local` and `##targetNamespace`, or a namespace, or several of them separated by single spaces.
     ///
-    /// Deliberate: an empty namespace passes against a namespace and against ##other; of several tokens only
-    /// the first is looked at, then the restriction admits no more than its own whole text and the empty
+    /// Deliberate: an empty namespace passes against a namespace and against `##other`; of several tokens
+    /// only the first is looked at, then the restriction admits no more than its own whole text and the empty
     /// namespace.
     bool IsNamespaceValid(const char16_t* ns, const char16_t* restriction,
                           const char16_t* targetNamespace) const;
