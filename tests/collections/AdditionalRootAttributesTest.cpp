@@ -1,14 +1,10 @@
-#include <KzXmlLib10/object/CXmlSerializationContext.h>
-
 #include "support/Model.h"
+#include "support/Test.h"
 
 #include <KzXmlLib10/collections/CAttributeCol.h>
+#include <KzXmlLib10/object/CXmlSerializationContext.h>
 
-#include <gtest/gtest.h>
-
-#include <array>
 #include <thread>
-#include <vector>
 
 using namespace KzXmlLib10;
 
@@ -32,14 +28,11 @@ TEST(AdditionalRootAttributes, AreSharedByCopiesMadeAfterwards) {
     CXmlSerializationContext source;
     CXmlSerializationContext before(source);
     source.GetAdditionalRootAttributes()->Add(u"a");
-    {
-        CXmlSerializationContext copy(source);
-        CXmlSerializationContext assigned;
-        assigned.GetAdditionalRootAttributes()->Add(u"lost");
-        assigned = copy;
-        assigned = *&assigned;
-        assigned.GetAdditionalRootAttributes()->Add(u"b");
-    }
+    CXmlSerializationContext assigned;
+    assigned.GetAdditionalRootAttributes()->Add(u"lost");
+    assigned = CXmlSerializationContext(source);
+    assigned = *&assigned;
+    assigned.GetAdditionalRootAttributes()->Add(u"b");
     EXPECT_EQ(source.GetAdditionalRootAttributes()->GetCount(), 2);
     EXPECT_EQ(before.GetAdditionalRootAttributes()->GetCount(), 0);
 }

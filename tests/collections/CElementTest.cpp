@@ -1,21 +1,14 @@
 #include <KzXmlLib10/collections/CElement.h>
 
 #include "support/EventLog.h"
-#include "support/Failure.h"
 #include "support/Model.h"
+#include "support/Test.h"
 #include "support/Threads.h"
 
-#include <KzXmlLib10/object/Text.h>
 #include <KzXmlLib10/values/CBinaryData.h>
 
-#include <gtest/gtest.h>
-
-#include <functional>
-#include <memory>
-
 using namespace KzXmlLib10;
-using KzXmlLib10::support::EventLog;
-using KzXmlLib10::support::Failure;
+using namespace KzXmlLib10::support;
 
 namespace {
 
@@ -201,7 +194,7 @@ TEST(CElement, AnElementInsideItselfIsRefused) {
     const std::function<void()> walks[] = {[&] { Write(*outer); }, [&] { outer->Clone(); },
                                            [&] { outer->SetNamespaceRestrictions(u"##any", u""); }};
     for (const auto& walk : walks)
-        EXPECT_EQ(Failure<CKzInvalidStateException>(walk), "An element is contained in itself");
+        EXPECT_EQ(InvalidState(walk), "An element is contained in itself");
     inner->GetChildElements()->Clear();
     // The same element at several places is fine.
     outer->GetChildElements()->Add(inner);

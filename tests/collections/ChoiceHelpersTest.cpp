@@ -1,17 +1,12 @@
-#include <KzXmlLib10/collections/CXmlCollection.h>
-
 #include "support/EventLog.h"
-#include "support/Failure.h"
+#include "support/Test.h"
 
+#include <KzXmlLib10/collections/CXmlCollection.h>
 #include <KzXmlLib10/object/CXmlSerializationContext.h>
-#include <KzXmlLib10/object/Text.h>
 #include <KzXmlLib10/xml/CXmlDocument.h>
 
-#include <gtest/gtest.h>
-
 using namespace KzXmlLib10;
-using KzXmlLib10::support::EventLog;
-using KzXmlLib10::support::Failure;
+using namespace KzXmlLib10::support;
 
 namespace {
 
@@ -37,48 +32,39 @@ protected:
     }
 };
 
-/// The record after the action, in front of what it threw.
-template <class Action>
-std::string After(std::u16string validElement, Action action) {
-    const std::string failure = Failure<CKzInvalidStateException>([&] { action(validElement); });
-    return ToUtf8(validElement) + (failure == "no failure" ? "" : ": " + failure);
+/// In each row the record of the choice, what is set, and behind the arrow the record after `helper` has been
+/// told so of the property "a", in front of what it threw.
+template <class Helper>
+void ExpectRecords(std::initializer_list<Row> rows, Helper helper) {
+    const std::string onlyOne = " is already set. Only one element within this class bay be set at a time";
+    ExpectRows(rows, [&](const std::u16string& row) {
+        std::u16string record = row.substr(0, row.find(u' '));
+        const char16_t set = row.back();
+        std::string failure = InvalidState([&] { helper(set, record); });
+        if (failure == "no failure")
+            return ToUtf8(record);
+        EXPECT_TRUE(failure.ends_with(onlyOne)) << failure;
+        return ToUtf8(record) + ": " + failure.substr(0, failure.size() - onlyOne.size());
+    });
 }
 
-const std::string onlyOne = " is already set. Only one element within this class bay be set at a time";
-
-TEST(ChoiceHelpers, SetElementValidConfirmsOrClears) {
-    const auto set = [](const char16_t* before, bool isValid) {
-        return After(before, [&](std::u16string& v) { CChoice::Choice_SetElementValid(isValid, u"a", v); });
-    };
-    EXPECT_EQ(set(u"b", false), "");
-    EXPECT_EQ(set(u"a", true), "a");
-    EXPECT_EQ(set(u"b", true), "b: The Property b" + onlyOne);
-    EXPECT_EQ(set(u"", true), ": The Property " + onlyOne);
-}
-
-TEST(ChoiceHelpers, SelectElementTakesTheFirstEvenIfNull) {
+TEST(ChoiceHelpers, KeepTheRecordOfTheOneMemberThatIsSet) {
+    // A member is valid or not.
+    ExpectRecords({"b 0 -> ", "a 1 -> a", "b 1 -> b: The Property b", " 1 -> : The Property "},
+                  [](char16_t set, std::u16string& record) {
+                      CChoice::Choice_SetElementValid(set == u'1', u"a", record);
+                  });
+    // A member is an object or null; the first is taken even if it is null.
     CChoice object;
-    const auto select = [&](const char16_t* before, CXmlObjectBase* value) {
-        return After(before, [&](std::u16string& v) { CChoice::Choice_SelectElement(u"a", value, v); });
-    };
-    EXPECT_EQ(select(u"", &object), "a");
-    EXPECT_EQ(select(u"", nullptr), "a");
-    EXPECT_EQ(select(u"a", &object), "a");
-    EXPECT_EQ(select(u"a", nullptr), "");
-    EXPECT_EQ(select(u"b", nullptr), "b");
-    EXPECT_EQ(select(u"b", &object), "b: The Property [b]" + onlyOne);
-}
-
-TEST(ChoiceHelpers, CollectionChangedFollowsTheCount) {
-    const auto change = [](const char16_t* before, long count) {
-        return After(before, [&](std::u16string& v) { CChoice::Choice_CollectionChanged(u"a", count, v); });
-    };
-    EXPECT_EQ(change(u"", 1), "a");
-    EXPECT_EQ(change(u"", 0), "");
-    EXPECT_EQ(change(u"a", 2), "a");
-    EXPECT_EQ(change(u"a", 0), "");
-    EXPECT_EQ(change(u"b", 0), "b");
-    EXPECT_EQ(change(u"b", 1), "b: The Property [b]" + onlyOne);
+    ExpectRecords({" 1 -> a", " 0 -> a", "a 1 -> a", "a 0 -> ", "b 0 -> b", "b 1 -> b: The Property [b]"},
+                  [&](char16_t set, std::u16string& record) {
+                      CChoice::Choice_SelectElement(u"a", set == u'1' ? &object : nullptr, record);
+                  });
+    // A member is a collection of so many items.
+    ExpectRecords({" 1 -> a", " 0 -> ", "a 2 -> a", "a 0 -> ", "b 0 -> b", "b 1 -> b: The Property [b]"},
+                  [](char16_t set, std::u16string& record) {
+                      CChoice::Choice_CollectionChanged(u"a", set - u'0', record);
+                  });
 }
 
 TEST(ChoiceHelpers, ReadCollectionTakesOneRunAndChecksItsNumber) {

@@ -1,17 +1,13 @@
+#include "support/Test.h"
+
 #include <KzXmlLib10/collections/CAttributeCol.h>
 #include <KzXmlLib10/collections/CElement.h>
 #include <KzXmlLib10/collections/CElementCol.h>
-
-#include "support/Failure.h"
-
 #include <KzXmlLib10/object/CXmlSerializationContext.h>
-#include <KzXmlLib10/object/Text.h>
 #include <KzXmlLib10/xml/CXmlDocument.h>
 
-#include <gtest/gtest.h>
-
 using namespace KzXmlLib10;
-using KzXmlLib10::support::Failure;
+using namespace KzXmlLib10::support;
 
 namespace {
 
@@ -111,8 +107,7 @@ TEST(CElementCol, HoldsItsRestrictionAgainstTheDefaultNamespaceOnly) {
 TEST(CElementCol, AKeywordMayStandAsTheDefaultNamespace) {
     EXPECT_EQ(CElementCol(u"", u"##other", u"urn:t", 0, -1).Add(u"x")->GetNamespace(), u"##other");
     CElementCol none(u"", u"urn:a", u"", 0, -1);
-    EXPECT_EQ(Failure<CKzInvalidStateException>([&] { none.Add(u"x"); }),
-              "A Namespace has not been set for this Collection");
+    EXPECT_EQ(InvalidState([&] { none.Add(u"x"); }), "A Namespace has not been set for this Collection");
 }
 
 TEST(CElementCol, ReadsEveryElementThatIsLeft) {

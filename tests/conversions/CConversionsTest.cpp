@@ -1,16 +1,13 @@
 #include <KzXmlLib10/conversions/CConversions.h>
 
-#include "support/Failure.h"
-#include "support/Row.h"
-
-#include <gtest/gtest.h>
+#include "support/Test.h"
 
 #include <bit>
 #include <cmath>
 #include <cstdlib>
-#include <limits>
 
 using namespace KzXmlLib10;
+using namespace KzXmlLib10::support;
 using namespace std::literals;
 
 namespace {
@@ -19,104 +16,81 @@ constexpr auto none = CWhitespaceUtils::WhitespaceRule_None;
 constexpr auto collapse = CWhitespaceUtils::WhitespaceRule_Collapse;
 constexpr double infinity = std::numeric_limits<double>::infinity();
 
-/// What a reader makes of a text: the value as text, or the message of the failure.
-template <class Reader>
-std::u16string Outcome(Reader reader, const std::u16string& text, CConversions::WhitespaceRule rule = none) {
-    try {
-        const auto value = reader(text, rule);
-        if constexpr (std::is_signed_v<decltype(value)>)
-            return CConversions::i8ToString(value);
-        else
-            return CConversions::ui8ToString(value);
-    } catch (const CKzInvalidValueException& e) {
-        return e.GetFullMessage();
-    }
-}
-
+/// What a reader of integers makes of a text: the value as text, or the message of the failure.
 template <auto Reader>
-std::u16string Read(const std::u16string& text) {
-    return Outcome(Reader, text);
+std::string Read(const std::u16string& text, CConversions::WhitespaceRule rule = none) {
+    std::string value;
+    const std::string failure = InvalidValue([&] { value = std::to_string(Reader(text, rule)); });
+    return failure == "no failure" ? value : failure;
 }
+constexpr auto ReadI4 = [](const std::u16string& text) { return Read<CConversions::i4FromString>(text); };
 
-template <class Action>
-std::string InvalidValue(Action action) {
-    return support::Failure<CKzInvalidValueException>(action);
+std::string TooLarge(const std::string& text, const std::string& type) {
+    return "The value [" + text + "] is to large to fit in a " + type;
 }
 
 TEST(CConversions, IntegersAreReadUpToTheirLimits) {
     using C = CConversions;
-    struct Row {
-        std::u16string (*outcome)(const std::u16string&);
-        const char16_t *lowest, *highest, *tooLow, *tooHigh, *name;
+    const struct {
+        std::string (*read)(const std::u16string&, C::WhitespaceRule);
+        std::string name, lowest, highest, tooLow, tooHigh;
+    } rows[] = {
+        {Read<C::i1FromString>, "i1", "-128", "127", "-129", "128"},
+        {Read<C::i2FromString>, "i2", "-32768", "32767", "-32769", "32768"},
+        {Read<C::i4FromString>, "i4", "-2147483648", "2147483647", "-2147483649", "2147483648"},
+        {Read<C::i8FromString>, "i8", "-9223372036854775808", "9223372036854775807", "-9223372036854775809",
+         "9223372036854775808"},
+        {Read<C::ui1FromString>, "ui1", "0", "255", "-1", "256"},
+        {Read<C::ui2FromString>, "ui2", "0", "65535", "-1", "65536"},
+        {Read<C::ui4FromString>, "ui4", "0", "4294967295", "-4294967296", "4294967296"},
+        {Read<C::ui8FromString>, "ui8", "0", "18446744073709551615", "-18446744073709551616",
+         "18446744073709551616"},
     };
-    const Row rows[] = {
-        {Read<C::i1FromString>, u"-128", u"127", u"-129", u"128", u"i1"},
-        {Read<C::i2FromString>, u"-32768", u"32767", u"-32769", u"32768", u"i2"},
-        {Read<C::i4FromString>, u"-2147483648", u"2147483647", u"-2147483649", u"2147483648", u"i4"},
-        {Read<C::i8FromString>, u"-9223372036854775808", u"9223372036854775807", u"-9223372036854775809",
-         u"9223372036854775808", u"i8"},
-        {Read<C::ui1FromString>, u"0", u"255", u"-1", u"256", u"ui1"},
-        {Read<C::ui2FromString>, u"0", u"65535", u"-1", u"65536", u"ui2"},
-        {Read<C::ui4FromString>, u"0", u"4294967295", u"-4294967296", u"4294967296", u"ui4"},
-        {Read<C::ui8FromString>, u"0", u"18446744073709551615", u"-18446744073709551616",
-         u"18446744073709551616", u"ui8"},
-    };
-    for (const Row& row : rows) {
-        EXPECT_EQ(row.outcome(row.lowest), row.lowest);
-        EXPECT_EQ(row.outcome(row.highest), row.highest);
-        for (const std::u16string text : {row.tooLow, row.tooHigh})
-            EXPECT_EQ(row.outcome(text), u"The value [" + text + u"] is to large to fit in a " + row.name);
+    for (const auto& row : rows) {
+        for (const std::string& text : {row.lowest, row.highest})
+            EXPECT_EQ(row.read(FromUtf8(text), none), text);
+        for (const std::string& text : {row.tooLow, row.tooHigh})
+            EXPECT_EQ(row.read(FromUtf8(text), none), TooLarge(text, row.name));
     }
 }
 
 TEST(CConversions, IntegerFormIsThatOfStrtol) {
-    const support::Row rows[] = {"+5 -> 5", "-0 -> 0", " \t\n\v\f\r7 -> 7",
-                                 "0000000000000000000000000000000012 -> 12", " -> 0"};
-    for (const auto& [text, value] : rows)
-        EXPECT_EQ(Read<CConversions::i4FromString>(text), FromUtf8(value));
-    EXPECT_EQ(Read<CConversions::i4FromString>(u"12\0rest"s), u"12");
-    EXPECT_EQ(Read<CConversions::i4FromString>(u"\0"s), u"0");
+    ExpectRows(
+        {"+5 -> 5", "-0 -> 0", " \t\n\v\f\r7 -> 7", "0000000000000000000000000000000012 -> 12", " -> 0"},
+        ReadI4);
+    EXPECT_EQ(ReadI4(u"12\0rest"s) + ReadI4(u"\0"s), "120");
     for (const std::u16string text : {u" ", u"7 ", u"\u00A07", u"+", u"+-5", u"0x10", u"1\u0661"})
-        EXPECT_EQ(Read<CConversions::i4FromString>(text),
-                  u"The value [" + text + u"] can not be converted to a i4");
+        EXPECT_EQ(ReadI4(text), "The value [" + ToUtf8(text) + "] can not be converted to a i4");
     // The range is looked at before the form.
-    for (const std::u16string text : {u"99999999999x", u"999999999999999999999x"})
-        EXPECT_EQ(Read<CConversions::i4FromString>(text),
-                  u"The value [" + text + u"] is to large to fit in a i4");
-    EXPECT_EQ(Outcome(CConversions::i4FromString, u"  ", collapse), u"0");
-    EXPECT_EQ(Outcome(CConversions::i4FromString, u" 7 ", collapse), u"7");
+    for (const char* text : {"99999999999x", "999999999999999999999x"})
+        EXPECT_EQ(ReadI4(FromUtf8(text)), TooLarge(text, "i4"));
+    EXPECT_EQ(Read<CConversions::i4FromString>(u"  ", collapse), "0");
 
     // Unsigned readers negate in their own width.
-    EXPECT_EQ(Read<CConversions::ui4FromString>(u"-1"), u"4294967295");
-    EXPECT_EQ(Read<CConversions::ui8FromString>(u"-1"), u"18446744073709551615");
-    EXPECT_EQ(Read<CConversions::ui1FromString>(u"-4294967295"), u"1");
+    EXPECT_EQ(Read<CConversions::ui4FromString>(u"-1"), "4294967295");
+    EXPECT_EQ(Read<CConversions::ui8FromString>(u"-1"), "18446744073709551615");
+    EXPECT_EQ(Read<CConversions::ui1FromString>(u"-4294967295"), "1");
 }
 
 TEST(CConversions, NarrowReadersShowTheirInputAndPassTheWideFailureOn) {
-    EXPECT_EQ(Outcome(CConversions::i1FromString, u" 128 ", collapse),
-              u"The value [ 128 ] is to large to fit in a i1");
-    EXPECT_EQ(Read<CConversions::i1FromString>(u"99999999999"),
-              u"The value [99999999999] is to large to fit in a i4");
-    EXPECT_EQ(Outcome(CConversions::i2FromString, u" abc ", collapse),
-              u"The value [abc] can not be converted to a i4");
-    EXPECT_EQ(Read<CConversions::ui1FromString>(u"x"), u"The value [x] can not be converted to a ui4");
-    EXPECT_EQ(Read<CConversions::ui8FromString>(u"x"), u"The value [x] can not be converted to a ui8");
-    EXPECT_EQ(Read<CConversions::i8FromString>(u"x"), u"The value [x] can not be converted to a i8");
+    EXPECT_EQ(Read<CConversions::i1FromString>(u" 128 ", collapse), TooLarge(" 128 ", "i1"));
+    EXPECT_EQ(Read<CConversions::i1FromString>(u"99999999999"), TooLarge("99999999999", "i4"));
+    const auto message = [](const std::string& type) {
+        return "The value [x] can not be converted to a " + type;
+    };
+    EXPECT_EQ(Read<CConversions::i2FromString>(u" x ", collapse), message("i4"));
+    EXPECT_EQ(Read<CConversions::ui1FromString>(u"x"), message("ui4"));
+    EXPECT_EQ(Read<CConversions::ui8FromString>(u"x"), message("ui8"));
+    EXPECT_EQ(Read<CConversions::i8FromString>(u"x"), message("i8"));
 }
 
 TEST(CConversions, RealsAreReadInDecimalNotation) {
-    const support::Row rows[] = {"INF -> INF",
-                                 "-INF -> -INF",
-                                 "1.5 -> 1.5",
-                                 "+.5e1 -> 5",
-                                 " \v-5.E-1 -> -0.5",
-                                 "1e309 -> INF",
-                                 "1.7976931348623157e308 -> 1.7976931348623157e308",
-                                 "-1e999999999999999999999 -> -INF",
-                                 "4.9406564584124654e-324 -> 4.9406564584124654e-324",
-                                 "0e999999999999999999999 -> 0"};
-    for (const auto& [text, value] : rows)
-        EXPECT_EQ(CConversions::r8FromString(text, none), std::strtod(value.c_str(), nullptr)) << value;
+    for (const Row& row :
+         {Row("INF -> INF"), Row("-INF -> -INF"), Row("1.5 -> 1.5"), Row("+.5e1 -> 5"),
+          Row(" \v-5.E-1 -> -0.5"), Row("1e309 -> INF"),
+          Row("1.7976931348623157e308 -> 1.7976931348623157e308"), Row("-1e999999999999999999999 -> -INF"),
+          Row("4.9406564584124654e-324 -> 4.9406564584124654e-324"), Row("0e999999999999999999999 -> 0")})
+        EXPECT_EQ(CConversions::r8FromString(row.text, none), std::strtod(row.expected.c_str(), nullptr));
     const std::u16string zeros(400, u'0');
     EXPECT_EQ(CConversions::r8FromString(u"1" + zeros + u"e-400", none), 1);
     EXPECT_EQ(CConversions::r8FromString(u"0." + zeros + u"1e401", none), 1);
@@ -150,23 +124,16 @@ TEST(CConversions, RealsOfAnotherFormAreRefused) {
 TEST(CConversions, MillionsOfDigitsAreReadInOnePass) {
     const std::u16string digits(5'000'000, u'7');
     EXPECT_EQ(CConversions::r8FromString(digits + u"e-4999999", none), 7.777777777777778);
-    EXPECT_EQ(Outcome(CConversions::i4FromString, digits).size(), digits.size() + 39);
+    EXPECT_EQ(ReadI4(digits).size(), digits.size() + 39);
 }
 
 TEST(CConversions, RealsAreWrittenInGeneralNotation) {
-    const support::Row rows[] = {"0.1 -> 0.1",
-                                 "-0 -> -0",
-                                 "0.33333333333333331 -> 0.3333333333333333",
-                                 "1e15 -> 1000000000000000",
-                                 "1e16 -> 1e+16",
-                                 "1e-4 -> 0.0001",
-                                 "1e-5 -> 1e-05",
-                                 "INF -> INF",
-                                 "-INF -> -INF",
-                                 "NaN -> NaN",
-                                 "-1.7976931348623157e308 -> -1.797693134862316e+308"};
-    for (const auto& [value, text] : rows)
-        EXPECT_EQ(CConversions::r8ToString(CConversions::r8FromString(value, none)), FromUtf8(text));
+    ExpectRows({"0.1 -> 0.1", "-0 -> -0", "0.33333333333333331 -> 0.3333333333333333",
+                "1e15 -> 1000000000000000", "1e16 -> 1e+16", "1e-4 -> 0.0001", "1e-5 -> 1e-05", "INF -> INF",
+                "-INF -> -INF", "NaN -> NaN", "-1.7976931348623157e308 -> -1.797693134862316e+308"},
+               [](const char16_t* text) {
+                   return ToUtf8(CConversions::r8ToString(CConversions::r8FromString(text, none)));
+               });
     EXPECT_EQ(CConversions::r4ToString(0.1f), u"0.1");
     EXPECT_EQ(CConversions::r4ToString(16777216.0f), u"1.677722e+07");
     EXPECT_EQ(CConversions::r4ToString(-std::numeric_limits<float>::infinity()), u"-INF");
@@ -195,8 +162,6 @@ TEST(CConversions, Booleans) {
         EXPECT_EQ(InvalidValue([&] { CConversions::booleanFromString(text, collapse); }),
                   "A Boolean Value read from an XML document was invalid [" + ToUtf8(text) +
                       "]. Valid values are 'true', 'false', '1', or '0'");
-    EXPECT_EQ(CConversions::booleanToString(true), u"true");
-    EXPECT_EQ(CConversions::booleanToString(false), u"false");
 }
 
 TEST(CConversions, CharactersAndStrings) {
@@ -214,15 +179,11 @@ TEST(CConversions, CharactersAndStrings) {
                  CKzException);
 }
 
-TEST(CConversions, IntegersAndDatePartsAreWritten) {
-    EXPECT_EQ(CConversions::i1ToString(-128), u"-128");
-    EXPECT_EQ(CConversions::ui1ToString(255), u"255");
-    EXPECT_EQ(CConversions::ui4ToString(4294967295u), u"4294967295");
-    EXPECT_EQ(CConversions::yearToString(1), u"1");
-    EXPECT_EQ(CConversions::monthToString(5), u"--05");
-    EXPECT_EQ(CConversions::monthToString(13), u"--13");
-    EXPECT_EQ(CConversions::dayToString(0), u"---00");
-    EXPECT_EQ(CConversions::dayToString(255), u"---255");
+TEST(CConversions, DatePartsAreWritten) {
+    EXPECT_EQ(CConversions::yearToString(1) + CConversions::monthToString(5) +
+                  CConversions::monthToString(13) + CConversions::dayToString(0) +
+                  CConversions::dayToString(255),
+              u"1--05--13---00---255");
 }
 
 } // namespace

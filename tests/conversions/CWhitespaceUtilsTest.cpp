@@ -1,8 +1,6 @@
 #include <KzXmlLib10/conversions/CWhitespaceUtils.h>
 
-#include "support/Failure.h"
-
-#include <gtest/gtest.h>
+#include "support/Test.h"
 
 using namespace KzXmlLib10;
 using namespace std::literals;
@@ -11,10 +9,7 @@ using W = CWhitespaceUtils;
 namespace {
 
 TEST(CWhitespaceUtils, RulesTransformText) {
-    struct Row {
-        std::u16string text, preserve, replace, collapse;
-    };
-    const Row rows[] = {
+    const std::u16string rows[][4] = {
         {u"", u"", u"", u""},
         {u"   ", u"   ", u"   ", u""},
         {u"a\r\nb\rc\n", u"a\nb\nc\n", u"a b c ", u"a b c"},
@@ -30,11 +25,11 @@ TEST(CWhitespaceUtils, RulesTransformText) {
         {u"a\0b\r"s, u"a", u"a", u"a"},
         {u"a \0b "s, u"a \0b "s, u"a \0b "s, u"a "},
     };
-    for (const Row& row : rows) {
-        EXPECT_EQ(W::ApplyRule(W::WhitespaceRule_None, row.text), row.text);
-        EXPECT_EQ(W::ApplyRule(W::WhitespaceRule_Preserve, row.text), row.preserve);
-        EXPECT_EQ(W::ApplyRule(W::WhitespaceRule_Replace, row.text), row.replace);
-        EXPECT_EQ(W::ApplyRule(W::WhitespaceRule_Collapse, row.text), row.collapse);
+    for (const auto& [text, preserve, replace, collapse] : rows) {
+        EXPECT_EQ(W::ApplyRule(W::WhitespaceRule_None, text), text);
+        EXPECT_EQ(W::ApplyRule(W::WhitespaceRule_Preserve, text), preserve);
+        EXPECT_EQ(W::ApplyRule(W::WhitespaceRule_Replace, text), replace);
+        EXPECT_EQ(W::ApplyRule(W::WhitespaceRule_Collapse, text), collapse);
     }
 }
 

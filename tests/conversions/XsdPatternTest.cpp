@@ -1,11 +1,6 @@
 #include <KzXmlLib10/conversions/XsdPattern.h>
 
-#include "support/Failure.h"
-#include "support/Row.h"
-
-#include <gtest/gtest.h>
-
-#include <initializer_list>
+#include "support/Test.h"
 
 using namespace KzXmlLib10;
 using namespace std::literals;

@@ -1,22 +1,14 @@
 /// The classes of examples/orders, as code that somebody generated would meet the library.
 
-#include "support/Failure.h"
-
 #include "classes/COrders.h"
 #include "classes/CShipment.h"
+#include "support/Test.h"
 
 #include <KzXmlLib10/object/CXmlSerializationContext.h>
-#include <KzXmlLib10/object/Text.h>
-
-#include <gtest/gtest.h>
 
 #include <fstream>
-#include <functional>
-#include <iterator>
 #include <regex>
-#include <sstream>
 #include <thread>
-#include <vector>
 
 using namespace orders;
 using KzXmlLib10::support::Failure;

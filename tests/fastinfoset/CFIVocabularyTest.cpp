@@ -1,9 +1,8 @@
 #include <KzXmlLib10/fastinfoset/CFIVocabulary.h>
 
-#include <KzXmlLib10/object/CXmlSerializationContext.h>
-#include <KzXmlLib10/object/Text.h>
+#include "support/Test.h"
 
-#include <gtest/gtest.h>
+#include <KzXmlLib10/object/CXmlSerializationContext.h>
 
 using namespace KzXmlLib10;
 

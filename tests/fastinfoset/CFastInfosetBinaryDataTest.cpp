@@ -1,11 +1,9 @@
 #include <KzXmlLib10/fastinfoset/CFastInfosetBinaryData.h>
 
-#include "support/Failure.h"
-
-#include <gtest/gtest.h>
+#include "support/Test.h"
 
 using namespace KzXmlLib10;
-using support::Failure;
+using namespace KzXmlLib10::support;
 
 namespace {
 
@@ -57,9 +55,8 @@ TEST(CFastInfosetBinaryData, RefusesWhatItCannotConvert) {
     for (const unsigned long unknown : {0ul, 10ul, 11ul, 256ul})
         EXPECT_EQ(decoding(unknown), "Unknown byte encoding.");
     EXPECT_EQ(Failure([] { Encoded(11, u"1"); }), "Unknown byte encoding.");
-    EXPECT_EQ(Failure<CKzInvalidValueException>([] { Encoded(3, u"1 2"); }),
-              "The value [1 2] can not be converted to a i4");
-    EXPECT_EQ(Failure<CKzInvalidValueException>([] { Encoded(5, u"9223372036854775808"); }),
+    EXPECT_EQ(InvalidValue([] { Encoded(3, u"1 2"); }), "The value [1 2] can not be converted to a i4");
+    EXPECT_EQ(InvalidValue([] { Encoded(5, u"9223372036854775808"); }),
               "The value [9223372036854775808] is to large to fit in a i8");
     EXPECT_EQ(Failure([] { Encoded(9, u"00112233-4455"); }), "Invalid length in hex string");
     EXPECT_EQ(Encoded(3, u" -2"), "FFFE"); // blanks in front pass

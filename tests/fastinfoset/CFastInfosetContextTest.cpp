@@ -1,11 +1,9 @@
 #include <KzXmlLib10/fastinfoset/CFastInfosetContext.h>
 
-#include "support/Failure.h"
-
-#include <gtest/gtest.h>
+#include "support/Test.h"
 
 using namespace KzXmlLib10;
-using support::Failure;
+using namespace KzXmlLib10::support;
 
 namespace {
 
@@ -32,12 +30,10 @@ TEST(CFastInfosetContext, SuggestedValuesLeaveTextAndDurationsAlone) {
 
 TEST(CFastInfosetContext, RefusesWhatIsOutOfRange) {
     CFastInfosetContext context;
-    EXPECT_EQ(Failure<CKzInvalidParamException>([&] { context.GetEncoding(29); }),
-              "There is no ItemType [29]");
-    EXPECT_EQ(Failure<CKzInvalidParamException>([&] { context.SetEncoding(1ul << 32, {}); }),
-              "There is no ItemType [4294967296]");
+    EXPECT_EQ(InvalidParam([&] { context.GetEncoding(29); }), "There is no ItemType [29]");
+    EXPECT_EQ(InvalidParam([&] { context.SetEncoding(1ul << 32, {}); }), "There is no ItemType [4294967296]");
     context.SetAttributeMaxAddLength(0xFFFFFFFF);
-    EXPECT_EQ(Failure<CKzInvalidParamException>([&] { context.SetAttributeMaxAddLength(1ul << 32); }),
+    EXPECT_EQ(InvalidParam([&] { context.SetAttributeMaxAddLength(1ul << 32); }),
               "The length [4294967296] is too large; at most 4294967295 characters can be set");
     EXPECT_EQ(context.GetAttributeMaxAddLength(), 0xFFFFFFFFu);
 }

@@ -2,15 +2,12 @@
 
 #include "support/Bytes.h"
 #include "support/DumpTree.h"
-#include "support/Failure.h"
 #include "support/FastInfoset.h"
 #include "support/Model.h"
-#include "support/Row.h"
+#include "support/Test.h"
 
 #include <KzXmlLib10/xml/CXmlDocument.h>
 #include <KzXmlLib10/xml/Compression.h>
-
-#include <gtest/gtest.h>
 
 using namespace KzXmlLib10;
 using namespace KzXmlLib10::support;

@@ -1,13 +1,11 @@
 #include <KzXmlLib10/fastinfoset/CFastInfosetWriter.h>
 
 #include "support/Bytes.h"
-#include "support/Failure.h"
 #include "support/FastInfoset.h"
 #include "support/TempDir.h"
+#include "support/Test.h"
 
 #include <KzXmlLib10/xml/Compression.h>
-
-#include <gtest/gtest.h>
 
 #include <filesystem>
 
@@ -168,9 +166,8 @@ TEST(CFastInfosetWriter, DeclarationsStandInFront) {
             EXPECT_EQ(FromBinary(object.Written(defaults, static_cast<FInfoDecl>(++declaration))),
                       "<?xml" + version + " encoding='finf'" + standalone + "?>" + document);
     for (const int i : {-1, 10})
-        EXPECT_EQ(
-            Failure<CKzInvalidParamException>([&] { object.Written(defaults, static_cast<FInfoDecl>(i)); }),
-            "There is no FInfoDecl [" + std::to_string(i) + "]");
+        EXPECT_EQ(InvalidParam([&] { object.Written(defaults, static_cast<FInfoDecl>(i)); }),
+                  "There is no FInfoDecl [" + std::to_string(i) + "]");
 }
 
 TEST(CFastInfosetWriter, CommentsInstructionsAndSchemasLeaveNoTrace) {
@@ -210,8 +207,7 @@ TEST(CFastInfosetWriter, ChecksTheOrderOfCalls) {
     for (const char* words : {"<a", "<a <a >"}) // also a root of which nothing is written yet
         EXPECT_EQ(Failure([&] { Write(words); }), "An Element has not been closed.");
     for (const char* words : {"'x", ">", "@b=1", "nil"})
-        EXPECT_EQ(Failure<CKzInvalidStateException>([&] { Write(words); }),
-                  "There is no open element to write to");
+        EXPECT_EQ(InvalidState([&] { Write(words); }), "There is no open element to write to");
 }
 
 TEST(CFastInfosetWriter, CompressesAndSavesDocuments) {

@@ -1,11 +1,8 @@
 #include "fastinfoset/IntegerRules.h"
 
-#include <KzXmlLib10/object/Text.h>
+#include "support/Test.h"
+
 #include <KzXmlLib10/values/CBinaryData.h>
-
-#include <gtest/gtest.h>
-
-#include <sstream>
 
 using namespace KzXmlLib10;
 using namespace KzXmlLib10::fastinfoset;

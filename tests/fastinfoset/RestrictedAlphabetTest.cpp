@@ -1,9 +1,7 @@
 #include "fastinfoset/RestrictedAlphabet.h"
 
-#include "support/Failure.h"
 #include "support/FastInfoset.h"
-
-#include <gtest/gtest.h>
+#include "support/Test.h"
 
 using namespace KzXmlLib10;
 using namespace KzXmlLib10::fastinfoset;

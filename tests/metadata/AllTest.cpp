@@ -1,8 +1,7 @@
 /// All groups: children in any order, each at most once.
 
 #include "support/Roundtrip.h"
-
-#include <gtest/gtest.h>
+#include "support/Test.h"
 
 using namespace kit;
 

@@ -1,10 +1,9 @@
 /// Choices: one member, none, two; nested groups that give the position back; repeated members.
 
 #include "support/Roundtrip.h"
+#include "support/Test.h"
 
 #include <KzXmlLib10/metadata/CElementInfoChoice.h>
-
-#include <gtest/gtest.h>
 
 using namespace kit;
 

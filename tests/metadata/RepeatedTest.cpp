@@ -1,6 +1,7 @@
 /// Repeated members and wildcards of sequences, and attribute wildcards.
 
 #include "support/Roundtrip.h"
+#include "support/Test.h"
 
 #include <KzXmlLib10/collections/CAttributeCol.h>
 #include <KzXmlLib10/collections/CElement.h>
@@ -9,8 +10,6 @@
 #include <KzXmlLib10/metadata/CElementInfoAll.h>
 #include <KzXmlLib10/metadata/CElementInfoChoice.h>
 #include <KzXmlLib10/metadata/CElementInfoSeq.h>
-
-#include <gtest/gtest.h>
 
 using namespace kit;
 

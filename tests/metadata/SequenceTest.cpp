@@ -2,9 +2,8 @@
 /// written.
 
 #include "support/Roundtrip.h"
+#include "support/Test.h"
 #include "support/Threads.h"
-
-#include <gtest/gtest.h>
 
 using namespace kit;
 

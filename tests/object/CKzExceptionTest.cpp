@@ -1,11 +1,9 @@
 #include <KzXmlLib10/object/CKzException.h>
 
 #include "object/Throw.h"
-
-#include <gtest/gtest.h>
+#include "support/Test.h"
 
 #include <exception>
-#include <sstream>
 
 using namespace KzXmlLib10;
 

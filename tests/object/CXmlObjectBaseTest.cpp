@@ -1,14 +1,11 @@
 #include <KzXmlLib10/object/CXmlObjectBase.h>
 
-#include "support/Failure.h"
 #include "support/FastInfoset.h"
 #include "support/Model.h"
-
-#include <gtest/gtest.h>
+#include "support/Test.h"
 
 using namespace KzXmlLib10;
-using KzXmlLib10::support::Failure;
-using KzXmlLib10::support::ScriptedObject;
+using namespace KzXmlLib10::support;
 
 namespace {
 

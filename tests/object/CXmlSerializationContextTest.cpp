@@ -1,11 +1,9 @@
 #include <KzXmlLib10/object/CXmlSerializationContext.h>
 
-#include "support/Failure.h"
-
-#include <gtest/gtest.h>
+#include "support/Test.h"
 
 using namespace KzXmlLib10;
-using KzXmlLib10::support::Failure;
+using namespace KzXmlLib10::support;
 
 namespace {
 
@@ -29,18 +27,17 @@ TEST(CXmlSerializationContext, SchemaTypeWithoutNamespacesIgnoresThemWhateverThe
 }
 
 TEST(CXmlSerializationContext, UnknownAndMissingElementsAreNotIgnoredTogether) {
-    using S = CKzInvalidStateException;
     const std::string both = "The parser can only ignore additional elements, or ignore the fact that some "
                              "required ones are missing, you can not ignore both\nSet ";
     CXmlSerializationContext context;
     context.SetIgnoreUnknownElements(true);
     context.SetIgnoreUnknownElements(true);
-    EXPECT_EQ(Failure<S>([&] { context.SetIgnoreMissingMandatoryElements(true); }),
+    EXPECT_EQ(InvalidState([&] { context.SetIgnoreMissingMandatoryElements(true); }),
               both + "IgnoreUnknownElements to false before setting IgnoreMissingMandatoryElements to true");
     EXPECT_FALSE(context.GetIgnoreMissingMandatoryElements());
     context.SetIgnoreUnknownElements(false);
     context.SetIgnoreMissingMandatoryElements(true);
-    EXPECT_EQ(Failure<S>([&] { context.SetIgnoreUnknownElements(true); }),
+    EXPECT_EQ(InvalidState([&] { context.SetIgnoreUnknownElements(true); }),
               both + "IgnoreMissingMandatoryElements to false before setting IgnoreUnknownElements to true");
     EXPECT_FALSE(context.GetIgnoreUnknownElements());
 }

@@ -1,15 +1,12 @@
 /// One object down every road: text, bytes, files, in all encodings, compressed or not, on both file roads.
 
 #include "support/Bytes.h"
-#include "support/Failure.h"
 #include "support/FileTest.h"
 #include "support/Model.h"
-
-#include <gtest/gtest.h>
+#include "support/Test.h"
 
 using namespace kit;
-using support::Failure;
-using support::FromBinary;
+using namespace KzXmlLib10::support;
 
 namespace {
 

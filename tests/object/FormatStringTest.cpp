@@ -1,8 +1,6 @@
 #include <KzXmlLib10/object/FormatString.h>
 
-#include <gtest/gtest.h>
-
-#include <limits>
+#include "support/Test.h"
 
 using namespace KzXmlLib10;
 

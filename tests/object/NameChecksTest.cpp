@@ -1,14 +1,11 @@
 #include "object/NamespaceRestriction.h"
-
-#include "support/Failure.h"
 #include "support/FastInfoset.h"
+#include "support/Test.h"
 
 #include <KzXmlLib10/xml/CXmlDocument.h>
 
-#include <gtest/gtest.h>
-
 using namespace KzXmlLib10;
-using KzXmlLib10::support::Failure;
+using namespace KzXmlLib10::support;
 
 namespace {
 
@@ -65,13 +62,12 @@ TEST(NamespaceRestriction, TestNamesAllThree) {
 }
 
 TEST(PropertyChecks, RefuseNullAndOtherNames) {
-    using P = CKzInvalidParamException;
     CNamed object;
     CXmlObjectBase::SetElementName(&object, u"one");
-    EXPECT_EQ(Failure<P>([] { CNamed::Throw_IfPropertyIsNull(nullptr, u"Address"); }),
+    EXPECT_EQ(InvalidParam([] { CNamed::Throw_IfPropertyIsNull(nullptr, u"Address"); }),
               "The Property [Address] is mandatory, it may node be NULL");
     EXPECT_NO_THROW(CNamed::Throw_IfPropertyIsNull(&object, u"Address"));
-    EXPECT_EQ(Failure<P>([&] { CNamed::Throw_IfElementNameDiffers(&object, u"two"); }),
+    EXPECT_EQ(InvalidParam([&] { CNamed::Throw_IfElementNameDiffers(&object, u"two"); }),
               "This property requrires an element with the name two the element being set has the element "
               "name one");
     EXPECT_NO_THROW(CNamed::Throw_IfElementNameDiffers(&object, u"one"));

@@ -1,8 +1,4 @@
-#include <KzXmlLib10/object/Text.h>
-
-#include <KzXmlLib10/object/CKzException.h>
-
-#include <gtest/gtest.h>
+#include "support/Test.h"
 
 using namespace KzXmlLib10;
 

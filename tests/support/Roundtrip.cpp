@@ -1,11 +1,11 @@
 #include "support/Roundtrip.h"
 
+#include "support/Test.h"
+
 #include <KzXmlLib10/collections/CAttribute.h>
 #include <KzXmlLib10/collections/CAttributeCol.h>
 #include <KzXmlLib10/collections/CElement.h>
 #include <KzXmlLib10/collections/CElementCol.h>
-
-#include <gtest/gtest.h>
 
 namespace kit {
 

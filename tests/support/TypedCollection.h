@@ -1,5 +1,7 @@
 #pragma once
 
+#include "support/FastInfoset.h"
+
 #include <KzXmlLib10/collections/CXmlTypeCollection.h>
 #include <KzXmlLib10/object/CXmlSerializationContext.h>
 #include <KzXmlLib10/object/Text.h>
@@ -50,14 +52,17 @@ public:
 };
 
 /// An object <r> that contains one collection and nothing else.
-class CollectionOwner : public CXmlObjectBase {
+class CollectionOwner : public ScriptedObject {
 public:
-    explicit CollectionOwner(CXmlTypeCollection& items) : m_items(items) { SetElementName(u"r"); }
-
-    using CXmlObjectBase::GetBase;
-    CXmlObjectBase* GetBase() override { return this; }
-    std::u16string GetTargetNamespace() const override { return u""; }
-    std::u16string GetNamespace() const override { return u""; }
+    explicit CollectionOwner(CXmlTypeCollection& items)
+        : ScriptedObject([&items](CXmlWriter& writer) {
+              writer.StartElement(u"r", u"");
+              CXmlObjectBase::ToXml_Int(&items, &writer, false, u"", CXmlSerializationContext(), false);
+              writer.EndElement();
+          }),
+          m_items(items) {
+        SetElementName(u"r");
+    }
 
     /// What the collection calls when it is written.
     std::string Calls(const CXmlSerializationContext& context = {}) const {
@@ -72,12 +77,6 @@ public:
     std::u16string Write() const { return ToXml(false, false, EOLType_LF, CXmlSerializationContext()); }
 
 protected:
-    void ToXml_Int(CXmlWriter* writer, bool, const char16_t*, const CXmlSerializationContext& context,
-                   bool) const override {
-        writer->StartElement(u"r", u"");
-        CXmlObjectBase::ToXml_Int(&m_items, writer, false, u"", context, false);
-        writer->EndElement();
-    }
     CXmlElement* FromXml_Int(CXmlElement* element, CXmlElement* current,
                              const CXmlSerializationContext& context, bool) override {
         return CXmlObjectBase::FromXml_Int(&m_items, element, current, context);

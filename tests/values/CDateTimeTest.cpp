@@ -1,37 +1,22 @@
-#include <KzXmlLib10/values/CDateTime.h>
-
-#include "support/Failure.h"
-#include "support/Row.h"
-
-#include <gtest/gtest.h>
-
-#include <algorithm>
-#include <initializer_list>
-#include <iterator>
-#include <string>
-#include <tuple>
+#include "values/Dates.h"
 
 using namespace KzXmlLib10;
-using support::Row;
+using namespace KzXmlLib10::support;
 
 namespace {
-
-constexpr auto Refused = [](auto action) { return support::Failure<CKzInvalidValueException>(action); };
-constexpr auto Forbidden = [](auto action) { return support::Failure<CKzInvalidStateException>(action); };
 
 using Parser = void (CDateTime::*)(const char16_t*);
 
 /// Kind and text of what the parser reads, or the message of the failure.
 std::string Read(Parser parse, const char16_t* text) {
     CDateTime value;
-    const std::string failure = Refused([&] { (value.*parse)(text); });
+    const std::string failure = InvalidValue([&] { (value.*parse)(text); });
     return failure != "no failure" ? failure : ToUtf8(value.GetTypeAsString() + u" " + value.ToString());
 }
 
 /// Compares what Read gives of each text.
 void ExpectRead(Parser parse, std::initializer_list<Row> rows) {
-    for (const Row& row : rows)
-        EXPECT_EQ(Read(parse, row.text.c_str()), row.expected);
+    ExpectRows(rows, [=](const char16_t* text) { return Read(parse, text); });
 }
 
 TEST(CDateTime, TheFormOfADateDecidesOnItsKind) {
@@ -86,7 +71,6 @@ TEST(CDateTime, BadTimesAreRefusedWithTheirMessage) {
                 "12:00:00+05:0 -> Invalid XSD Time Zone [+05:0]",
                 "12:00:00.1+05:00x -> Invalid XSD Time Zone [+05:00x]",
                 "12:00:00+25:00 -> Invalid TimeZone [25:0]", "12:00:00+05:60 -> Invalid TimeZone [5:60]"});
-    EXPECT_EQ(Read(&CDateTime::ParseXSDTime, nullptr), "Invalid Time (Null String)");
 }
 
 TEST(CDateTime, WhatIsNoZoneIsIgnoredAndAnOffsetBelowAnHourLosesItsSign) {
@@ -112,14 +96,10 @@ TEST(CDateTime, DateTimesAreADateAndATime) {
          "2001-02-29T12:00:00 -> Invalid Day [29] (1 <= day <= days in month"});
     EXPECT_EQ(Read(&CDateTime::ParseXSDDateTime, nullptr), "Invalid DateTime (Null String)");
     EXPECT_EQ(CDateTime(u"2001-05-12T13:20:00").ToString(), u"2001-05-12T13:20:00");
-    EXPECT_EQ(Refused([] { CDateTime value(u"2001"); }), "Invalid XSD DateTime [2001]");
-}
-
-TEST(CDateTime, ParsingStartsAnew) {
-    CDateTime value(u"2001-05-12T13:20:00.5+01:00");
+    CDateTime value(u"2001-05-12T13:20:00.5+01:00"); // each parse starts anew
     value.ParseXSDDate(u"--02");
     EXPECT_EQ(value.GetTypeAsString() + value.ToString(), u"gMonth--02");
-    EXPECT_EQ(Refused([&] { value.ParseXSDTime(nullptr); }), "Invalid Time (Null String)");
+    EXPECT_EQ(InvalidValue([&] { value.ParseXSDTime(nullptr); }), "Invalid Time (Null String)");
     EXPECT_EQ(value.GetType(), CDateTime::DTType_yearZero);
 }
 
@@ -131,18 +111,19 @@ TEST(CDateTime, FormatsAreComparedByContentAndOnlyAMidnightIsAValueOfZeros) {
         EXPECT_EQ(date.ToString(none), u"");
     EXPECT_EQ(date.ToString(u"S"), u"Unknown Format: S");
     EXPECT_EQ(CDateTime(CDateTime::DTType_time).ToString(), u"00:00:00");
-    EXPECT_EQ(Refused([] { CDateTime().ToString(nullptr); }), "Date Not Set");
-    EXPECT_EQ(Refused([] { CDateTime(CDateTime::DTType_date).ToString(); }), "Date Not Set");
+    EXPECT_EQ(InvalidValue([] { CDateTime().ToString(nullptr); }), "Date Not Set");
+    EXPECT_EQ(InvalidValue([] { CDateTime(CDateTime::DTType_date).ToString(); }), "Date Not Set");
 }
 
 TEST(CDateTime, SettersByKindValidateAndRefuseAnotherKind) {
     CDateTime value;
     value.SetGMonthDay(2, 29);
     EXPECT_EQ(value.ToString(), u"--02-29");
-    EXPECT_EQ(Forbidden([&] { value.SetDate(2001, 1, 1); }),
+    EXPECT_EQ(InvalidState([&] { value.SetDate(2001, 1, 1); }),
               "Failed to copy CDateTime. Invalid Date Type: date, expected: gMonthDay.");
     value.SetTimeZone(1, 0);
-    EXPECT_EQ(Refused([&] { value.SetGMonthDay(2, 30); }), "Invalid Day [30] (1 <= day <= days in month)");
+    EXPECT_EQ(InvalidValue([&] { value.SetGMonthDay(2, 30); }),
+              "Invalid Day [30] (1 <= day <= days in month)");
     EXPECT_EQ(value.ToString(), u"--02-30");
 
     CDateTime time;
@@ -150,12 +131,12 @@ TEST(CDateTime, SettersByKindValidateAndRefuseAnotherKind) {
     EXPECT_EQ(time.ToString(), u"01:02:03.004005006");
     time.SetFracTime(4, 0, 0);
     EXPECT_EQ(time.ToString(), u"00:00:00.004");
-    EXPECT_EQ(Refused([] { CDateTime().SetGMonth(257); }), "Invalid Month [257] (1 <= month <= 12)");
-    EXPECT_EQ(Refused([] { CDateTime().SetGYear(-10000); }),
+    EXPECT_EQ(InvalidValue([] { CDateTime().SetGMonth(257); }), "Invalid Month [257] (1 <= month <= 12)");
+    EXPECT_EQ(InvalidValue([] { CDateTime().SetGYear(-10000); }),
               "Invalid Year [-10000] (9999 <= year <= -9999 && year != 0)");
 
     // Each field one above its range, one after the other.
-    const char* const fields[] = {"Hour [24] (0 <= hour <= 23)",
+    const std::string fields[] = {"Hour [24] (0 <= hour <= 23)",
                                   "Minute [60] (0 <= minute <= 59)",
                                   "Second [60] (0 <= second <= 59)",
                                   "Milli-Second [1000] (0 <= milli <= 999)",
@@ -163,36 +144,36 @@ TEST(CDateTime, SettersByKindValidateAndRefuseAnotherKind) {
                                   "Nano-Second [1000] (0 <= nano <= 999)"};
     int f[] = {24, 60, 60, 1000, 1000, 1000};
     for (std::size_t i = 0; i < std::size(f); --f[i++])
-        EXPECT_EQ(Refused([&] { CDateTime().SetTime(f[0], f[1], f[2], f[3], f[4], f[5]); }),
-                  "Invalid " + std::string(fields[i]));
-    EXPECT_EQ(Refused([] { CDateTime().SetTime(-1, 0, 0); }), "Invalid Hour [-1] (0 <= hour <= 23)");
+        EXPECT_EQ(InvalidValue([&] { CDateTime().SetTime(f[0], f[1], f[2], f[3], f[4], f[5]); }),
+                  "Invalid " + fields[i]);
+    EXPECT_EQ(InvalidValue([] { CDateTime().SetTime(-1, 0, 0); }), "Invalid Hour [-1] (0 <= hour <= 23)");
 }
 
 TEST(CDateTime, ValueConstructorsSwallowTheFailureAndLeaveNothing) {
     EXPECT_EQ(CDateTime(2001, 5, 12, 13, 20, 0, 1, 2, 3).ToString(), u"2001-05-12T13:20:00.001002003");
     for (CDateTime bad : {CDateTime(2001, 2, 29), CDateTime(2001, 1, 1, 24, 0, 0)}) {
-        EXPECT_EQ(Refused([&] { bad.Validate(); }), "Invalid Year Zero");
+        EXPECT_EQ(InvalidValue([&] { bad.Validate(); }), "Invalid Year Zero");
         bad.SetTime(1, 2, 3); // no field and no kind is left over
         EXPECT_EQ(bad.ToString(), u"01:02:03");
     }
 }
 
 TEST(CDateTime, FieldsThatAKindHasNotAreRefused) {
-    const auto failure = [](const CDateTime& source, CDateTime::DTType target) {
+    const auto expect = [](const char16_t* source, CDateTime::DTType target, const std::string& message) {
         CDateTime value;
-        value.SetDateTime(source, target);
-        return Refused([&] { value.Validate(); });
+        value.SetDateTime(CDateTime(source), target);
+        EXPECT_EQ(InvalidValue([&] { value.Validate(); }), "Invalid " + message);
     };
-    const CDateTime full(2001, 5, 12, 13, 20, 30);
-    EXPECT_EQ(failure(full, CDateTime::DTType_gYearMonth), "Invalid Day [12] for type gYearMonth");
-    EXPECT_EQ(failure(full, CDateTime::DTType_time), "Invalid Month [5] for type time");
-    EXPECT_EQ(failure(full, CDateTime::DTType_gMonth), "Invalid Year [2001] for type gMonth");
-    const char* const fields[] = {"Hour [13]",        "Minute [20]",      "Second [30]",
-                                  "Milli-Second [1]", "Micro-Second [2]", "Nano-Second [3]"};
-    int f[] = {13, 20, 30, 1, 2, 3};
-    for (std::size_t i = 0; i < std::size(f); f[i++] = 0)
-        EXPECT_EQ(failure(CDateTime(2001, 5, 12, f[0], f[1], f[2], f[3], f[4], f[5]), CDateTime::DTType_date),
-                  "Invalid " + std::string(fields[i]) + " for type date");
+    using D = CDateTime;
+    expect(u"2001-05-12T13:20:30", D::DTType_gYearMonth, "Day [12] for type gYearMonth");
+    expect(u"2001-05-12T13:20:30", D::DTType_time, "Month [5] for type time");
+    expect(u"2001-05-12T13:20:30", D::DTType_gMonth, "Year [2001] for type gMonth");
+    expect(u"2001-05-12T13:20:30.001002003", D::DTType_date, "Hour [13] for type date");
+    expect(u"2001-05-12T00:20:30.001002003", D::DTType_date, "Minute [20] for type date");
+    expect(u"2001-05-12T00:00:30.001002003", D::DTType_date, "Second [30] for type date");
+    expect(u"2001-05-12T00:00:00.001002003", D::DTType_date, "Milli-Second [1] for type date");
+    expect(u"2001-05-12T00:00:00.000002003", D::DTType_date, "Micro-Second [2] for type date");
+    expect(u"2001-05-12T00:00:00.000000003", D::DTType_date, "Nano-Second [3] for type date");
 }
 
 /// Reads a field, or sets it to 200, which most fields must not be.
@@ -223,7 +204,7 @@ TEST(CDateTime, GettersAndSettersAskTheKindAndNotTheRange) {
                                         ". Invalid Date Type: " + ToUtf8(value.GetTypeAsString()) + ".";
             const bool has = std::string(row.kinds).find(static_cast<char>('0' + kind)) != std::string::npos;
             for (const bool set : {false, true})
-                EXPECT_EQ(Forbidden([&] { row.access(value, set); }), has ? "no failure" : failure);
+                EXPECT_EQ(InvalidState([&] { row.access(value, set); }), has ? "no failure" : failure);
         }
     }
     D value(2001, 5, 12, 13, 20, 1, 2, 3, 4);
@@ -238,10 +219,10 @@ TEST(CDateTime, GettersAndSettersAskTheKindAndNotTheRange) {
     value.SetNanoSecond(13);
     EXPECT_EQ(value.ToString(), u"-12345-06-07T08:09:10.500012013");
     EXPECT_EQ(value.GetRealSecond(), 500 / 1000.0 + 10 + 12 / 1e6 + 13 / 1e9);
-    const int fields[] = {value.GetYear(),        value.GetMonth(),     value.GetDay(),
-                          value.GetHour(),        value.GetMinute(),    value.GetSecond(),
-                          value.GetMicroSecond(), value.GetNanoSecond()};
-    EXPECT_TRUE(std::ranges::equal(fields, std::initializer_list<int>{-12345, 6, 7, 8, 9, 10, 12, 13}));
+    EXPECT_EQ((std::vector<int>{value.GetYear(), value.GetMonth(), value.GetDay(), value.GetHour(),
+                                value.GetMinute(), value.GetSecond(), value.GetMicroSecond(),
+                                value.GetNanoSecond()}),
+              (std::vector<int>{-12345, 6, 7, 8, 9, 10, 12, 13}));
     EXPECT_EQ(D(static_cast<D::DTType>(9)).GetTypeAsString(), u"");
 }
 
@@ -251,13 +232,13 @@ TEST(CDateTime, AnOffsetIsUtcToo) {
     value.SetTimeZone(-23, 59);
     EXPECT_TRUE(value.IsUTC() && value.HasTimeZone());
     EXPECT_TRUE(value.GetZoneHour() == -23 && value.GetZoneMinute() == 59);
-    EXPECT_EQ(Refused([&] { value.SetTimeZone(24, 0); }), "Invalid TimeZone [24:0]");
+    EXPECT_EQ(InvalidValue([&] { value.SetTimeZone(24, 0); }), "Invalid TimeZone [24:0]");
     EXPECT_EQ(value.ToString(), u"2001-05-12-23:59");
     value.SetUTC();
     EXPECT_EQ(value.ToString(), u"2001-05-12Z");
     EXPECT_TRUE(value.IsUTC());
-    EXPECT_EQ(Forbidden([&] { value.GetZoneHour(); }), "TimeZone is not been used");
-    EXPECT_EQ(Forbidden([&] { value.GetZoneMinute(); }), "TimeZone is not been used");
+    EXPECT_EQ(InvalidState([&] { value.GetZoneHour(); }), "TimeZone is not been used");
+    EXPECT_EQ(InvalidState([&] { value.GetZoneMinute(); }), "TimeZone is not been used");
 }
 
 TEST(CDateTime, KindsConvertWhereTheFieldsSuffice) {
@@ -269,38 +250,35 @@ TEST(CDateTime, KindsConvertWhereTheFieldsSuffice) {
             const CDateTime from(static_cast<CDateTime::DTType>(source));
             CDateTime to(CDateTime::DTType_gDay);
             const std::string failure =
-                Refused([&] { to.SetDateTime(from, static_cast<CDateTime::DTType>(target)); });
+                InvalidValue([&] { to.SetDateTime(from, static_cast<CDateTime::DTType>(target)); });
             EXPECT_EQ(failure == "no failure", allowed[source][target] == '1') << source << " " << target;
             EXPECT_EQ(to.GetType(), failure == "no failure" ? target : CDateTime::DTType_gDay);
         }
     }
     CDateTime value(2001, 5, 12);
-    EXPECT_EQ(Refused([&] { value.SetDateTime(value, CDateTime::DTType_time); }),
+    EXPECT_EQ(InvalidValue([&] { value.SetDateTime(value, CDateTime::DTType_time); }),
               "Attempting to set a CDateTime of type time using an XmlDateTime of type date. The source "
               "CDateTime does not contian enough data to allow the conversion.");
     const CDateTime unknown(static_cast<CDateTime::DTType>(9));
-    EXPECT_EQ(Refused([&] { value.SetDateTime(unknown, CDateTime::DTType_date); }), "Unknown date type 9.");
+    EXPECT_EQ(InvalidValue([&] { value.SetDateTime(unknown, CDateTime::DTType_date); }),
+              "Unknown date type 9.");
     value.SetUTC();
     value.SetDateTime(value, CDateTime::DTType_gYear);
     EXPECT_EQ(value.ToString(), u"2001Z");
     value.SetDateTime(value, CDateTime::DTType_gYear); // nothing is masked: the month is still there
-    EXPECT_EQ(Refused([&] { value.Validate(); }), "Invalid Month [5] for type gYear");
+    EXPECT_EQ(InvalidValue([&] { value.Validate(); }), "Invalid Month [5] for type gYear");
 }
 
 TEST(CDateTime, TheLeapDayCountsInJanuaryAndFebruaryOnly) {
-    for (const auto& [date, expected] : {std::pair{CDateTime(2000, 1, 1), 2},
-                                         {CDateTime(2000, 2, 29), 61},
-                                         {CDateTime(2000, 3, 1), 60},
-                                         {CDateTime(2001, 3, 1), 60},
-                                         {CDateTime(1900, 1, 1), 1},
-                                         {CDateTime(2001, 12, 31, 0, 0, 0), 365}})
-        EXPECT_EQ(date.GetDayOfYear(), expected);
-    EXPECT_EQ(Forbidden([] { CDateTime(CDateTime::DTType_gMonthDay).GetDayOfYear(); }),
+    ExpectRows({"2000-01-01 -> 2", "2000-02-29 -> 61", "2000-03-01 -> 60", "2001-03-01 -> 60",
+                "1900-01-01 -> 1", "2001-12-31T00:00:00 -> 365"},
+               [](const char16_t* text) { return std::to_string(Moment(text).GetDayOfYear()); });
+    EXPECT_EQ(InvalidState([] { CDateTime(CDateTime::DTType_gMonthDay).GetDayOfYear(); }),
               "Failed to GetDayOfYear. Invalid Date Type: gMonthDay.");
-    for (const std::uint8_t month : {0, 13, 200}) {
-        CDateTime value(2001, 5, 12);
+    CDateTime value(2001, 5, 12);
+    for (const std::uint8_t month : {0, 13}) {
         value.SetMonth(month);
-        EXPECT_EQ(Refused([&] { value.GetDayOfYear(); }),
+        EXPECT_EQ(InvalidValue([&] { value.GetDayOfYear(); }),
                   "Invalid Month [" + std::to_string(month) + "] (1 <= month <= 12)");
     }
 }

@@ -1,15 +1,8 @@
 #pragma once
 
-#include "support/Row.h"
+#include "support/Test.h"
 
-#include <gtest/gtest.h>
-
-#include <chrono>
 #include <cmath>
-#include <initializer_list>
-#include <limits>
-#include <string>
-#include <tuple>
 
 namespace KzXmlLib10::support {
 
@@ -25,8 +18,7 @@ std::string Texts(std::initializer_list<Number> values) {
 /// Compares what is read of each text.
 template <class Number>
 void ExpectTexts(std::initializer_list<Row> rows) {
-    for (const Row& row : rows)
-        EXPECT_EQ(Texts({Number(row.text.c_str())}), row.expected) << ToUtf8(row.text);
+    ExpectRows(rows, [](const char16_t* text) { return Texts({Number(text)}); });
 }
 
 /// Compares each number with each by all operators.

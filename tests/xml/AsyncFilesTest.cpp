@@ -1,17 +1,12 @@
 #include "xml/AsyncFiles.h"
 
 #include "support/FileTest.h"
+#include "support/Test.h"
 
-#include <gtest/gtest.h>
-
-#include <algorithm>
 #include <cerrno>
 #include <fcntl.h>
-#include <string>
 #include <sys/stat.h>
 #include <unistd.h>
-#include <utility>
-#include <vector>
 
 using namespace KzXmlLib10;
 using namespace KzXmlLib10::support;

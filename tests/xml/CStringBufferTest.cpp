@@ -1,9 +1,8 @@
 #include <KzXmlLib10/xml/CStringBuffer.h>
 
-#include <KzXmlLib10/object/CKzException.h>
-#include <KzXmlLib10/xml/CTextStream.h>
+#include "support/Test.h"
 
-#include <gtest/gtest.h>
+#include <KzXmlLib10/xml/CTextStream.h>
 
 using namespace KzXmlLib10;
 

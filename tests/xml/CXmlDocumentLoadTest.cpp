@@ -1,15 +1,11 @@
-#include <KzXmlLib10/xml/CXmlDocument.h>
-
 #include "support/Bytes.h"
 #include "support/DumpTree.h"
-#include "support/Failure.h"
 #include "support/FileTest.h"
+#include "support/Test.h"
 
-#include <gtest/gtest.h>
+#include <KzXmlLib10/xml/CXmlDocument.h>
 
 #include <cerrno>
-#include <stdexcept>
-#include <string>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -134,10 +130,8 @@ TEST_F(CXmlDocumentLoad, ReportsWhatIsWrongWithAFile) {
     }
     CXmlDocument document;
     EXPECT_EQ(Failure([&] { document.LoadXmlStream(nullptr, 0); }), "XML Stream is empty!");
-    EXPECT_EQ(Failure<CKzInvalidParamException>([&] { document.LoadXmlStream(nullptr, 1); }),
-              "The argument data may not be null");
-    EXPECT_EQ(Failure<CKzInvalidParamException>([&] { document.Load(nullptr); }),
-              "The argument fileName may not be null");
+    EXPECT_EQ(InvalidParam([&] { document.LoadXmlStream(nullptr, 1); }), "The argument data may not be null");
+    EXPECT_EQ(InvalidParam([&] { document.Load(nullptr); }), "The argument fileName may not be null");
 }
 
 TEST_F(CXmlDocumentLoad, ReportsFaultsOfReading) {

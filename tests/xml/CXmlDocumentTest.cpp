@@ -1,23 +1,14 @@
 #include <KzXmlLib10/xml/CXmlDocument.h>
 
 #include "support/DumpTree.h"
-#include "support/Failure.h"
-#include "support/Row.h"
+#include "support/Test.h"
 
 #include <KzXmlLib10/object/CXmlSerializationContext.h>
-
-#include <gtest/gtest.h>
-
-#include <chrono>
-#include <stdexcept>
-#include <string>
-#include <vector>
 
 namespace KzXmlLib10 {
 namespace {
 
-using support::DumpTree;
-using support::Failure;
+using namespace KzXmlLib10::support;
 using namespace std::literals;
 
 template <class Text>
@@ -110,9 +101,9 @@ TEST(CXmlDocument, FailsWithTheWordsOfTheParserAndTheLine) {
         EXPECT_EQ(Failure([bytes = ToUtf8(xml)] { Tree(bytes.c_str()); }), message);
     EXPECT_EQ(Failure([] { Tree("<a>\xC3(</a>"); }), "not well-formed (invalid token) at line 1");
     EXPECT_EQ(Failure([] { Tree(u""); }), "no element found at line 1");
-    EXPECT_EQ(Failure<CKzInvalidParamException>([] { Tree(static_cast<const char*>(nullptr)); }),
+    EXPECT_EQ(InvalidParam([] { Tree(static_cast<const char*>(nullptr)); }),
               "The argument text may not be null");
-    EXPECT_EQ(Failure<CKzInvalidParamException>([] { CXmlDocument().LookupNamespaceFromAlias(nullptr); }),
+    EXPECT_EQ(InvalidParam([] { CXmlDocument().LookupNamespaceFromAlias(nullptr); }),
               "The argument alias may not be null");
 }
 
@@ -235,8 +226,7 @@ TEST(CXmlDocument, PassesOnWhatTheCallbackThrows) {
     };
     g_calls = 0;
     CXmlDocument document(fail);
-    EXPECT_EQ(Failure<CKzInvalidStateException>([&] { document.LoadXml("<r><a/><library/><b/><c/></r>"); }),
-              "enough");
+    EXPECT_EQ(InvalidState([&] { document.LoadXml("<r><a/><library/><b/><c/></r>"); }), "enough");
     EXPECT_EQ(g_calls, 2) << "no callback after the one that threw";
     EXPECT_THROW(document.LoadXml(u"<r><a/><foreign/><!-- not <even> well-formed"), std::out_of_range);
     EXPECT_THROW(document.LoadXml(u"<foreign/>"), std::out_of_range) << "at the last tag";

@@ -1,17 +1,9 @@
 #include <KzXmlLib10/xml/CXmlTextWriter.h>
 
-#include "support/Failure.h"
-
-#include <KzXmlLib10/object/Text.h>
-
-#include <gtest/gtest.h>
-
-#include <sstream>
-#include <utility>
-#include <vector>
+#include "support/Test.h"
 
 using namespace KzXmlLib10;
-using support::Failure;
+using namespace KzXmlLib10::support;
 using namespace std::literals;
 
 namespace {
@@ -210,7 +202,7 @@ TEST(CXmlTextWriter, OperationsWithoutAnOpenElementFailCleanly) {
     out.Write(u"");
     for (int i = 0; i < 2; ++i) {
         for (const char* operation : {"'x", ")", "@n=", "!", ":t"})
-            EXPECT_EQ(Failure<CKzInvalidStateException>([&] { out.Run(operation); }), none) << operation;
+            EXPECT_EQ(InvalidState([&] { out.Run(operation); }), none) << operation;
         out.writer.CloseStartTag();
         out.Run("(r )");
     }

@@ -1,14 +1,8 @@
 #include <KzXmlLib10/xml/Compression.h>
 
 #include "support/Bytes.h"
-#include "support/Failure.h"
 #include "support/LimitsScope.h"
-
-#include <gtest/gtest.h>
-
-#include <algorithm>
-#include <string>
-#include <vector>
+#include "support/Test.h"
 
 using namespace KzXmlLib10;
 using namespace KzXmlLib10::support;

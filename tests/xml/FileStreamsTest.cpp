@@ -1,17 +1,13 @@
 // The two roads of text into a file: whole, by CFileBinaryStream, and block by block, by CFileTextStream.
 
+#include "support/FileTest.h"
+#include "support/Test.h"
+
 #include <KzXmlLib10/xml/CFileBinaryStream.h>
 #include <KzXmlLib10/xml/CFileTextStream.h>
 
-#include "support/Failure.h"
-#include "support/FileTest.h"
-
-#include <gtest/gtest.h>
-
 #include <cerrno>
-#include <string>
 #include <unistd.h>
-#include <vector>
 
 using namespace KzXmlLib10;
 using namespace KzXmlLib10::support;
