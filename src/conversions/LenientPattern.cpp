@@ -1,6 +1,7 @@
 #include "conversions/LenientPattern.h"
 
 #include <algorithm>
+#include <string_view>
 
 namespace KzXmlLib10 {
 
@@ -49,9 +50,7 @@ bool IsLetterWithoutMeaning(std::string_view item, bool inClass) {
     return IsEscape(item) && (IsOneOf(item[1], "FIJMOTYijmqy") || (inClass && IsOneOf(item[1], "ABGKNRXZz")));
 }
 
-} // namespace
-
-std::string MakeLenientPattern(std::string_view pattern) {
+std::string Rewrite(std::string_view pattern) {
     std::string result;
     result.reserve(pattern.size());
     bool inClass = false;
@@ -72,6 +71,23 @@ std::string MakeLenientPattern(std::string_view pattern) {
         afterSet = set;
     }
     return result;
+}
+
+bool IsLetter(char c) { return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z'); }
+
+/// Whether there is a letter behind a backslash, or a POSIX class. Without them there is nothing to rewrite.
+bool MayNeedRewriting(std::string_view pattern) {
+    for (std::size_t at = 0; (at = pattern.find('\\', at)) != pattern.npos; at += 2) {
+        if (at + 1 < pattern.size() && IsLetter(pattern[at + 1]))
+            return true;
+    }
+    return pattern.find("[:") != pattern.npos;
+}
+
+} // namespace
+
+std::string MakeLenientPattern(std::string pattern) {
+    return MayNeedRewriting(pattern) ? Rewrite(pattern) : pattern;
 }
 
 } // namespace KzXmlLib10

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <string>
-#include <string_view>
 
 namespace KzXmlLib10 {
 
@@ -10,6 +9,6 @@ namespace KzXmlLib10 {
 ///
 ///     [\w-.]  becomes  [\w\-.]   a hyphen beside a class escape is a hyphen
 ///     \y      becomes  y         a letter without a meaning as an escape is itself
-std::string MakeLenientPattern(std::string_view pattern);
+std::string MakeLenientPattern(std::string pattern);
 
 } // namespace KzXmlLib10

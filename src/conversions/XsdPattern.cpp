@@ -10,18 +10,58 @@
 #define PCRE2_CODE_UNIT_WIDTH 8
 #include <pcre2.h>
 
+#include <algorithm>
+#include <cstddef>
+#include <cstdlib>
+#include <functional>
+#include <iterator>
 #include <memory>
 #include <new>
 #include <string_view>
+#include <utility>
 
 namespace KzXmlLib10 {
 
 namespace {
 
+/// The memory of one match: a stretch of the stack, which holds all that usual patterns need, and the heap
+/// for what goes beyond it.
+class MatchMemory {
+public:
+    static void* Allocate(std::size_t size, void* memory) noexcept {
+        return static_cast<MatchMemory*>(memory)->Take(size);
+    }
+    static void Free(void* block, void* memory) noexcept {
+        if (block && !static_cast<MatchMemory*>(memory)->Holds(block))
+            std::free(block);
+    }
+
+private:
+    /// PCRE2 starts with 20 KiB for its backtracking; the rest is the compiled pattern and the like.
+    static constexpr std::size_t Size = 24 * 1024;
+
+    void* Take(std::size_t size) {
+        constexpr std::size_t alignment = alignof(std::max_align_t);
+        const std::size_t whole = (size + alignment - 1) & ~(alignment - 1);
+        if (whole < size || whole > Size - m_taken)
+            return std::malloc(size);
+        return m_bytes + std::exchange(m_taken, m_taken + whole);
+    }
+    bool Holds(const void* block) const {
+        return std::greater_equal<const void*>()(block, m_bytes) &&
+               std::less<const void*>()(block, m_bytes + Size);
+    }
+
+    alignas(std::max_align_t) unsigned char m_bytes[Size]; // not initialised
+    std::size_t m_taken = 0;
+};
+
 template <auto Free>
 struct Freed {
     void operator()(auto* object) const { Free(object); }
 };
+using GeneralContext = std::unique_ptr<pcre2_general_context, Freed<pcre2_general_context_free>>;
+using CompileContext = std::unique_ptr<pcre2_compile_context, Freed<pcre2_compile_context_free>>;
 using Code = std::unique_ptr<pcre2_code, Freed<pcre2_code_free>>;
 using MatchContext = std::unique_ptr<pcre2_match_context, Freed<pcre2_match_context_free>>;
 using MatchData = std::unique_ptr<pcre2_match_data, Freed<pcre2_match_data_free>>;
@@ -30,9 +70,9 @@ struct Substitution {
     std::string_view from, to;
 };
 
-/// In this order: the first and the last keep escaped backslashes out of the way of the others.
+/// The escapes of XML Schema that PCRE2 lacks. The first keeps its backslashes out of the way of the others.
 constexpr Substitution substitutions[] = {
-    {R"(\\)", "\x01"},
+    {R"(\\)", R"(\\)"},
     {R"(\i)", R"(([^\W\d]|:))"},
     {R"(\I)", R"(([\W\d]))"},
     {R"(\c)", R"((\w|\.|-|:))"},
@@ -42,23 +82,36 @@ constexpr Substitution substitutions[] = {
     {R"(\p{IsLatinExtended-A})", R"([\400-\577])"},
     // Deliberate: read as \111 and a 7, so the range is out of order and the pattern never compiles.
     {R"(\p{IsLatinExtended-B})", R"([\600-\1117])"},
-    {"\x01", R"(\\)"},
+    {"\x01", R"(\\)"}, // Deliberate: this byte stands for an escaped backslash.
 };
 
-std::string ReplaceAll(std::string_view text, const Substitution& substitution) {
-    std::string result;
-    for (std::size_t at; (at = text.find(substitution.from)) != text.npos;) {
-        result.append(text.substr(0, at)).append(substitution.to);
-        text.remove_prefix(at + substitution.from.size());
-    }
-    return result.append(text);
+/// The substitution for what stands at the head of `text`, or null.
+const Substitution* FindSubstitution(std::string_view text) {
+    const auto found = std::ranges::find_if(
+        substitutions, [&](const Substitution& substitution) { return text.starts_with(substitution.from); });
+    return found == std::end(substitutions) ? nullptr : found;
 }
 
-std::string Translate(std::string pattern) {
-    for (const Substitution& substitution : substitutions)
-        pattern = ReplaceAll(pattern, substitution);
+bool MayNeedSubstitution(char c) { return c == '\\' || c == '\x01'; }
+
+std::string Substitute(std::string_view pattern) {
+    std::string result;
+    result.reserve(pattern.size());
+    for (;;) {
+        const auto plain = std::ranges::find_if(pattern, MayNeedSubstitution);
+        result.append(pattern.begin(), plain);
+        pattern.remove_prefix(static_cast<std::size_t>(plain - pattern.begin()));
+        if (pattern.empty())
+            return result;
+        const Substitution* substitution = FindSubstitution(pattern);
+        result.append(substitution ? substitution->to : pattern.substr(0, 1));
+        pattern.remove_prefix(substitution ? substitution->from.size() : 1);
+    }
+}
+
+std::string Translate(std::string_view pattern) {
     // Deliberate: no group; each branch but the outer ones stands without an anchor.
-    return '^' + MakeLenientPattern(pattern) + '$';
+    return '^' + MakeLenientPattern(Substitute(pattern)) + '$';
 }
 
 template <class T>
@@ -74,12 +127,19 @@ std::u16string ErrorText(int error) {
     return length < 0 ? std::u16string() : std::u16string(text, text + length);
 }
 
-Code Compile(const std::string& pattern, const std::u16string& value) {
+/// A match is anchored, so the study of a pattern, which finds out where one can start, costs more than it
+/// saves, as does the search for what cannot backtrack: both are made for patterns that match often.
+constexpr std::uint32_t compileOptions = PCRE2_UTF | PCRE2_NO_START_OPTIMIZE | PCRE2_NO_AUTO_POSSESS;
+
+Code Compile(const std::string& pattern, const std::u16string& value, pcre2_general_context* memory) {
+    const CompileContext context(NotOutOfMemory(pcre2_compile_context_create(memory)));
+    const bool isAscii = std::ranges::none_of(pattern, [](char c) { return (c & 0x80) != 0; });
     int error = 0;
     PCRE2_SIZE offset = 0;
     // Deliberate: a NUL ends the pattern.
-    Code code(pcre2_compile(reinterpret_cast<PCRE2_SPTR>(pattern.c_str()), PCRE2_ZERO_TERMINATED, PCRE2_UTF,
-                            &error, &offset, nullptr));
+    Code code(pcre2_compile(reinterpret_cast<PCRE2_SPTR>(pattern.c_str()), PCRE2_ZERO_TERMINATED,
+                            compileOptions | (isAscii ? PCRE2_NO_UTF_CHECK : 0), &error, &offset,
+                            context.get()));
     if (!code && error == PCRE2_ERROR_HEAP_FAILED)
         throw std::bad_alloc();
     if (!code) // Deliberate: the message shows the value, not the pattern.
@@ -90,14 +150,17 @@ Code Compile(const std::string& pattern, const std::u16string& value) {
 } // namespace
 
 bool MatchXsdPattern(std::string pattern, std::u16string value) {
-    const Code code = Compile(Translate(std::move(pattern)), value);
-    const MatchContext context(NotOutOfMemory(pcre2_match_context_create(nullptr)));
+    MatchMemory memory;
+    const GeneralContext general(
+        NotOutOfMemory(pcre2_general_context_create(MatchMemory::Allocate, MatchMemory::Free, &memory)));
+    const Code code = Compile(Translate(pattern), value, general.get());
+    const MatchContext context(NotOutOfMemory(pcre2_match_context_create(general.get())));
     pcre2_set_heap_limit(context.get(),
                          static_cast<std::uint32_t>(CurrentLimit(&Limits::patternHeapBytes) / 1024));
-    const MatchData data(NotOutOfMemory(pcre2_match_data_create_from_pattern(code.get(), nullptr)));
-    const std::string subject = ConvertToUtf8(value);
+    const MatchData data(NotOutOfMemory(pcre2_match_data_create_from_pattern(code.get(), general.get())));
+    const std::string subject = ConvertToUtf8(value); // always well formed
     const int result = pcre2_match(code.get(), reinterpret_cast<PCRE2_SPTR>(subject.data()), subject.size(),
-                                   0, PCRE2_ANCHORED, data.get(), context.get());
+                                   0, PCRE2_ANCHORED | PCRE2_NO_UTF_CHECK, data.get(), context.get());
     if (result == PCRE2_ERROR_NOMEMORY)
         throw std::bad_alloc();
     if (result < 1)
