@@ -1,7 +1,7 @@
 # What the scripts of this folder share; sourced by them after `set -euo pipefail`.
 
 # Packages of Debian 12 that a build of the library and its tests needs.
-build_packages=(g++ cmake ninja-build pkg-config libexpat1-dev libpcre2-dev zlib1g-dev libgtest-dev)
+build_packages=(g++ cmake ninja-build pkg-config libexpat1-dev libpcre2-dev zlib1g-dev libgtest-dev libcli11-dev)
 
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 logs=build/logs

@@ -93,6 +93,10 @@ std::u16string CXmlDocument::LookupNamespaceFromAlias(const char16_t* alias) con
     return found == m_namespaceAliases.end() ? std::u16string() : found->second;
 }
 
+std::map<std::u16string, std::u16string> CXmlDocument::GetNamespaceAliases() const {
+    return {m_namespaceAliases.begin(), m_namespaceAliases.end()};
+}
+
 CXmlElement* CXmlDocument::AddDocElement(std::u16string_view namespaceUri, std::u16string_view localName) {
     m_documentElement.reset(new CXmlElement(this));
     CXmlElement* root = m_documentElement.get();

@@ -79,6 +79,8 @@ public:
     ///
     /// Deliberate: declarations have no scope here; the last one of a prefix in the document holds for all.
     std::u16string LookupNamespaceFromAlias(const char16_t* alias) const;
+    /// What LookupNamespaceFromAlias knows: from prefix to namespace.
+    std::map<std::u16string, std::u16string> GetNamespaceAliases() const;
 
 private:
     friend class CExpatReader;

@@ -1,0 +1,207 @@
+// The program `quillon` as a user runs it: arguments and bytes in; bytes, messages and exit code out.
+
+#include <gtest/gtest.h>
+
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <string>
+#include <vector>
+
+#include <sys/wait.h>
+#include <unistd.h>
+
+using namespace std::string_literals;
+
+namespace {
+
+struct Result {
+    int exitCode;
+    std::string out;
+    std::string err;
+};
+
+class QuillonProgram : public testing::Test {
+protected:
+    void SetUp() override {
+        const auto name = "quillon-" + std::to_string(getpid());
+        m_folder = std::filesystem::temp_directory_path() / name;
+        std::filesystem::create_directory(m_folder);
+    }
+    void TearDown() override { std::filesystem::remove_all(m_folder); }
+
+    std::string Read(const std::string& file) const {
+        std::ifstream stream(m_folder / file, std::ios::binary);
+        return {std::istreambuf_iterator<char>(stream), {}};
+    }
+    void Write(const std::string& file, const std::string& bytes) const {
+        std::ofstream(m_folder / file, std::ios::binary) << bytes;
+    }
+    /// Runs a shell command in the folder of the test; the word `quillon` in it is the program.
+    Result Shell(const std::string& command, const std::string& input = "") const {
+        Write("<in", input);
+        const std::string folder =
+            "cd '" + m_folder.string() + "' && quillon() { '" QUILLON_PROGRAM "' \"$@\"; } && ";
+        const int status = std::system((folder + "(" + command + ") <'<in' >'<out' 2>'<err'").c_str());
+        return {WIFEXITED(status) ? WEXITSTATUS(status) : -1, Read("<out"), Read("<err")};
+    }
+    Result Quillon(const std::string& arguments, const std::string& input = "") const {
+        return Shell("quillon " + arguments, input);
+    }
+
+    std::filesystem::path m_folder;
+};
+
+const std::string declaration = "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n";
+
+const std::string text = declaration + "<a xmlns:p=\"u\" b=\"1\"><p:c>\xC3\xA4</p:c><d/></a>";
+
+const std::string fastInfoset = "\xE0\x00\x00\x01\x00"           // identification, no optional components
+                                "\x78\xCF\x00p\x00u\xF0\x3C\x00" // namespace attribute p = "u"; element
+                                "a\x78\x00"
+                                "b\x40\x31\xF0" // attribute b = "1"
+                                "\x3F\x81\x81\x00"
+                                "c\x91\xC3\xA4\xF0" // element p:c, its text, its end
+                                "\x3C\x00"
+                                "d\xFF\xF0"s; // element d, all ends
+
+TEST_F(QuillonProgram, ConvertsEachFormatIntoEach) {
+    Write("in.xml", text);
+    const std::vector<std::string> forms{"xml", "finf", "xml.gz", "finf.gz", "xml.zz", "fi.zlib"};
+    for (const std::string& form : forms)
+        ASSERT_EQ(Quillon("convert in.xml direct." + form).err, "");
+    EXPECT_EQ(Read("direct.xml"), text);
+    EXPECT_EQ(Read("direct.finf"), fastInfoset);
+    EXPECT_EQ(Read("direct.xml.gz").substr(0, 2), "\x1F\x8B");
+    EXPECT_EQ(Read("direct.xml.zz").substr(0, 1), "\x78");
+    for (const std::string& from : forms)
+        for (const std::string& to : forms) {
+            const Result result = Quillon("convert direct." + from + " out." + to);
+            EXPECT_EQ(result.exitCode, 0) << result.err;
+            EXPECT_EQ(Read("out." + to), Read("direct." + to)) << from << " to " << to;
+        }
+}
+
+TEST_F(QuillonProgram, OptionsPrevailOverTheEndingAndStreamsHaveNone) {
+    EXPECT_EQ(Quillon("convert -", text).out, text);
+    EXPECT_EQ(Quillon("convert - - --to fast-infoset", text).out, fastInfoset);
+    Shell("quillon convert - out.finf -t text -c gzip && quillon convert out.finf out.xml", fastInfoset);
+    EXPECT_EQ(Read("out.finf").substr(0, 2), "\x1F\x8B");
+    EXPECT_EQ(Read("out.xml"), text);
+    EXPECT_EQ(Quillon("convert -f out.xml out.xml").exitCode, 0) << "a file may be its own output";
+    EXPECT_EQ(Read("out.xml"),
+              declaration + "<a xmlns:p=\"u\" b=\"1\">\n\t<p:c>\xC3\xA4</p:c>\n\t<d/>\n</a>\n");
+    EXPECT_EQ(Shell("quillon convert -e utf-16 -c zlib - | quillon convert -", text).out, text);
+    EXPECT_EQ(Quillon("convert -e utf-16 -", "<a/>").out.substr(0, 6), "\xFF\xFE<\0?\0"s);
+}
+
+TEST_F(QuillonProgram, WritesEveryNameWithItsNamespaceThroughBothFormats) {
+    const struct {
+        std::string in;
+        std::string out;
+        std::string warning;
+    } rows[] = {
+        // the default namespace stays where it can hold for all
+        {"<a xmlns='u'><b xmlns:q='v' q:t='q:x'/></a>", "<a xmlns=\"u\" xmlns:q=\"v\"><b q:t=\"q:x\"/></a>",
+         ""},
+        {"<p:a xmlns:p='u'><b xmlns='v'/></p:a>", "<p:a xmlns=\"v\" xmlns:p=\"u\"><b/></p:a>", ""},
+        {"<a xmlns='u'><b xmlns='v'/></a>", "<a xmlns=\"u\" xmlns:ns1=\"v\"><ns1:b/></a>", ""},
+        {"<a xmlns='u'><b xmlns=''/></a>", "<ns1:a xmlns:ns1=\"u\"><b/></ns1:a>", ""},
+        // the last binding of a prefix is kept, and a prefix made up is none of the document's
+        {"<p:a xmlns:p='u'><p:b xmlns:p='v' xmlns:ns1='w'/></p:a>",
+         "<a xmlns=\"u\" xmlns:p=\"v\" xmlns:ns1=\"w\"><p:b/></a>", ""},
+        {"<a xml:lang='en' xmlns:p='u' xmlns='u' p:x=''/>",
+         "<a xmlns=\"u\" xmlns:p=\"u\" xml:lang=\"en\" p:x=\"\"/>", ""},
+        // content
+        {"<!DOCTYPE a [<!ENTITY e 'f'>]><?i?><a><!--c--> <b>&e;<![CDATA[&]]> </b>\n</a>",
+         "<a><b>f&amp; </b></a>", ""},
+        {"<a>&lt;![CDATA[x]]&gt;&#10;</a>", "<a>&lt;![CDATA[x]]&gt;\n</a>", ""},
+        {"<a>s<b/>t<c/></a>", "<a>st<b/><c/></a>",
+         "quillon: standard input: warning: 1 element(s) with text among their children; the text now stands "
+         "in "
+         "front of them\n"},
+        {"<a b='&#9;'/>", "<a b=\"\t\"/>",
+         "quillon: standard input: warning: 1 attribute value(s) with tabs or carriage returns, which do not "
+         "survive in text\n"},
+    };
+    for (const auto& row : rows) {
+        const Result direct = Quillon("convert -", row.in);
+        EXPECT_EQ(direct.out, declaration + row.out);
+        EXPECT_EQ(direct.err, row.warning);
+        EXPECT_EQ(Shell("quillon convert -t fast-infoset - | quillon convert -", row.in).out, direct.out);
+    }
+}
+
+TEST_F(QuillonProgram, ShowsAndCounts) {
+    Write("in.xml", "<a xmlns='u' b='q\"\\'><c xmlns:p='v'>x&#x9B;</c><p:d xmlns:p='v' e=''><f>" +
+                        std::string(71, '-') + "\xF0\x9F\x98\x80</f></p:d></a>");
+    EXPECT_EQ(
+        Quillon("show in.xml").out,
+        "xmlns = \"u\"\nxmlns:p = \"v\"\na\n  @b = \"q\\\"\\\\\"\n  c = \"x\\u009B\"\n  p:d\n    @e = \"\"\n"
+        "    f = \"" +
+            std::string(71, '-') + "\"... (73 characters)\n");
+    EXPECT_EQ(
+        Quillon("show --depth 2 in.xml").out,
+        "xmlns = \"u\"\nxmlns:p = \"v\"\na\n  @b = \"q\\\"\\\\\"\n  c = \"x\\u009B\"\n  p:d\n    @e = \"\"\n"
+        "    ...\n");
+    EXPECT_NE(Quillon("show --full in.xml").out.find(std::string(71, '-') + "\xF0\x9F\x98\x80\"\n"),
+              std::string::npos);
+
+    const std::string stat = Shell("quillon convert -t fast-infoset -c gzip - | quillon stat -", text).out;
+    EXPECT_TRUE(stat.starts_with("format      Fast Infoset under gzip\nbytes       ")) << stat;
+    for (const char* line :
+         {"elements    3", "attributes  1", "depth       2", "characters  2", "namespaces  1",
+          "text                  81  ", "formatted             87  ", "FastInfoset           35  "})
+        EXPECT_NE(stat.find("\n"s + line), std::string::npos) << line << " in\n" << stat;
+}
+
+TEST_F(QuillonProgram, TellsWhatFailedByMessageAndExitCode) {
+    const struct {
+        std::string command;
+        std::string input;
+        int exitCode;
+        std::string err;
+    } rows[] = {
+        {"quillon convert -", "<a>\n<b></a>", 1, "quillon: standard input: mismatched tag at line 2\n"},
+        {"quillon stat -", "", 1, "quillon: standard input: XML Stream is empty!\n"},
+        {"quillon show -", "\xE0\x00\x00\x01\x00\xF0"s, 1,
+         "quillon: standard input: Invalid or empty XML document\n"},
+        {"quillon convert -", "\xE0\x00\x00\x01\x00\x3C\x00\x01\xFF"s, 1,
+         "quillon: standard input: The document cannot be written as text\nnot well-formed (invalid token) "
+         "at line "
+         "2\n"},
+        {"quillon convert -", "<a xmlns='&lt;'/>", 1,
+         "quillon: standard input: The namespace [<] cannot be written as text\n"},
+        {"quillon convert none.xml", "", 3, "quillon: none.xml: No such file or directory\n"},
+        {"quillon show .", "", 3, "quillon: .: Is a directory\n"},
+        {"quillon convert - none/out.xml", "<a/>", 3, "quillon: none/out.xml: No such file or directory\n"},
+        {"quillon show - >/dev/full", "<a/>", 3, "quillon: standard output: No space left on device\n"},
+        {"quillon", "", 2, "A subcommand is required\nRun with --help for more information.\n"},
+        {"quillon convert - --to finf", "<a/>", 2,
+         "--to: there is no finf\nRun with --help for more information.\n"},
+        {"quillon convert - out.finf -f", "<a/>", 2,
+         "--formatted and --encoding are for text only\nRun with --help for more information.\n"},
+    };
+    for (const auto& row : rows) {
+        const Result result = Shell(row.command, row.input);
+        EXPECT_EQ(result.exitCode, row.exitCode) << row.command;
+        EXPECT_EQ(result.out, "") << row.command;
+        EXPECT_EQ(result.err, row.err);
+    }
+    EXPECT_FALSE(std::filesystem::exists(m_folder / "out.finf"));
+    EXPECT_EQ(Quillon("--version").out, "quillon 10.1.0\n");
+    EXPECT_EQ(Quillon("convert --help").exitCode, 0);
+}
+
+TEST_F(QuillonProgram, ShowsProgressAtATerminalOnlyAndOnlyWhenItTakesLong) {
+    const std::string slow = "(sleep 1.2; echo '<a/>') | '" QUILLON_PROGRAM "' show -";
+    Write("slow.sh", slow);
+    const Result result = Shell("script -qec 'sh slow.sh' /dev/null");
+    if (result.exitCode == 127)
+        GTEST_SKIP() << "no terminal to be had without the program `script`";
+    EXPECT_EQ(result.out, "\r\033[Kquillon: reading standard input, 1 s\r\033[Ka\r\n");
+    EXPECT_EQ(Shell("sh slow.sh").err, "");
+}
+
+} // namespace
