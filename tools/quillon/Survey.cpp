@@ -23,18 +23,25 @@ Survey::Survey(const CXmlElement& root) {
 
 void Survey::Count(const CXmlElement& element) {
     ++m_elements;
-    m_elementNamespaces.insert(element.GetNamespaceURI());
+    Note(element.GetNamespaceURI(), m_elementNamespaces, m_lastOfElements);
     const std::u16string_view text = SignificantText(element);
     m_textLength += text.size();
     if (!text.empty() && element.GetFirstElement())
         ++m_mixedElements;
     for (const CXmlAttribute* attribute : element.GetAttributes()) {
         ++m_attributes;
-        m_attributeNamespaces.insert(attribute->GetNamespaceURI());
+        Note(attribute->GetNamespaceURI(), m_attributeNamespaces, m_lastOfAttributes);
         m_textLength += attribute->GetValue().size();
         if (attribute->GetValue().find_first_of(u"\t\r") != std::u16string::npos)
             ++m_unstableValues;
     }
+}
+
+/// Most namespaces are the one before, which spares the search.
+void Survey::Note(const std::u16string& uri, std::set<std::u16string>& namespaces,
+                  const std::u16string*& last) {
+    if (!last || *last != uri)
+        last = &*namespaces.insert(uri).first;
 }
 
 std::u16string_view SignificantText(const CXmlElement& element) {

@@ -12,6 +12,8 @@ namespace quillon {
 /// What there is in a document, found in one walk.
 struct Survey {
     explicit Survey(const KzXmlLib10::CXmlElement& root);
+    Survey(const Survey&) = delete;
+    Survey& operator=(const Survey&) = delete;
 
     std::uint64_t m_elements = 0;
     std::uint64_t m_attributes = 0;
@@ -29,6 +31,11 @@ struct Survey {
 
 private:
     void Count(const KzXmlLib10::CXmlElement& element);
+    static void Note(const std::u16string& uri, std::set<std::u16string>& namespaces,
+                     const std::u16string*& last);
+
+    const std::u16string* m_lastOfElements = nullptr;
+    const std::u16string* m_lastOfAttributes = nullptr;
 };
 
 /// The text of an element as it counts: white space beside child elements is indentation, and left out.
