@@ -67,6 +67,8 @@ std::u16string CKzException::GetFullMessage() const {
     return message;
 }
 
+std::string CKzException::GetFullMessageUtf8() const { return ToUtf8WithReplacements(GetFullMessage()); }
+
 const CKzException* CKzException::GetInnerException() const { return m_innerException; }
 
 CKzException* CKzException::CopyChain(const CKzException* head) {
@@ -112,15 +114,7 @@ CKzOverFlowException::~CKzOverFlowException() = default;
 CKzException* CKzOverFlowException::Clone() const { return new CKzOverFlowException(*this); }
 
 std::ostream& operator<<(std::ostream& stream, const CKzException& exception) {
-    const std::u16string message = exception.GetFullMessage();
-    std::string bytes;
-    std::u16string_view rest = message;
-    for (rest.remove_prefix(AppendUtf8(bytes, rest)); !rest.empty();
-         rest.remove_prefix(AppendUtf8(bytes, rest))) {
-        bytes += "\xEF\xBF\xBD";
-        rest.remove_prefix(1);
-    }
-    return stream << bytes;
+    return stream << exception.GetFullMessageUtf8();
 }
 
 } // namespace KzXmlLib10

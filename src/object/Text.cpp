@@ -118,6 +118,16 @@ std::size_t AppendUtf8(std::string& out, std::u16string_view text) {
     return extent.units;
 }
 
+std::string ToUtf8WithReplacements(std::u16string_view text) {
+    std::string bytes;
+    for (text.remove_prefix(AppendUtf8(bytes, text)); !text.empty();
+         text.remove_prefix(AppendUtf8(bytes, text))) {
+        bytes += "\xEF\xBF\xBD";
+        text.remove_prefix(1);
+    }
+    return bytes;
+}
+
 std::size_t AppendUtf16(std::u16string& out, std::string_view text) {
     std::size_t at = 0;
     while (at < text.size()) {

@@ -21,6 +21,9 @@ void WriteUtf8(char* to, std::u16string_view text, Utf8Extent extent);
 /// Returns the number of code units converted.
 std::size_t AppendUtf8(std::string& out, std::u16string_view text);
 
+/// The UTF-8 form of `text`, with U+FFFD for each surrogate without its partner.
+std::string ToUtf8WithReplacements(std::u16string_view text);
+
 /// Appends the 16-bit form of `text` up to the first malformed sequence. Returns the number of bytes
 /// converted.
 std::size_t AppendUtf16(std::u16string& out, std::string_view text);

@@ -35,6 +35,8 @@ public:
     std::u16string GetMessageW() const;
     /// The messages of the whole chain, outermost first, with a line feed between each two.
     std::u16string GetFullMessage() const;
+    /// The same in UTF-8; a lone surrogate becomes U+FFFD.
+    std::string GetFullMessageUtf8() const;
     /// The inner exception, which stays the property of this one, or null.
     const CKzException* GetInnerException() const;
 
@@ -108,7 +110,7 @@ class QUILLON_EXPORT CKzOverFlowException : public CKzException {
 
 #undef QUILLON_EXCEPTION_MEMBERS
 
-/// Writes the full message in UTF-8; a lone surrogate becomes U+FFFD.
+/// Writes GetFullMessageUtf8.
 QUILLON_EXPORT std::ostream& operator<<(std::ostream& stream, const CKzException& exception);
 
 } // namespace KzXmlLib10
