@@ -45,4 +45,10 @@ private:
     CNode* m_node = nullptr;
 };
 
+inline CKzIterator<CXmlObjectBase> CXmlCollection::begin() const {
+    return CKzIterator<CXmlObjectBase>(m_head);
+}
+
+inline CKzIterator<CXmlObjectBase> CXmlCollection::end() const { return {}; }
+
 } // namespace KzXmlLib10

@@ -11,6 +11,9 @@ struct CNode {
     CNode* m_previous = nullptr;
 };
 
+template <class T>
+class CKzIterator;
+
 /// The base of collections of objects, held in a doubly linked list.
 ///
 ///     class COrderCol : public CXmlCollection { // as a generator writes it
@@ -39,6 +42,11 @@ public:
     int GetCount() const override;
     void Clear() override;
     void Remove(int index) override;
+
+    /// The items as what all have in common, for collections that have no iterators of their own. Takes the
+    /// header of CKzIterator.
+    inline CKzIterator<CXmlObjectBase> begin() const;
+    inline CKzIterator<CXmlObjectBase> end() const;
 
 protected:
     CXmlCollection();
