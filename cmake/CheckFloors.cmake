@@ -4,8 +4,9 @@
 #     cmake -P cmake/CheckFloors.cmake
 #
 # Floors: 0 ground, 1 text rules, 2 values, 3 settings, 4 XML, 5 core, 6 collections, 7 metadata,
-# 8 second format. A folder's headers stand on the floor of the folder, except those named below. The header
-# that includes all others stands above all floors and includes every public header. Sources (.cpp) may include any header.
+# 8 second format, 9 edges to the standard library. A folder's headers stand on the floor of the folder, except
+# those named below. The header that includes all others stands above all floors and includes every public header.
+# Sources (.cpp) may include any header.
 cmake_minimum_required(VERSION 3.25)
 
 set(floor_of_conversions 2)
@@ -15,6 +16,7 @@ set(floor_of_object 5)
 set(floor_of_collections 6)
 set(floor_of_metadata 7)
 set(floor_of_fastinfoset 8)
+set(floor_of_edges 9)
 
 set(headers_of_floor_0
     object/CInstanceMonitor object/CKZCriticalSection object/CKzException object/CSmartPtr object/CurrentLimit

@@ -84,3 +84,6 @@
 #include <KzXmlLib10/metadata/ElementKinds.h>
 #include <KzXmlLib10/metadata/Names.h>
 #include <KzXmlLib10/metadata/XmlElementType.h>
+
+#include <KzXmlLib10/edges/Ranges.h>
+#include <KzXmlLib10/edges/ReadAndWrite.h>

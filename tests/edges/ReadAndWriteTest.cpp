@@ -1,0 +1,123 @@
+#include <KzXmlLib10/edges/ReadAndWrite.h>
+
+#include "support/Failure.h"
+#include "support/FileTest.h"
+#include "support/Model.h"
+
+#include <KzXmlLib10/collections/CElement.h>
+#include <KzXmlLib10/collections/CKzIterator.h>
+#include <KzXmlLib10/collections/CbooleanCol.h>
+#include <KzXmlLib10/collections/CstringCol.h>
+#include <KzXmlLib10/edges/Ranges.h>
+#include <KzXmlLib10/xml/CXmlDocument.h>
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <ranges>
+
+namespace KzXmlLib10 {
+namespace {
+
+using kit::Mnd;
+using support::Failure;
+
+class ReadAndWriteTest : public support::FileTest {
+protected:
+    ReadAndWriteTest() { m_note.Prim(u"text", Mnd, ItemType_string); }
+
+    CSmartPtr<kit::CModelObject> Note(const char16_t* text) const {
+        CSmartPtr<kit::CModelObject> note = m_note.New();
+        note->properties[0].SetString(text);
+        return note;
+    }
+    /// What any of the forms of Read makes of a source.
+    template <class ReadInto>
+    std::string TextOf(ReadInto readInto) const {
+        const CSmartPtr<kit::CModelObject> note = m_note.New();
+        readInto(*note);
+        return ToUtf8(note->Text(0));
+    }
+
+    kit::Model m_note{u"note"};
+};
+
+TEST_F(ReadAndWriteTest, EveryFormOfADocumentComesBackFromMemoryAndFile) {
+    const CSmartPtr<kit::CModelObject> note = Note(u"\u00E5\U0001F600"); // short: it grows when compressed
+    std::size_t row = 0;
+    for (const DocumentFormat format : {DocumentFormat::Text, DocumentFormat::FastInfoset}) {
+        for (const CompressionType compression :
+             {CompressionType_None, CompressionType_GZip, CompressionType_ZLib}) {
+            const ByteStyle style{.format = format, .compression = compression};
+            const std::vector<std::byte> bytes = WriteBytes(*note, style);
+            constexpr unsigned char firsts[] = {'<', 0x1F, 0x78, 0xE0, 0x1F, 0x78};
+            EXPECT_EQ(bytes[0], std::byte(firsts[row++]));
+            const std::string text(reinterpret_cast<const char*>(bytes.data()), bytes.size());
+            const std::filesystem::path file = m_dir.Path("\xC3\xA5");
+            WriteFile(*note, file, style);
+            EXPECT_EQ(m_dir.Read("\xC3\xA5"), text);
+            EXPECT_EQ(TextOf([&](auto& object) { Read(object, bytes); }), "\xC3\xA5\xF0\x9F\x98\x80");
+            EXPECT_EQ(TextOf([&](auto& object) { Read(object, text); }), "\xC3\xA5\xF0\x9F\x98\x80");
+            EXPECT_EQ(TextOf([&](auto& object) { ReadFile(object, file); }), "\xC3\xA5\xF0\x9F\x98\x80");
+        }
+    }
+}
+
+TEST_F(ReadAndWriteTest, TextHasTheStyleAndTheContextAskedFor) {
+    const CSmartPtr<kit::CModelObject> note = Note(u"\u00E5");
+    EXPECT_EQ(WriteText(*note), "<?xml version=\"1.0\"?>\n<note>\n\t<text>\xC3\xA5</text>\n</note>\n");
+    CXmlSerializationContext context;
+    context.SetDefaultNamespaceURI(u"urn:d");
+    context.SetIgnoreUnknownElements(true);
+    EXPECT_EQ(WriteText(*note, {.declaration = false, .eol = EOLType_CRLF}, context).substr(0, 27),
+              "<note xmlns=\"urn:d\">\r\n\t<tex");
+    EXPECT_EQ(TextOf([&](auto& o) { Read(o, "<note><other/><text>x</text></note>", context); }), "x");
+}
+
+TEST_F(ReadAndWriteTest, FailuresAreThoseOfTheLibraryAndLoseNothing) {
+    EXPECT_EQ(Failure<CKzInvalidValueException>([&] { WriteText(*Note(u"a\xD800")); }),
+              "Malformed UTF-16: surrogate without its partner at position 37");
+    m_dir.Write("kept", "as it was");
+    EXPECT_EQ(Failure<CKzInvalidValueException>([&] { WriteFile(*Note(u"\xDC00"), m_dir.Path("kept")); }),
+              "Malformed UTF-16: surrogate without its partner at position 36");
+    EXPECT_EQ(m_dir.Read("kept"), "as it was");
+    const CSmartPtr<kit::CModelObject> note = m_note.New();
+    EXPECT_EQ(Failure([&] { Read(*note, ""); }), "XML Stream is empty!");
+    EXPECT_EQ(Failure([&] { Read(*note, "<note>\n<"); }), "unclosed token at line 2");
+    EXPECT_EQ(Failure([&] { ReadFile(*note, "/none"); }),
+              "Failed to open the file [/none] Error [0x00000002]");
+    EXPECT_EQ(Failure<CKzInvalidValueException>([&] { ReadFile(*note, "\xFF"); }),
+              "Malformed UTF-8 at byte 0");
+    EXPECT_EQ(Failure<CKzInvalidValueException>([&] { ReadFile(*note, std::string("kept\0x", 6)); }),
+              "A file name cannot hold a zero");
+}
+
+static_assert(std::ranges::forward_range<ElementChildren> && std::ranges::forward_range<ElementAttributes>);
+static_assert(std::ranges::random_access_range<CstringCol> && std::ranges::random_access_range<CbooleanCol>);
+static_assert(std::ranges::forward_range<CAttributeCol> && std::ranges::forward_range<const CElementCol>);
+static_assert(std::ranges::forward_range<const CXmlCollection>);
+
+TEST(Ranges, CollectionsAndDocumentsAreWalked) {
+    CXmlDocument document;
+    document.LoadXml("<a b='1' c='2'><d/>text<e/></a>");
+    std::u16string seen;
+    for (const CXmlElement& child : Children(*document.GetDocumentElement()))
+        seen += child.GetLocalName() + (Children(child).begin() == Children(child).end() ? u"" : u"!");
+    for (const CXmlAttribute& attribute : Attributes(*document.GetDocumentElement()))
+        seen += attribute.GetLocalName() + attribute.GetValue();
+    EXPECT_EQ(seen, u"deb1c2");
+    EXPECT_EQ(std::ranges::distance(Attributes(*document.GetDocumentElement()->GetFirstElement())), 0);
+
+    kit::Model line(u"line");
+    kit::CModelCol lines(line, u"line", u"", 0, -1); // a collection without iterators of its own
+    const CSmartPtr<kit::CModelObject> first = line.New(), second = line.New();
+    lines.Add(first);
+    lines.Add(second);
+    std::vector<const CXmlObjectBase*> items;
+    for (CXmlObjectBase& item : lines)
+        items.push_back(&item);
+    EXPECT_EQ(items, (std::vector<const CXmlObjectBase*>{first, second}));
+}
+
+} // namespace
+} // namespace KzXmlLib10
