@@ -85,5 +85,6 @@
 #include <KzXmlLib10/metadata/Names.h>
 #include <KzXmlLib10/metadata/XmlElementType.h>
 
+#include <KzXmlLib10/edges/Chrono.h>
 #include <KzXmlLib10/edges/Ranges.h>
 #include <KzXmlLib10/edges/ReadAndWrite.h>
