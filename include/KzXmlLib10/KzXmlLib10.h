@@ -86,5 +86,6 @@
 #include <KzXmlLib10/metadata/XmlElementType.h>
 
 #include <KzXmlLib10/edges/Chrono.h>
+#include <KzXmlLib10/edges/FailureFrames.h>
 #include <KzXmlLib10/edges/Ranges.h>
 #include <KzXmlLib10/edges/ReadAndWrite.h>
