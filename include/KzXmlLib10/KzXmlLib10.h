@@ -89,3 +89,4 @@
 #include <KzXmlLib10/edges/FailureFrames.h>
 #include <KzXmlLib10/edges/Ranges.h>
 #include <KzXmlLib10/edges/ReadAndWrite.h>
+#include <KzXmlLib10/edges/Records.h>

@@ -91,6 +91,11 @@ void CExpatReader::ParseChunk(bool isFinal, std::uint64_t handedIn) {
         m_parser.reset();
 }
 
+void CExpatReader::RenewBudget(std::uint64_t handedIn, std::uint64_t parsed) {
+    m_budget = TreeBudget();
+    m_budget.Extend(handedIn, parsed);
+}
+
 /// Throws what a handler threw, or else expat's error.
 void CExpatReader::Fail() {
     if (m_failure)

@@ -39,6 +39,10 @@ public:
     /// before decompression.
     void ParseChunk(bool isFinal, std::uint64_t handedIn);
 
+    /// Lets the document put into its tree as much as if it began with the chunk of these sizes, for a
+    /// callback that has dropped what came before.
+    void RenewBudget(std::uint64_t handedIn, std::uint64_t parsed);
+
 private:
     static void XMLCALL StartElementHandler(void* reader, const XML_Char* name, const XML_Char** attributes);
     static void XMLCALL EndElementHandler(void* reader, const XML_Char* name);

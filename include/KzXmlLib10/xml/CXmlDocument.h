@@ -85,6 +85,7 @@ public:
 private:
     friend class CExpatReader;
     friend class CFastInfosetReader;
+    friend class RecordParser;
 
     void Init();
     void ParseText(std::uint64_t handedIn, const char16_t* protocolEncoding = nullptr);

@@ -59,6 +59,7 @@ protected:
 private:
     friend class CExpatReader;
     friend class CFastInfosetReader;
+    friend class RecordParser;
     friend class CXmlDocument;
 
     explicit CXmlElement(const CXmlDocument* document);

@@ -1,0 +1,289 @@
+#include <KzXmlLib10/edges/Records.h>
+
+#include "support/Bytes.h"
+#include "support/Failure.h"
+#include "support/FastInfoset.h"
+#include "support/FileTest.h"
+#include "support/LimitsScope.h"
+#include "support/Model.h"
+
+#include <KzXmlLib10/edges/ReadAndWrite.h>
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <malloc.h>
+#include <ranges>
+#include <sstream>
+#include <streambuf>
+
+namespace KzXmlLib10 {
+namespace {
+
+using support::Compressed;
+using support::Failure;
+using namespace std::literals;
+
+/// `<r xmlns="urn:r"><n>7</n></r>`, as the class of a global element.
+class CRecord : public kit::CModelObject {
+public:
+    CRecord() : CModelObject(Described(), u"r") {
+        if (onCreate)
+            onCreate();
+        ++live;
+    }
+    ~CRecord() override { --live; }
+
+    std::string N() const { return ToUtf8(Text(0)); }
+
+    static inline int live = 0;
+    static inline std::function<void()> onCreate;
+
+private:
+    static const kit::Model& Described() {
+        static kit::Model model(u"r", KzXmlLib10Data::XmlElementGroupType_Sequence,
+                                KzXmlLib10Data::XmlElementType_Element, u"urn:r");
+        [[maybe_unused]] static const auto& whole = model.Prim(u"n", kit::Mnd, ItemType_i4);
+        return model;
+    }
+};
+
+/// The class of a type, which bears the name of any element.
+class CTypeRecord : public CRecord {
+public:
+    explicit CTypeRecord(const char16_t* name) { SetElementName(name); }
+};
+
+static_assert(std::ranges::input_range<Records<CRecord>> && !std::ranges::forward_range<Records<CRecord>>);
+static_assert(!std::constructible_from<RecordSource, const char*> &&
+              !std::constructible_from<RecordSource, std::string>);
+
+const std::string prefix = "<all xmlns='urn:r' xmlns:o='urn:other'>";
+
+/// A document of records with these numbers, each on a line of its own.
+std::string Document(std::initializer_list<const char*> numbers) {
+    std::string text = prefix + '\n';
+    for (const char* number : numbers)
+        text += "<r><n>"s + number + "</n></r>\n";
+    return text + "</all>";
+}
+
+/// The numbers in all records and what is thrown in between, each with the number of the record.
+template <class T = CRecord>
+std::string Seen(const RecordSource& source, const CXmlSerializationContext& context = {},
+                 const RecordOptions& options = {}) {
+    std::string seen;
+    Records<T> all = records<T>(source, context, options);
+    bool isOver = false;
+    while (!isOver) {
+        seen += Failure<CKzValidationException>([&] {
+            for (T& record : all)
+                seen += std::to_string(all.GetNumber()) + ":" + record.N() + " ";
+            isOver = true;
+        });
+    }
+    return seen.substr(0, seen.rfind("no failure"));
+}
+
+class RecordsTest : public support::FileTest {
+protected:
+    ~RecordsTest() override {
+        CRecord::onCreate = nullptr;
+        EXPECT_EQ(CRecord::live, 0);
+    }
+};
+
+TEST_F(RecordsTest, EverySourceAndFormatGivesTheSameRecords) {
+    // Neither the records of another namespace nor those further down count, nor does what else there is.
+    const std::string document = prefix + "<head><r><n>0</n></r></head>text<r><n>1</n></r><o:r/><!-- -->\n"
+                                          "<r><n>2</n></r><q/><r xmlns='urn:r'><n>3</n></r></all>";
+    const std::string expected = "1:1 2:2 3:3 ";
+    const std::string utf16(reinterpret_cast<const char*>(FromUtf8("\xEF\xBB\xBF" + document).data()),
+                            2 * document.size() + 2);
+    const std::string binary = support::FromBinary(
+        support::ScriptedObject(
+            "<{urn:r}all <{urn:r}head <{urn:r}r > > <{urn:r}r <{urn:r}n '1 > > <{urn:o}r > "
+            "<{urn:r}r <{urn:r}n '2 > > <{urn:r}r <{urn:r}n '3 > > >")
+            .Written());
+    for (const std::string& form : {document, utf16, binary}) {
+        for (const CompressionType type :
+             {CompressionType_None, CompressionType_GZip, CompressionType_ZLib}) {
+            std::string padded = form + (form == document ? std::string(500, '\n') : "");
+            if (type != CompressionType_None && form != document)
+                continue; // too short to shrink
+            padded = type == CompressionType_None ? padded : Compressed(padded, type);
+            m_dir.Write("file", padded);
+            std::istringstream stream(padded);
+            EXPECT_EQ(Seen(padded), expected);
+            EXPECT_EQ(Seen(std::as_bytes(std::span(padded))), expected);
+            EXPECT_EQ(Seen(stream), expected);
+            EXPECT_EQ(Seen(std::filesystem::path(m_dir.Path("file"))), expected);
+        }
+    }
+}
+
+TEST_F(RecordsTest, NamesComeFromTheClassTheOptionsOrTheContext) {
+    const std::string document = prefix + "<r><n>1</n></r><s><n>2</n></s><o:s><n>3</n></o:s></all>";
+    CXmlSerializationContext ignoring;
+    ignoring.SetIgnoreNamespaces(true);
+    EXPECT_EQ(Seen(document), "1:1 ");
+    EXPECT_EQ(Seen<CTypeRecord>(document, {}, {.name = u"s"}), "1:2 ");
+    EXPECT_EQ(Seen<CTypeRecord>(document, ignoring, {.name = u"s"}), "1:2 2:3 ");
+    EXPECT_EQ(Seen(document, {}, {.name = u"s", .namespaceUri = u"urn:other"}), "1:3 ");
+    EXPECT_EQ(Failure<CKzInvalidParamException>([&] { records<CTypeRecord>(document); }),
+              "The class stands for a type; the records need the name of their element");
+}
+
+TEST_F(RecordsTest, AFaultyRecordIsReportedInItsTurnAndTheOthersArrive) {
+    const std::string document = Document({"1", "2", "x", "4", "y", "6"});
+    const std::string third =
+        "Failed to process the record 3\nFailed to process the element [r]\nThe value [x] "
+        "can not be converted to a i4";
+    EXPECT_EQ(Seen(document), "1:1 2:2 " + third +
+                                  "4:4 Failed to process the record 5\nFailed to process the "
+                                  "element [r]\nThe value [y] can not be converted to a i46:6 ");
+    std::string faults;
+    EXPECT_EQ(Seen(document, {},
+                   {.onFault =
+                        [&](std::uint64_t number, const CKzException& failure) {
+                            faults +=
+                                std::to_string(number) + failure.GetFullMessageUtf8().substr(0, 30) + "|";
+                        }}),
+              "1:1 2:2 4:4 6:6 ");
+    EXPECT_EQ(faults, "3Failed to process the record 3|5Failed to process the record 5|");
+}
+
+TEST_F(RecordsTest, WhatEndsTheDocumentComesBehindTheRecordsBeforeIt) {
+    const auto seen = [](const RecordSource& source) {
+        std::string numbers;
+        Records<CRecord> all = records<CRecord>(source);
+        const std::string failure = Failure([&] {
+            for (const CRecord& record : all)
+                numbers += record.N() + " ";
+        });
+        EXPECT_TRUE(all.begin() == all.end()); // and nothing follows
+        return numbers + failure;
+    };
+    const std::string whole = Document({"1", "2", "3"});
+    EXPECT_EQ(seen(std::string_view(prefix + "\n<r><n>1</n></r>\n<r><n>2</n></s>")),
+              "1 mismatched tag at line 3");
+    EXPECT_EQ(seen(std::string_view(whole).substr(0, whole.size() - 1)), "1 2 3 unclosed token at line 5");
+    EXPECT_EQ(seen(""sv), "no element found at line 1");
+    EXPECT_EQ(seen("<all/>"sv), "no failure");
+    EXPECT_EQ(seen(std::filesystem::path("/none")), "Failed to open the file [/none] Error [0x00000002]");
+    std::istringstream broken("x");
+    broken.setstate(std::ios::badbit);
+    EXPECT_EQ(seen(broken), "Failed to read the stream of the document");
+    // Enough of a compressed document for its records to arrive in front of its damage.
+    std::string many = prefix;
+    for (int i = 0; i < 10'000; ++i)
+        many += "<r><n>" + std::to_string(i) + "</n></r>";
+    std::string damaged = Compressed(many + "</all>", CompressionType_GZip);
+    damaged.resize(damaged.size() - 20);
+    const std::string result = seen(damaged);
+    EXPECT_TRUE(result.starts_with("0 1 2 3 ")) << result.substr(0, 100);
+    EXPECT_TRUE(result.ends_with("The compressed stream is damaged or ends too early"));
+    // What is no failure of the library ends the reading too.
+    CRecord::onCreate = [] {
+        if (CRecord::live == 2)
+            throw std::runtime_error("");
+    };
+    const std::string two = Document({"1", "2", "3", "4"});
+    EXPECT_THROW(seen(two), std::runtime_error);
+}
+
+TEST_F(RecordsTest, ALoopMayBeLeftAndTakenUpAgain) {
+    m_dir.Write("file", Document({"1", "2", "3", "4"}));
+    const std::filesystem::path file = m_dir.Path("file");
+    const std::ptrdiff_t descriptors = support::OpenDescriptors();
+    CSmartPtr<CRecord> kept;
+    for (CRecord& record : records<CRecord>(file)) {
+        kept = &record;
+        break;
+    }
+    EXPECT_EQ(support::OpenDescriptors(), descriptors);
+    EXPECT_EQ(kept->N(), "1");
+    EXPECT_EQ(CRecord::live, 1);
+    kept = nullptr;
+
+    Records<CRecord> all = records<CRecord>(file);
+    std::string numbers;
+    for (const CRecord& record : all) {
+        numbers += record.N();
+        if (all.GetNumber() == 2)
+            break;
+    }
+    Records<CRecord> moved = std::move(all);
+    for (const CRecord& record : moved)
+        numbers += record.N();
+    EXPECT_EQ(numbers, "1234");
+}
+
+TEST_F(RecordsTest, ARecordMayReadOtherRecordsWhileItIsMade) {
+    int depth = 0;
+    std::string inner;
+    CRecord::onCreate = [&] {
+        if (depth++ == 0)
+            inner += Seen(std::string_view("<all xmlns='urn:r'><r><n>7</n></r></all>"));
+        --depth;
+    };
+    EXPECT_EQ(Seen(std::string_view(Document({"1", "2"}))), "1:1 2:2 ");
+    EXPECT_EQ(inner, "1:7 1:7 1:7 "); // once for the model
+}
+
+/// A document that is made while it is read: its head, a piece many times over, its tail.
+class EndlessDocument : public std::streambuf {
+public:
+    EndlessDocument(std::string piece, int count) : m_piece(std::move(piece)), m_left(count) { Show(m_head); }
+
+protected:
+    int_type underflow() override {
+        if (m_left < 0)
+            return traits_type::eof();
+        Show(m_left-- > 0 ? m_piece : m_tail);
+        return traits_type::to_int_type(*gptr());
+    }
+
+private:
+    void Show(std::string& text) { setg(text.data(), text.data(), text.data() + text.size()); }
+
+    std::string m_head = prefix, m_piece, m_tail = "</all>";
+    int m_left;
+};
+
+TEST_F(RecordsTest, MemoryIsThatOfABlockHoweverLongTheDocumentIs) {
+    support::LimitsScope limits(&Limits::treeBytes, 1 << 20);
+    limits.Set(&Limits::treeBytesPerInputByte, 0); // so a tree that is kept fails under the sanitizer too
+    EndlessDocument document("\n  <r><n>1</n></r>\n  <skipped><a/></skipped>", 40'000);
+    std::istream stream(&document);
+    std::size_t first = 0, most = 0;
+    int liveMost = 0;
+    Records<CRecord> all = records<CRecord>(stream);
+    for ([[maybe_unused]] const CRecord& record : all) {
+        liveMost = std::max(liveMost, CRecord::live);
+        if (all.GetNumber() % 1'000 != 0)
+            continue;
+        const std::size_t inUse = mallinfo2().uordblks; // 0 under the sanitizer
+        first = first == 0 ? inUse : first;
+        most = std::max(most, inUse);
+    }
+    EXPECT_EQ(all.GetNumber(), 40'000u);
+    EXPECT_LT(most, first + 2'000'000);
+    EXPECT_LT(liveMost, 2'000);
+}
+
+TEST_F(RecordsTest, TheSizeOfOneRecordIsBoundedNotThatOfTheStream) {
+    const support::LimitsScope limits(&Limits::inflatedBytes, 300'000);
+    std::string many = prefix;
+    for (int i = 0; i < 20'000; ++i)
+        many += "<r><n>1</n></r>";
+    const std::string small = Compressed(many + "</all>", CompressionType_GZip);
+    const std::string large =
+        Compressed(prefix + "<r>" + std::string(500'000, ' ') + "</r></all>", CompressionType_ZLib);
+    EXPECT_TRUE(Seen(small).ends_with(" 20000:1 "));
+    EXPECT_EQ(Failure([&] { records<CRecord>(large).begin(); }),
+              "The content of the compressed stream is larger than the limit of 300000 bytes");
+}
+
+} // namespace
+} // namespace KzXmlLib10
