@@ -104,8 +104,8 @@ CModelObject* CModelCol::Item(int index) const {
 
 void CModelCol::ToXml_Int(CXmlWriter* writer, bool, const char16_t* elementNamespace,
                           const CXmlSerializationContext& context, bool) const {
-    for (int i = 0; i < GetCount(); ++i)
-        CXmlObjectBase::ToXml_Int(Item(i), writer, false, elementNamespace, context, false);
+    for (const CNode* node = m_head; node; node = node->m_next)
+        CXmlObjectBase::ToXml_Int(node->m_item->GetBase(), writer, false, elementNamespace, context, false);
 }
 
 CXmlElement* CModelCol::FromXml_Int(CXmlElement* element, CXmlElement* current,

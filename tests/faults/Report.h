@@ -1,0 +1,70 @@
+#pragma once
+
+#include <cstdarg>
+#include <cstdio>
+#include <cstdlib>
+#include <cstring>
+#include <ctime>
+
+namespace faults {
+
+/// What a program prints: a line for each figure, with whether it reaches its goal.
+class Report {
+public:
+    [[gnu::format(printf, 3, 4)]] void Line(bool reached, const char* format, ...) {
+        std::va_list arguments;
+        va_start(arguments, format);
+        std::fputs(reached ? "ok    " : "FAILS ", stdout);
+        std::vprintf(format, arguments);
+        std::putchar('\n');
+        std::fflush(stdout);
+        va_end(arguments);
+        m_exitCode |= !reached;
+    }
+    int ExitCode() const { return m_exitCode; }
+
+private:
+    int m_exitCode = 0;
+};
+
+/// The number behind `name` among the arguments of the program, as in --levels 1000.
+inline long Option(int argc, char** argv, const char* name, long otherwise) {
+    for (int i = 1; i + 1 < argc; ++i)
+        if (std::strcmp(argv[i], name) == 0)
+            return std::atol(argv[i + 1]);
+    return otherwise;
+}
+
+/// The seconds of processor time that an action takes; what else the machine does counts little.
+template <class Action>
+double Seconds(Action action) {
+    const auto now = [] {
+        timespec time;
+        clock_gettime(CLOCK_THREAD_CPUTIME_ID, &time);
+        return static_cast<double>(time.tv_sec) + static_cast<double>(time.tv_nsec) * 1e-9;
+    };
+    const double start = now();
+    action();
+    return now() - start;
+}
+
+#if defined(__SANITIZE_ADDRESS__)
+constexpr bool isSanitized = true;
+#elif defined(__has_feature)
+#    if __has_feature(address_sanitizer) || __has_feature(thread_sanitizer)
+constexpr bool isSanitized = true;
+#    else
+constexpr bool isSanitized = false;
+#    endif
+#else
+constexpr bool isSanitized = false;
+#endif
+
+/// Whether times mean anything: not in a debug build, nor under a sanitizer.
+#ifdef NDEBUG
+constexpr bool isFast = !isSanitized;
+#else
+constexpr bool isFast = false;
+#endif
+
+} // namespace faults
