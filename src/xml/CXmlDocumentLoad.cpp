@@ -20,14 +20,14 @@
 
 namespace KzXmlLib10 {
 
+std::uint32_t readBlockSize = 0x20000;
+
 namespace {
 
 bool asyncFromXmlFile = false;
 
-constexpr std::uint32_t BlockSize = 0x20000;
-
 std::unique_ptr<unsigned char[]> NewBlock() {
-    return std::make_unique_for_overwrite<unsigned char[]>(BlockSize);
+    return std::make_unique_for_overwrite<unsigned char[]>(readBlockSize);
 }
 
 void OpenForReading(AsyncFile& file, const std::u16string& fileName) {
@@ -123,12 +123,12 @@ void CXmlDocument::LoadInBlocks(const std::u16string& fileName) {
         Throw<CKzException>(messages::FileNotRead, fileName, error);
     m_readOffset += count;
     m_bufferSize = static_cast<std::uint32_t>(count);
-    AsyncParse(count < BlockSize);
+    AsyncParse(count < readBlockSize);
 }
 
 /// Starts to read the next block. The end of the file is reported by Finish.
 void CXmlDocument::ReadChunkFromFile(unsigned char* block) {
-    const int error = m_file->StartRead(m_readOffset, block, BlockSize);
+    const int error = m_file->StartRead(m_readOffset, block, readBlockSize);
     if (error != 0 && error != AsyncFile::EndOfFile)
         Throw<CKzException>(messages::FileBlockNotRead, error);
 }
@@ -151,7 +151,7 @@ void CXmlDocument::AsyncParse(bool isLast) {
             std::swap(m_buffer, spare);
             m_readOffset += count;
             m_bufferSize = static_cast<std::uint32_t>(count);
-            isLast = count < BlockSize;
+            isLast = count < readBlockSize;
         }
         reader.ParseChunk(true, m_bufferSize);
         if (!m_documentElement)
