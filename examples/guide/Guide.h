@@ -26,6 +26,7 @@ void Checking();
 void Content();
 void Collections();
 void LargeDocuments();
+void FastInfoset();
 void Values();
 void Errors();
 void Threads();

@@ -51,6 +51,7 @@ int main(int argc, char** argv) {
         guide::Content();
         guide::Collections();
         guide::LargeDocuments();
+        guide::FastInfoset();
         guide::Values();
         guide::Errors();
         guide::Threads();

@@ -30,22 +30,20 @@ const CBook::Tables& CBook::GetTables() {
                                true,                                  // an unknown attribute is a fault
                                false,                                 // the type is not part of a derivation
                                -1, ItemType_Invalid, nullptr, false), // no text beside the children
-        new CElementInfo* [] {
+        MakeTable<CElementInfo>({
             new CElementInfoSeqPrimMnd(u"title", ns, Property_title, false, ItemType_string, nullptr,
                                        preserve, CPrimitiveRestrictions(u"", 1, -1, u"", u"", u"", u"", -1)),
-                new CElementInfoSeqPrimCol(u"author", ns, Property_author),
-                new CElementInfoSeqPrimOpt(u"price", ns, Property_price, false, ItemType_decimal, nullptr,
-                                           collapse, CPrimitiveRestrictions()),
-                nullptr,
-        },
-        new CAttributeInfo* [] {
+            new CElementInfoSeqPrimCol(u"author", ns, Property_author),
+            new CElementInfoSeqPrimOpt(u"price", ns, Property_price, false, ItemType_decimal, nullptr,
+                                       collapse, CPrimitiveRestrictions()),
+        }),
+        MakeTable<CAttributeInfo>({
             new CAttributeInfoPrimitive(
                 u"isbn", u"", Property_isbn, false, ItemType_string, nullptr, preserve,
                 CPrimitiveRestrictions(u"[0-9]{13}", -1, -1, u"", u"", u"", u"", -1), nullptr),
-                new CAttributeInfoEnum(u"binding", u"", Property_binding, true, BindingToString,
-                                       BindingFromString, u"paperback"),
-                nullptr,
-        },
+            new CAttributeInfoEnum(u"binding", u"", Property_binding, true, BindingToString,
+                                   BindingFromString, u"paperback"),
+        }),
     };
     return tables;
 }

@@ -15,10 +15,10 @@ const CLibrary::Tables& CLibrary::GetTables() {
     static const Tables tables{
         new CParentElementInfo(XmlElementGroupType_Sequence, XmlElementType_Element, u"library",
                                libraryNamespace, true, false, -1, ItemType_Invalid, nullptr, false),
-        new CElementInfo* [] {
-            new CElementInfoSeqClsCol(u"book", libraryNamespace, 0, XmlElementType_Element), nullptr,
-        },
-        new CAttributeInfo* [] { nullptr }, // no attributes: a table with just its end
+        MakeTable<CElementInfo>({
+            new CElementInfoSeqClsCol(u"book", libraryNamespace, 0, XmlElementType_Element),
+        }),
+        MakeTable<CAttributeInfo>({}), // no attributes: a table with just its end
     };
     return tables;
 }
