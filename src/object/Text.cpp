@@ -4,8 +4,10 @@
 #include "object/Throw.h"
 #include "object/Utf8.h"
 
-#include <algorithm>
+#include <array>
 #include <cstdint>
+#include <cstring>
+#include <type_traits>
 
 namespace KzXmlLib10 {
 
@@ -67,45 +69,92 @@ std::size_t ReadUtf8(std::string_view text, std::size_t at, char32_t& point) {
     return overlong || point > 0x10FFFF || (point >= 0xD800 && point <= 0xDFFF) ? 0 : length;
 }
 
-std::size_t CountLeadingAscii(std::u16string_view text) {
+// Runs of ASCII are looked for and copied in blocks of a fixed size, each of which the compiler does at once.
+constexpr std::size_t blockSize = 16;
+
+template <class Char>
+using Block = std::array<Char, blockSize>;
+
+template <class Char>
+Block<Char> LoadBlock(const Char* from) {
+    Block<Char> block;
+    std::memcpy(block.data(), from, sizeof block);
+    return block;
+}
+
+template <class Char>
+bool IsAscii(const Block<Char>& block) {
+    constexpr std::uint64_t others = sizeof(Char) == 1 ? 0x8080'8080'8080'8080 : 0xFF80'FF80'FF80'FF80;
+    std::array<std::uint64_t, sizeof block / sizeof others> words;
+    std::memcpy(words.data(), block.data(), sizeof words);
+    std::uint64_t bits = 0;
+    for (const std::uint64_t word : words)
+        bits |= word;
+    return (bits & others) == 0;
+}
+
+template <class Char>
+bool IsAscii(Char unit) {
+    return static_cast<std::make_unsigned_t<Char>>(unit) < 0x80;
+}
+
+template <class Char>
+std::size_t CountLeadingAscii(std::basic_string_view<Char> text) {
     std::size_t count = 0;
-    for (; text.size() - count >= 16; count += 16) { // sixteen at a time, which the compiler can do at once
-        unsigned bits = 0;
-        for (std::size_t i = 0; i < 16; ++i)
-            bits |= text[count + i];
-        if (bits >= 0x80)
-            break;
-    }
-    while (count < text.size() && text[count] < 0x80)
+    while (text.size() - count >= blockSize && IsAscii(LoadBlock(text.data() + count)))
+        count += blockSize;
+    while (count < text.size() && IsAscii(text[count]))
         ++count;
+    return count;
+}
+
+/// Copies the ASCII at the head of a text to the other form. Returns how much there was.
+template <class To, class From>
+std::size_t CopyLeadingAscii(To* to, std::basic_string_view<From> text) {
+    std::size_t count = 0;
+    for (; text.size() - count >= blockSize; count += blockSize) {
+        const Block<From> from = LoadBlock(text.data() + count);
+        if (!IsAscii(from))
+            break;
+        Block<To> block;
+        for (std::size_t i = 0; i < blockSize; ++i)
+            block[i] = static_cast<To>(from[i]);
+        std::memcpy(to + count, block.data(), sizeof block);
+    }
+    for (; count < text.size() && IsAscii(text[count]); ++count)
+        to[count] = static_cast<To>(text[count]);
     return count;
 }
 
 } // namespace
 
 Utf8Extent MeasureUtf8(std::u16string_view text) {
-    const std::size_t ascii = CountLeadingAscii(text);
-    Utf8Extent extent{ascii, ascii};
-    while (extent.units < text.size()) {
+    Utf8Extent extent{0, 0};
+    for (;;) {
+        const std::size_t ascii = CountLeadingAscii(text.substr(extent.units));
+        extent.units += ascii;
+        extent.bytes += ascii;
+        if (extent.units == text.size())
+            return extent;
         char32_t point;
         const std::size_t units = ReadUtf16(text, extent.units, point);
         if (units == 0)
-            break;
+            return extent;
         extent.units += units;
-        extent.bytes += point < 0x80 ? 1 : point < 0x800 ? 2 : point < 0x10000 ? 3 : 4;
+        extent.bytes += point < 0x800 ? 2 : point < 0x10000 ? 3 : 4;
     }
-    return extent;
 }
 
 void WriteUtf8(char* to, std::u16string_view text, Utf8Extent extent) {
     text = text.substr(0, extent.units);
-    if (extent.bytes == extent.units) {
-        std::ranges::transform(text, to, [](char16_t unit) { return static_cast<char>(unit); });
-        return;
-    }
-    for (std::size_t at = 0; at < text.size();) {
+    for (;;) {
+        const std::size_t ascii = CopyLeadingAscii(to, text);
+        to += ascii;
+        text.remove_prefix(ascii);
+        if (text.empty())
+            return;
         char32_t point;
-        at += ReadUtf16(text, at, point);
+        text.remove_prefix(ReadUtf16(text, 0, point));
         to = PutUtf8(to, point);
     }
 }
@@ -129,20 +178,27 @@ std::string ToUtf8WithReplacements(std::u16string_view text) {
 }
 
 std::size_t AppendUtf16(std::u16string& out, std::string_view text) {
+    const std::size_t start = out.size();
+    out.resize(start + text.size()); // no form of a character has more units than bytes
+    char16_t* to = out.data() + start;
     std::size_t at = 0;
-    while (at < text.size()) {
+    for (;;) {
+        const std::size_t ascii = CopyLeadingAscii(to, text.substr(at));
+        to += ascii;
+        at += ascii;
         char32_t point;
-        const std::size_t bytes = ReadUtf8(text, at, point);
+        const std::size_t bytes = at < text.size() ? ReadUtf8(text, at, point) : 0;
         if (bytes == 0)
             break;
         if (point < 0x10000) {
-            out += static_cast<char16_t>(point);
+            *to++ = static_cast<char16_t>(point);
         } else {
-            out += static_cast<char16_t>(0xD7C0 + (point >> 10));
-            out += static_cast<char16_t>(0xDC00 + (point & 0x3FF));
+            *to++ = static_cast<char16_t>(0xD7C0 + (point >> 10));
+            *to++ = static_cast<char16_t>(0xDC00 + (point & 0x3FF));
         }
         at += bytes;
     }
+    out.resize(static_cast<std::size_t>(to - out.data()));
     return at;
 }
 
