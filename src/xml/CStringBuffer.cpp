@@ -25,8 +25,7 @@ void CStringBuffer::AppendAcrossChunks(std::u16string_view text) {
         if (m_used == m_capacity)
             AddChunk();
         const std::size_t count = std::min<std::size_t>(text.size(), m_capacity - m_used);
-        Traits::copy(m_current + m_used, text.data(), count);
-        m_used += static_cast<std::uint32_t>(count);
+        AppendToChunk(text.substr(0, count));
         text.remove_prefix(count);
     }
 }
@@ -36,7 +35,8 @@ void CStringBuffer::AddChunk() {
         m_chunkLengths.back() = m_used; // the same as its capacity unless the chunk is closed early
     m_chunkLengths.push_back(m_chunkSize);
     try {
-        m_chunks.push_back(std::make_unique<char16_t[]>(std::size_t{m_chunkSize} + 1));
+        // GetString sets the terminator, so nothing needs to be zero before.
+        m_chunks.push_back(std::make_unique_for_overwrite<char16_t[]>(std::size_t{m_chunkSize} + 1));
     } catch (...) {
         m_chunkLengths.pop_back();
         throw;
@@ -49,8 +49,10 @@ void CStringBuffer::AddChunk() {
 const char16_t* CStringBuffer::GetString() {
     if (m_chunks.empty())
         return u"";
-    if (m_chunks.size() == 1)
+    if (m_chunks.size() == 1) {
+        m_current[m_used] = u'\0';
         return m_current;
+    }
     auto joined = std::make_unique_for_overwrite<char16_t[]>(std::size_t{m_length} + 1);
     char16_t* to = joined.get();
     m_chunkLengths.back() = m_used;
@@ -58,7 +60,7 @@ const char16_t* CStringBuffer::GetString() {
         Traits::copy(to, m_chunks[i].get(), m_chunkLengths[i]);
         to += m_chunkLengths[i];
     }
-    std::fill(to, joined.get() + m_length + 1, u'\0'); // the terminator, and what a failed Append left out
+    *to = u'\0';
     m_chunks.resize(1);
     m_chunkLengths.assign(1, m_length);
     m_chunks.front() = std::move(joined);
@@ -81,7 +83,6 @@ void CStringBuffer::Reuse() {
         Clear();
         return;
     }
-    std::fill_n(m_current, m_used, u'\0'); // what lies behind is zero already
     m_used = 0;
     m_length = 0;
 }

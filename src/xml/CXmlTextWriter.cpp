@@ -6,6 +6,7 @@
 #include "xml/XmlNamespaces.h"
 
 #include <array>
+#include <cstring>
 
 namespace KzXmlLib10 {
 
@@ -28,6 +29,20 @@ constexpr SpecialUnits MakeSpecialUnits(std::u16string_view units) {
 
 constexpr SpecialUnits specialInText = MakeSpecialUnits(u"\n\r&<>"sv);
 constexpr SpecialUnits specialInAttribute = MakeSpecialUnits(u"\n\r\"&<>"sv);
+
+/// The text up to its first zero. Looks at four units at once.
+std::u16string_view UpToZero(std::u16string_view text) {
+    constexpr std::uint64_t ones = 0x0001'0001'0001'0001;
+    std::size_t count = 0;
+    for (std::uint64_t units; text.size() - count >= 4; count += 4) {
+        std::memcpy(&units, text.data() + count, sizeof units);
+        if ((units - ones) & ~units & (ones << 15)) // one of them may be zero
+            break;
+    }
+    while (count < text.size() && text[count] != u'\0')
+        ++count;
+    return text.substr(0, count);
+}
 
 } // namespace
 
@@ -78,7 +93,7 @@ void CXmlTextWriter::WriteComment(const std::u16string& text) {
 }
 
 void CXmlTextWriter::WriteProcessingInstruction(const std::u16string& text) {
-    Buffer().Append(text.c_str());
+    Buffer().Append(UpToZero(text));
     Buffer().Append(m_eol);
     Buffer().Append(m_eol);
     FlushIfFull();
@@ -87,7 +102,7 @@ void CXmlTextWriter::WriteProcessingInstruction(const std::u16string& text) {
 void CXmlTextWriter::WriteInlineSchema(const std::u16string& text) {
     Buffer().AppendChar(u' ');
     Buffer().Append(m_eol);
-    Buffer().Append(text.c_str());
+    Buffer().Append(UpToZero(text));
     Buffer().Append(m_eol);
     FlushIfFull();
 }
@@ -111,12 +126,12 @@ void CXmlTextWriter::StartElement(const std::u16string& name, const std::u16stri
     Buffer().AppendChar(u'<');
     // Deliberate: an element in no namespace below a default namespace gets no xmlns="".
     if (!context->NeedsPrefix(namespaceUri)) {
-        Buffer().Append(name.c_str());
+        Buffer().Append(UpToZero(name));
     } else {
         const BoundPrefix bound = BindPrefix(*context, namespaceUri);
-        Buffer().Append(bound.prefix.c_str());
+        Buffer().Append(UpToZero(bound.prefix));
         Buffer().AppendChar(u':');
-        Buffer().Append(name.c_str());
+        Buffer().Append(UpToZero(name));
         if (bound.isNew) {
             Buffer().AppendChar(u' ');
             WriteNamespace(bound.prefix, namespaceUri);
@@ -138,7 +153,7 @@ void CXmlTextWriter::WriteText(const std::u16string& text, ItemType) {
     }
     // Deliberate: text in CDATA form goes out as it stands, wherever the section ends.
     if (text.starts_with(u"<![CDATA["sv))
-        Buffer().Append(text.c_str());
+        Buffer().Append(UpToZero(text));
     else
         WriteEscaped(text.c_str(), false);
     FlushIfFull();
@@ -153,10 +168,10 @@ void CXmlTextWriter::EndElement() {
             WriteIndent(context);
         Buffer().Append(u"</"sv);
         if (context.NeedsPrefix(context.m_namespaceUri)) {
-            Buffer().Append(context.GetAlias(context.m_namespaceUri).c_str());
+            Buffer().Append(UpToZero(context.GetAlias(context.m_namespaceUri)));
             Buffer().AppendChar(u':');
         }
-        Buffer().Append(context.m_name.c_str());
+        Buffer().Append(UpToZero(context.m_name));
         Buffer().AppendChar(u'>');
     }
     if (m_formatted)
@@ -175,10 +190,10 @@ void CXmlTextWriter::WriteAttribute(const std::u16string& name, const std::u16st
             WriteNamespace(bound.prefix, namespaceUri);
             Buffer().AppendChar(u' ');
         }
-        Buffer().Append(bound.prefix.c_str());
+        Buffer().Append(UpToZero(bound.prefix));
         Buffer().AppendChar(u':');
     }
-    Buffer().Append(name.c_str());
+    Buffer().Append(UpToZero(name));
     Buffer().Append(u"=\""sv);
     WriteEscaped(value.c_str(), true);
     Buffer().AppendChar(u'"');
@@ -257,23 +272,26 @@ void CXmlTextWriter::WriteLineFeed() {
 void CXmlTextWriter::WriteIndent(const CXmlWriterContext& context) {
     if (!m_formatted)
         return;
-    for (std::int32_t i = 0; i < context.m_depth; ++i)
-        Buffer().AppendChar(u'\t');
+    static constexpr std::u16string_view tabs = u"\t\t\t\t\t\t\t\t\t\t\t\t\t\t\t\t";
+    std::size_t left = static_cast<std::size_t>(context.m_depth);
+    for (; left > tabs.size(); left -= tabs.size())
+        Buffer().Append(tabs);
+    Buffer().Append(tabs.substr(0, left));
 }
 
 /// Deliberate: the URI is not escaped.
 void CXmlTextWriter::WriteNamespace(const std::u16string& prefix, const std::u16string& uri) {
     Buffer().Append(u"xmlns:"sv);
-    Buffer().Append(prefix.c_str());
+    Buffer().Append(UpToZero(prefix));
     Buffer().Append(u"=\""sv);
-    Buffer().Append(uri.c_str());
+    Buffer().Append(UpToZero(uri));
     Buffer().AppendChar(u'"');
 }
 
 void CXmlTextWriter::WriteRootNamespaces() {
     if (!m_defaultNamespace.empty()) {
         Buffer().Append(u" xmlns=\""sv);
-        Buffer().Append(m_defaultNamespace.c_str());
+        Buffer().Append(UpToZero(m_defaultNamespace));
         Buffer().AppendChar(u'"');
     }
     for (const auto& [uri, prefix] : m_namespaces) {

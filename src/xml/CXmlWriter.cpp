@@ -51,11 +51,16 @@ std::u16string CXmlWriter::MakeAlias(std::uint32_t n) {
     return {static_cast<char16_t>(first), static_cast<char16_t>(u'A' + n % 26)};
 }
 
-std::unique_ptr<CXmlWriter::CXmlWriterContext>
-CXmlWriter::CreateContext(const std::u16string& name, const std::u16string& namespaceUri) const {
-    if (m_context)
+std::unique_ptr<CXmlWriter::CXmlWriterContext> CXmlWriter::CreateContext(const std::u16string& name,
+                                                                         const std::u16string& namespaceUri) {
+    if (!m_context)
+        return std::make_unique<CXmlWriterContext>(name, namespaceUri, m_defaultNamespace, m_namespaces);
+    if (!m_spareContexts)
         return std::make_unique<CXmlWriterContext>(name, namespaceUri, *m_context);
-    return std::make_unique<CXmlWriterContext>(name, namespaceUri, m_defaultNamespace, m_namespaces);
+    std::unique_ptr<CXmlWriterContext> context = std::move(m_spareContexts);
+    m_spareContexts = std::move(context->m_parent);
+    context->Restart(name, namespaceUri, *m_context);
+    return context;
 }
 
 void CXmlWriter::EnterContext(std::unique_ptr<CXmlWriterContext> context) {
@@ -63,7 +68,14 @@ void CXmlWriter::EnterContext(std::unique_ptr<CXmlWriterContext> context) {
     m_context = std::move(context);
 }
 
-void CXmlWriter::LeaveContext() { m_context = std::move(m_context->m_parent); }
+void CXmlWriter::LeaveContext() {
+    std::unique_ptr<CXmlWriterContext> left = std::move(m_context);
+    m_context = std::move(left->m_parent);
+    if (!left->InheritsNamespaces())
+        return;
+    left->m_parent = std::move(m_spareContexts);
+    m_spareContexts = std::move(left);
+}
 
 CXmlWriter::CXmlWriterContext& CXmlWriter::OpenElement() const {
     if (!m_context)
@@ -94,6 +106,17 @@ CXmlWriter::CXmlWriterContext::CXmlWriterContext(const std::u16string& name,
                                                  const CXmlWriterContext& parent)
     : CInstanceMonitor(u"CXmlWriterContext"), m_depth(parent.m_depth + 1), m_namespaceUri(namespaceUri),
       m_name(name), m_namespaces(parent.m_namespaces), m_inherits(true) {}
+
+void CXmlWriter::CXmlWriterContext::Restart(const std::u16string& name, const std::u16string& namespaceUri,
+                                            const CXmlWriterContext& parent) {
+    m_childCount = 0;
+    m_startTagOpen = true;
+    m_depth = parent.m_depth + 1;
+    m_namespaceUri = namespaceUri;
+    m_name = name;
+    m_hasAttributes = false;
+    m_namespaces = parent.m_namespaces;
+}
 
 CXmlWriter::CXmlWriterContext::~CXmlWriterContext() {
     while (m_parent)

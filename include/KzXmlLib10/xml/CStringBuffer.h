@@ -35,21 +35,20 @@ public:
     /// Appends the whole of a text whose length is known. A zero in it would end the text for readers of
     /// GetString.
     void Append(std::u16string_view text) {
-        AddToLength(text.size());
-        if (text.size() > m_capacity - m_used) {
+        RequireRoom(text.size());
+        if (text.size() > m_capacity - m_used)
             AppendAcrossChunks(text);
-            return;
-        }
-        std::char_traits<char16_t>::copy(m_current + m_used, text.data(), text.size());
-        m_used += static_cast<std::uint32_t>(text.size());
+        else
+            AppendToChunk(text);
     }
 
     /// Appends one character.
     void AppendChar(char16_t c) {
+        RequireRoom(1);
         if (m_used == m_capacity)
             AddChunk();
-        AddToLength(1);
         m_current[m_used++] = c;
+        ++m_length;
     }
 
     /// Starts a new chunk, whether the current one is full or not.
@@ -69,10 +68,14 @@ public:
     void Reuse();
 
 private:
-    void AddToLength(std::size_t count) {
+    void RequireRoom(std::size_t count) const {
         if (count > std::numeric_limits<std::uint32_t>::max() - m_length)
             FailTooLong();
-        m_length += static_cast<std::uint32_t>(count);
+    }
+    void AppendToChunk(std::u16string_view text) {
+        std::char_traits<char16_t>::copy(m_current + m_used, text.data(), text.size());
+        m_used += static_cast<std::uint32_t>(text.size());
+        m_length += static_cast<std::uint32_t>(text.size());
     }
     void AppendAcrossChunks(std::u16string_view text);
     [[noreturn]] static void FailTooLong();

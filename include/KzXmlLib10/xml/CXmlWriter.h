@@ -83,6 +83,10 @@ protected:
         /// its parent.
         CXmlWriterContext(const std::u16string& name, const std::u16string& namespaceUri,
                           const CXmlWriterContext& parent);
+        /// Makes a context that is done with, and had no namespace state of its own, what that constructor
+        /// would make. It keeps the memory of its texts.
+        void Restart(const std::u16string& name, const std::u16string& namespaceUri,
+                     const CXmlWriterContext& parent);
         CXmlWriterContext(const CXmlWriterContext&) = delete;
         CXmlWriterContext& operator=(const CXmlWriterContext&) = delete;
         /// Destroys the whole chain of parents, in a loop.
@@ -100,6 +104,8 @@ protected:
         /// Sets the default namespace of this element and what it will contain.
         void SetContextDefaultNamespace(const std::u16string& uri);
 
+        /// Whether the namespace state is that of an ancestor.
+        bool InheritsNamespaces() const { return m_inherits; }
         /// Whether names in the namespace are written with a prefix here.
         bool NeedsPrefix(const std::u16string& uri) const;
         /// Counts one more child element.
@@ -138,9 +144,9 @@ protected:
 
     /// A context for an element that starts inside the current one. EnterContext makes it current.
     std::unique_ptr<CXmlWriterContext> CreateContext(const std::u16string& name,
-                                                     const std::u16string& namespaceUri) const;
+                                                     const std::u16string& namespaceUri);
     void EnterContext(std::unique_ptr<CXmlWriterContext> context);
-    /// Destroys the current context and makes its parent current.
+    /// Lets the current context go and makes its parent current.
     void LeaveContext();
 
     /// The innermost open element. Throws CKzInvalidStateException if there is none.
@@ -151,6 +157,10 @@ protected:
     std::u16string m_defaultNamespace;
     std::unique_ptr<CXmlWriterContext> m_context;
     std::map<std::u16string, std::u16string> m_namespaces;
+
+private:
+    /// Contexts that are done with, chained by their parents: there are few levels and many elements.
+    std::unique_ptr<CXmlWriterContext> m_spareContexts;
 };
 
 } // namespace KzXmlLib10
