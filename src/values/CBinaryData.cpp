@@ -131,6 +131,11 @@ void CBinaryData::Append(const unsigned char* data, unsigned long length) {
         return SetBuffer(data, length);
     if (length > 0)
         NotNull(data, u"data");
+    if (length <= m_buffer->m_capacity - m_buffer->m_length && !IsShared(*m_buffer)) {
+        std::copy_n(data, length, m_buffer->m_data + m_buffer->m_length);
+        m_buffer->m_length += static_cast<std::uint32_t>(length);
+        return;
+    }
     // A piece of this object's own bytes is found again by its place when the array has moved.
     const bool isOwn = PointsInto(*m_buffer, data);
     const std::ptrdiff_t place = isOwn ? data - m_buffer->m_data : 0;

@@ -10,6 +10,7 @@
 
 #include <algorithm>
 #include <charconv>
+#include <iterator>
 #include <utility>
 
 namespace KzXmlLib10 {
@@ -45,6 +46,13 @@ bool IsAboveHalf(const Digits& low, std::size_t places) {
         return false;
     return low.back() > 5 ||
            std::any_of(low.begin(), low.end() - 1, [](std::uint16_t digit) { return digit != 0; });
+}
+
+void AppendDigits(std::u16string& text, const Digits& digits) {
+    if (digits.empty())
+        text += u'0';
+    std::transform(digits.rbegin(), digits.rend(), std::back_inserter(text),
+                   [](std::uint16_t digit) { return static_cast<char16_t>(u'0' + digit); });
 }
 
 int MaxPlaces() { return std::clamp(CDecimal::GetMaxDecimalPlaces(), 0, largestPlaces); }
@@ -209,11 +217,16 @@ void CDecimal::AlignSigns() {
         m_integral.m_sign = m_fractional.m_sign;
 }
 
-std::u16string CDecimal::FractionText() const {
-    std::u16string text = m_fractional.GetAbs().ToString();
-    if (const auto places = static_cast<std::size_t>(m_divider); text.size() < places)
-        text.insert(0, places - text.size(), u'0');
-    return text;
+void CDecimal::AppendFraction(std::u16string& text) const {
+    if (const auto places = static_cast<std::size_t>(m_divider); m_fractional.m_digits.size() < places)
+        text.append(places - m_fractional.m_digits.size(), u'0');
+    AppendDigits(text, m_fractional.m_digits);
+}
+
+/// Whether nothing stands behind so many places and nothing wants a carry.
+bool CDecimal::IsExactWithin(int places) const {
+    return m_divider <= places && m_fractional.m_digits.size() <= static_cast<std::size_t>(m_divider) &&
+           (m_fractional.IsZero() || m_fractional.m_sign == m_integral.m_sign);
 }
 
 bool CDecimal::HasMinusSign() const { return m_integral.m_sign == -1; }
@@ -222,7 +235,8 @@ std::u16string CDecimal::ToString() const {
     if (m_fractional.IsZero())
         return m_integral.ToString();
     std::u16string text = HasMinusSign() ? u"-" : u"";
-    text.append(m_integral.GetAbs().ToString()).append(1, u'.').append(FractionText());
+    AppendDigits(text, m_integral.m_digits);
+    AppendFraction(text += u'.');
     // Deliberate: a text with a point has at most 1024 characters.
     text.resize(std::min(text.size(), longestText));
     return text;
@@ -230,6 +244,12 @@ std::u16string CDecimal::ToString() const {
 
 std::u16string CDecimal::ToString(int places) const {
     places = std::max(places, 0);
+    if (places < MaxPlaces() && IsExactWithin(places)) { // half a unit more would change no digit
+        std::u16string text = HasMinusSign() ? u"-" : u"";
+        AppendDigits(text, m_integral.m_digits);
+        AppendFraction(text += u'.');
+        return text.append(static_cast<std::size_t>(places - m_divider), u'0');
+    }
     // Half a unit; beyond the maximum of places it rounds to nothing.
     const std::int32_t sign = HasMinusSign() ? -1 : 1;
     CDecimal sum(CBigInteger(sign, {0}), CBigInteger(sign, {0}), 1);
@@ -237,9 +257,12 @@ std::u16string CDecimal::ToString(int places) const {
         sum = CDecimal(CBigInteger(sign, {0}), CBigInteger(sign, {5}), places + 1);
     sum += *this;
     std::u16string text = sum.HasMinusSign() ? u"-" : u"";
-    text.append(sum.m_integral.GetAbs().ToString()).append(1, u'.');
+    AppendDigits(text, sum.m_integral.m_digits);
+    const std::size_t point = text.size();
+    sum.AppendFraction(text += u'.');
     // Deliberate: a sum that ends in zeros has fewer digits than were asked for.
-    return text.append(sum.FractionText(), 0, static_cast<std::size_t>(places));
+    text.resize(std::min(text.size(), point + 1 + static_cast<std::size_t>(places)));
+    return text;
 }
 
 long CDecimal::ToLong() const {

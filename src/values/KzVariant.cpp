@@ -250,7 +250,7 @@ void KzVariant::SetBits(ItemType type, std::uint64_t bits) {
 }
 
 template <class T>
-void KzVariant::SetValue(ItemType type, T value) {
+void KzVariant::SetValue(ItemType type, T&& value) {
     Clear();
     m_type = type;
     m_value.payload = new T(std::move(value));
@@ -299,12 +299,12 @@ bool KzVariant::GetBoolean() const { return GetUI1() != 0; }
 void KzVariant::SetString(std::u16string value) { SetValue(ItemType_string, std::move(value)); }
 void KzVariant::SetHexBinary(CBinaryData value) { SetValue(ItemType_hexBinary, std::move(value)); }
 void KzVariant::SetBase64Binary(CBinaryData value) { SetValue(ItemType_base64Binary, std::move(value)); }
-void KzVariant::SetDuration(CDateTimeSpan value) { SetValue(ItemType_duration, value); }
-void KzVariant::SetYearMonth(CDateTime value) { SetValue(ItemType_yearMonth, value); }
-void KzVariant::SetMonthDay(CDateTime value) { SetValue(ItemType_monthDay, value); }
-void KzVariant::SetDate(CDateTime value) { SetValue(ItemType_date, value); }
-void KzVariant::SetDateTime(CDateTime value) { SetValue(ItemType_datetime, value); }
-void KzVariant::SetTime(CDateTime value) { SetValue(ItemType_time, value); }
+void KzVariant::SetDuration(CDateTimeSpan value) { SetValue(ItemType_duration, std::move(value)); }
+void KzVariant::SetYearMonth(CDateTime value) { SetValue(ItemType_yearMonth, std::move(value)); }
+void KzVariant::SetMonthDay(CDateTime value) { SetValue(ItemType_monthDay, std::move(value)); }
+void KzVariant::SetDate(CDateTime value) { SetValue(ItemType_date, std::move(value)); }
+void KzVariant::SetDateTime(CDateTime value) { SetValue(ItemType_datetime, std::move(value)); }
+void KzVariant::SetTime(CDateTime value) { SetValue(ItemType_time, std::move(value)); }
 void KzVariant::SetDecimal(CDecimal value) { SetValue(ItemType_decimal, std::move(value)); }
 void KzVariant::SetInteger(CBigInteger value) { SetValue(ItemType_integer, std::move(value)); }
 

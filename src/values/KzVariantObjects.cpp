@@ -37,6 +37,8 @@ CSmartPtr<CXmlObjectBase> KzVariant::GetXmlObject() const {
 }
 
 CSmartPtr<CXmlCollectionBase> KzVariant::GetXmlCollection() const {
+    if (m_type == ItemType_xmlCollection)
+        return static_cast<CXmlCollectionBase*>(static_cast<CXmlObjectBase*>(m_value.payload));
     CXmlObjectBase* object = GetXmlObject();
     auto* collection = dynamic_cast<CXmlCollectionBase*>(object);
     if (object && !collection)

@@ -129,7 +129,8 @@ private:
     static int Compare(const CDecimal& a, const CDecimal& b);
     bool HasMinusSign() const;
     /// The digits after the point.
-    std::u16string FractionText() const;
+    void AppendFraction(std::u16string& text) const;
+    bool IsExactWithin(int places) const;
 
     CBigInteger m_integral;
     CBigInteger m_fractional;

@@ -160,7 +160,7 @@ public:
 private:
     void SetBits(ItemType type, std::uint64_t bits);
     template <class T>
-    void SetValue(ItemType type, T value);
+    void SetValue(ItemType type, T&& value);
     template <class T>
     const T& GetValue(ItemType type) const;
     void SetCounted(ItemType type, CXmlObjectBase* object);
