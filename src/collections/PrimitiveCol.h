@@ -105,9 +105,8 @@ void CPrimitiveCol<Collection, T>::ToXml_Int(CXmlWriter* writer, bool, const cha
                                              const CXmlSerializationContext& context, bool) const {
     constexpr auto toText = primitiveColFacts<Collection>.toText;
     ValidateCount(context);
-    const std::u16string name = GetElementName();
     for (auto&& item : m_items) {
-        writer->StartElement(name, m_elementNamespace);
+        writer->StartElement(ElementName(), m_elementNamespace);
         if constexpr (std::is_invocable_v<decltype(toText), const T&, const std::u16string&>)
             writer->WriteText(toText(item, m_formatOverride), m_itemType);
         else

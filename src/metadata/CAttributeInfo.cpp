@@ -1,6 +1,7 @@
 #include <KzXmlLib10/metadata/CAttributeInfo.h>
 
 #include "metadata/Messages.h"
+#include "metadata/ValueText.h"
 #include "object/NamespaceRestriction.h"
 #include "object/NotNull.h"
 
@@ -100,11 +101,11 @@ void CAttributeInfoPrimitive::AttributeToXml(const CXmlSerializationContext& con
     ReadProperty(object, value);
     if (IsOmitted(value))
         return;
-    const std::u16string text = value.ToString(m_formatOverride.c_str());
-    if (IsOmittedDefault(context, text))
+    const ValueText text(value, m_formatOverride);
+    if (IsOmittedDefault(context, text.Get()))
         return;
     CheckPrimitiveRestrictions(m_attributeName.c_str(), value, m_itemType, m_restrictions);
-    writer->WriteAttribute(m_attributeName, m_attributeNamespace, text, value.GetTypeAsEnum());
+    writer->WriteAttribute(m_attributeName, m_attributeNamespace, text.Get(), value.GetTypeAsEnum());
 }
 
 void CAttributeInfoPrimitive::Validate(const CXmlSerializationContext&, bool found) const {

@@ -103,6 +103,11 @@ CSmartPtr<CXmlObjectBase> CElementInfo::HeldObject(const CXmlGeneratedClass* obj
 }
 
 CSmartPtr<CXmlCollectionBase> CElementInfo::HeldCollection(const CXmlGeneratedClass* object) const {
+    KzVariant value;
+    ReadProperty(object, value);
+    if (value.GetTypeAsEnum() == ItemType_xmlCollection) // needs no look at the class
+        if (const CSmartPtr<CXmlCollectionBase> collection = value.GetXmlCollection())
+            return collection;
     const CSmartPtr<CXmlObjectBase> held = HeldObject(object);
     auto* collection = dynamic_cast<CXmlCollectionBase*>(static_cast<CXmlObjectBase*>(held));
     if (!collection)

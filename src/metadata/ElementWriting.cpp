@@ -2,6 +2,7 @@
 
 #include <KzXmlLib10/metadata/CElementInfo.h>
 
+#include "metadata/ValueText.h"
 #include "object/NotNull.h"
 
 #include <KzXmlLib10/collections/CXmlCollectionBase.h>
@@ -39,7 +40,8 @@ bool CElementInfo::ElementToXmlPrim(const CXmlSerializationContext&, const CXmlG
     // The facets come before the start tag, so that a bad value leaves no open element behind.
     CheckRestriction(value);
     writer->StartElement(m_elementName, m_elementNamespace);
-    writer->WriteText(value.ToString(m_formatOverride.c_str()), value.GetTypeAsEnum());
+    const ValueText text(value, m_formatOverride);
+    writer->WriteText(text.Get(), value.GetTypeAsEnum());
     writer->EndElement();
     return true;
 }
@@ -73,19 +75,24 @@ bool CElementInfo::ElementToXmlCls(const CXmlSerializationContext& context, cons
 
 bool CElementInfo::ElementToXmlCol(const CXmlSerializationContext& context, const CXmlGeneratedClass* object,
                                    CXmlWriter* writer) const {
+    return WriteCollection(context, HeldCollection(object), writer);
+}
+
+bool CElementInfo::CheckedElementToXmlCol(const CXmlSerializationContext& context,
+                                          const CXmlGeneratedClass* object, CXmlWriter* writer) const {
     const CSmartPtr<CXmlCollectionBase> collection = HeldCollection(object);
+    if (!context.GetIgnoreInvalidCollectionCounts())
+        collection->ValidateCount(context);
+    return WriteCollection(context, collection, writer);
+}
+
+bool CElementInfo::WriteCollection(const CXmlSerializationContext& context,
+                                   const CXmlCollectionBase* collection, CXmlWriter* writer) const {
     if (collection->GetCount() < 1)
         return false;
     const CXmlObjectBase* base = collection->GetBase();
     base->ToXml_Int(writer, false, m_elementNamespace.c_str(), context, false);
     return true;
-}
-
-bool CElementInfo::CheckedElementToXmlCol(const CXmlSerializationContext& context,
-                                          const CXmlGeneratedClass* object, CXmlWriter* writer) const {
-    if (!context.GetIgnoreInvalidCollectionCounts())
-        HeldCollection(object)->ValidateCount(context);
-    return ElementToXmlCol(context, object, writer);
 }
 
 void CElementInfo::PseudoItemAttributesToXml(const CXmlSerializationContext& context,

@@ -58,7 +58,7 @@ void CXmlGeneratedClass::StartElement(CXmlWriter* writer, bool isRoot, const cha
         if (const std::u16string uri = context.GetDefaultNamespaceURI(); !uri.empty())
             writer->SetDefaultNamespace(uri);
     }
-    writer->StartElement(GetElementName(), elementNamespace);
+    writer->StartElement(ElementName(), elementNamespace);
     if (isRoot)
         CXmlObjectBase::ToXml_Int(context.GetAdditionalRootAttributes(), writer, false, elementNamespace,
                                   context, isOptional);
@@ -113,7 +113,7 @@ void CXmlGeneratedClass::AttributesToXml_Int(CXmlWriter* writer,
         const RecursionLevel level; // groups inside each other come here without an element in between
         if (context.GetWriteTypeAttribute()) {
             const CParentElementInfo* info = GetClassInfo();
-            if (info->GetHasBaseClasses() && GetElementName() != info->GetElementName())
+            if (info->GetHasBaseClasses() && ElementName() != info->GetElementName())
                 writer->WriteXsiType(info->GetElementNamespace(), info->GetElementName(), ItemType_string);
         }
         ProcessAttributesToXml(context, GetClassElementInfo(), GetClassAttributeInfo(), writer);

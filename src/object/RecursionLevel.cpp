@@ -52,17 +52,24 @@ Stack FindStack() {
     return {reinterpret_cast<std::uintptr_t>(low), size};
 }
 
-thread_local std::uint32_t levels = 0;
-thread_local const Stack stack = FindStack();
-
 } // namespace
 
-RecursionLevel::RecursionLevel() {
-    if (levels >= CurrentLimit(&Limits::nestedObjects) || stack.IsUsedUp())
-        Throw<CKzException>(messages::NestedTooDeep, levels);
-    ++levels;
+struct RecursionLevel::Thread {
+    std::uint32_t levels = 0;
+    const Stack stack = FindStack();
+};
+
+RecursionLevel::RecursionLevel() : m_thread(CurrentThread()) {
+    if (m_thread.levels >= CurrentLimit(&Limits::nestedObjects) || m_thread.stack.IsUsedUp())
+        Throw<CKzException>(messages::NestedTooDeep, m_thread.levels);
+    ++m_thread.levels;
 }
 
-RecursionLevel::~RecursionLevel() { --levels; }
+RecursionLevel::~RecursionLevel() { --m_thread.levels; }
+
+RecursionLevel::Thread& RecursionLevel::CurrentThread() {
+    thread_local Thread thread;
+    return thread;
+}
 
 } // namespace KzXmlLib10

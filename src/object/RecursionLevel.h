@@ -13,6 +13,12 @@ public:
     ~RecursionLevel();
     RecursionLevel(const RecursionLevel&) = delete;
     RecursionLevel& operator=(const RecursionLevel&) = delete;
+
+private:
+    struct Thread;
+    static Thread& CurrentThread();
+
+    Thread& m_thread;
 };
 
 } // namespace KzXmlLib10

@@ -155,6 +155,8 @@ protected:
     bool m_isPrimitive;
 
 private:
+    bool WriteCollection(const CXmlSerializationContext& context, const CXmlCollectionBase* collection,
+                         CXmlWriter* writer) const;
     bool IsNil(const CXmlElement& element) const;
     bool StoreAndAdvance(CXmlGeneratedClass* object, KzVariant& value, CXmlElement** current);
 };

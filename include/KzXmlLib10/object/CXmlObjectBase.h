@@ -173,6 +173,9 @@ protected:
     static void FireOnCollectionRemoveCompleteEvent(IEventSink* sink, CXmlCollectionBase* collection,
                                                     int index);
 
+    /// What GetElementName copies; valid until the name changes.
+    const std::u16string& ElementName() const { return m_elementName; }
+
 private:
     friend class KzXmlLib10Data::CAttributeInfo;
     friend class KzXmlLib10Data::CElementInfo;
