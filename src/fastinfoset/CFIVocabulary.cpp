@@ -2,6 +2,8 @@
 
 #include "xml/XmlNamespaces.h"
 
+#include <cstring>
+
 // A new vocabulary, to which <o:order xmlns:o="urn:o"/> has been added:
 //
 //     prefixes     1 "xml"                                   2 "o"
@@ -12,6 +14,16 @@
 // The maps hold the same with the text first; for a qualified name that is its key, with 1 between the parts.
 
 namespace KzXmlLib10 {
+
+namespace {
+
+constexpr char16_t separator = 1;
+
+int CompareBytes(std::u16string_view a, std::u16string_view b) {
+    return std::memcmp(a.data(), b.data(), a.size() * sizeof(char16_t));
+}
+
+} // namespace
 
 CFIVocabulary::CFIStringTable::~CFIStringTable() = default;
 CFIVocabulary::CFIQNameTable::~CFIQNameTable() = default;
@@ -73,7 +85,8 @@ bool CFIVocabulary::FindLocalNameIndex(const std::u16string& localName, std::uin
     return FindIndex(m_localNameIndex, localName, index);
 }
 
-bool CFIVocabulary::FindIndex(const IndexMap& map, const std::u16string& key, std::uint32_t& index) {
+template <class Key>
+bool CFIVocabulary::FindIndex(const IndexMap& map, const Key& key, std::uint32_t& index) {
     const auto found = map.find(key);
     if (found == map.end())
         return false;
@@ -81,11 +94,35 @@ bool CFIVocabulary::FindIndex(const IndexMap& map, const std::u16string& key, st
     return true;
 }
 
-std::u16string CFIVocabulary::QNameKey(std::u16string_view prefix, std::u16string_view namespaceName,
-                                       std::u16string_view localName) {
-    constexpr char16_t separator = 1;
+template bool CFIVocabulary::FindIndex(const IndexMap&, const std::u16string&, std::uint32_t&);
+template bool CFIVocabulary::FindIndex(const IndexMap&, const CQName&, std::uint32_t&);
+
+/// Compares a key with that of a name, which is as long.
+int CFIVocabulary::CQName::CompareKey(std::u16string_view key) const {
+    constexpr std::u16string_view between(&separator, 1);
+    for (const std::u16string_view part : {localName, between, namespaceName, between, prefix}) {
+        if (const int order = CompareBytes(key.substr(0, part.size()), part))
+            return order;
+        key.remove_prefix(part.size());
+    }
+    return 0;
+}
+
+bool CFIVocabulary::KeyOrder::operator()(const std::u16string& a, const std::u16string& b) const {
+    return a.size() != b.size() ? a.size() < b.size() : CompareBytes(a, b) < 0;
+}
+
+bool CFIVocabulary::KeyOrder::operator()(const std::u16string& key, const CQName& name) const {
+    return key.size() != name.KeyLength() ? key.size() < name.KeyLength() : name.CompareKey(key) < 0;
+}
+
+bool CFIVocabulary::KeyOrder::operator()(const CQName& name, const std::u16string& key) const {
+    return key.size() != name.KeyLength() ? name.KeyLength() < key.size() : name.CompareKey(key) > 0;
+}
+
+std::u16string CFIVocabulary::CQName::Key() const {
     std::u16string key;
-    key.reserve(localName.size() + namespaceName.size() + prefix.size() + 2);
+    key.reserve(KeyLength());
     key += localName;
     key += separator;
     key += namespaceName;
@@ -123,7 +160,7 @@ bool CFIVocabulary::Enter(const std::u16string& value, IndexMap& map, CFIStringT
 void CFIVocabulary::AddQName(const std::u16string& prefix, const std::u16string& namespaceName,
                              const std::u16string& localName, IndexMap& map,
                              std::vector<CQNameParts>& vector) {
-    const std::u16string key = QNameKey(prefix, namespaceName, localName);
+    const std::u16string key = CQName{prefix, namespaceName, localName}.Key();
     if (map.contains(key))
         return;
     std::uint32_t prefixIndex = 0;

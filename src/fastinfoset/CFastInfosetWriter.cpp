@@ -195,22 +195,22 @@ void CFastInfosetWriter::WriteXsiNil() {
 
 void CFastInfosetWriter::WriteElementName(unsigned char flag, const std::u16string& prefix,
                                           const std::u16string& uri, const std::u16string& localName) {
-    const std::u16string key = CFIVocabulary::QNameKey(prefix, uri, localName);
+    const CFIVocabulary::CQName name{prefix, uri, localName};
     std::uint32_t index;
-    if (CFIVocabulary::FindIndex(m_vocabulary->m_elementNameIndex, key, index))
+    if (CFIVocabulary::FindIndex(m_vocabulary->m_elementNameIndex, name, index))
         return WriteIntegerBit3(flag, index);
     WriteQName(flag | LiteralElementName, prefix, uri, localName);
-    CFIVocabulary::AddValueToMap(key, m_vocabulary->m_elementNameIndex);
+    CFIVocabulary::AddValueToMap(name.Key(), m_vocabulary->m_elementNameIndex);
 }
 
 void CFastInfosetWriter::WriteAttributeName(const std::u16string& prefix, const std::u16string& uri,
                                             const std::u16string& localName) {
-    const std::u16string key = CFIVocabulary::QNameKey(prefix, uri, localName);
+    const CFIVocabulary::CQName name{prefix, uri, localName};
     std::uint32_t index;
-    if (CFIVocabulary::FindIndex(m_vocabulary->m_attributeNameIndex, key, index))
+    if (CFIVocabulary::FindIndex(m_vocabulary->m_attributeNameIndex, name, index))
         return WriteIntegerBit2(0, index);
     WriteQName(LiteralAttributeName, prefix, uri, localName);
-    CFIVocabulary::AddValueToMap(key, m_vocabulary->m_attributeNameIndex);
+    CFIVocabulary::AddValueToMap(name.Key(), m_vocabulary->m_attributeNameIndex);
 }
 
 void CFastInfosetWriter::WriteQName(unsigned char literal, const std::u16string& prefix,
@@ -360,6 +360,8 @@ void CFastInfosetWriter::WriteIntegerBit4(std::uint32_t value) {
 void CFastInfosetWriter::WriteInteger(const IntegerRule& rule, unsigned char bits, std::uint64_t value) {
     Byte octets[IntegerRule::MaxOctets];
     const unsigned count = rule.Encode(value, bits, octets);
+    if (count == 1)
+        return WriteByte(octets[0]);
     m_stream->m_data.Append(octets, count);
 }
 

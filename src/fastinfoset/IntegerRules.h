@@ -35,7 +35,7 @@ struct IntegerRule {
 
     /// Writes an integer of at least 1 behind leading bits of the first byte. Returns the number of bytes.
     constexpr unsigned Encode(std::uint64_t value, Byte leadingBits, Byte (&octets)[MaxOctets]) const {
-        const Band& band = *std::prev(std::ranges::upper_bound(bands, value, {}, &Band::first));
+        const Band& band = LastUpTo(value, &Band::first);
         const std::uint64_t distance = (value - band.writtenFrom) & band.Mask();
         unsigned shift = 8u * band.followingBytes;
         octets[0] = static_cast<Byte>(leadingBits | band.mark | distance >> shift);
@@ -47,7 +47,7 @@ struct IntegerRule {
     /// The band that a first byte announces, or null.
     constexpr const Band* AnnouncedBy(Byte first) const {
         const Byte pattern = first & mask;
-        const Band& band = *std::prev(std::ranges::upper_bound(bands, pattern, {}, &Band::mark));
+        const Band& band = LastUpTo(pattern, &Band::mark);
         return (pattern - band.mark) >> band.FreeBits() == 0 ? &band : nullptr;
     }
 
@@ -57,6 +57,15 @@ struct IntegerRule {
         for (const Byte byte : following)
             distance = distance << 8 | byte;
         return (distance & band.Mask()) + band.first;
+    }
+
+    /// The last band that begins at or below a value. Most values are in the first of the two to four.
+    template <class Begin>
+    constexpr const Band& LastUpTo(std::uint64_t value, Begin Band::*begin) const {
+        auto band = bands.begin();
+        while (std::next(band) != bands.end() && (*std::next(band)).*begin <= value)
+            ++band;
+        return *band;
     }
 };
 

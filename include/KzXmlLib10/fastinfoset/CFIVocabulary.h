@@ -4,7 +4,6 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <functional>
 #include <map>
 #include <string>
 #include <string_view>
@@ -104,7 +103,27 @@ private:
     friend class CFastInfosetReader;
     friend class CFastInfosetWriter;
 
-    using IndexMap = std::map<std::u16string, std::uint32_t, std::less<>>;
+    /// A qualified name as it is looked up: the parts of its key, which need not be put together for that.
+    struct CQName {
+        std::u16string_view prefix;
+        std::u16string_view namespaceName;
+        std::u16string_view localName;
+
+        /// Local name, namespace name and prefix, separated by the code unit 1.
+        std::u16string Key() const;
+        int CompareKey(std::u16string_view key) const;
+        std::size_t KeyLength() const { return localName.size() + namespaceName.size() + prefix.size() + 2; }
+    };
+
+    /// By length, then by bytes, since nobody sees the order.
+    struct KeyOrder {
+        using is_transparent = void;
+        bool operator()(const std::u16string& a, const std::u16string& b) const;
+        bool operator()(const std::u16string& key, const CQName& name) const;
+        bool operator()(const CQName& name, const std::u16string& key) const;
+    };
+
+    using IndexMap = std::map<std::u16string, std::uint32_t, KeyOrder>;
 
     CFIVocabulary(const CFIVocabulary& other);
     CFIVocabulary& operator=(const CFIVocabulary& other);
@@ -112,10 +131,9 @@ private:
     bool FindPrefixNameIndex(const std::u16string& prefix, std::uint32_t& index) const;
     bool FindNamespaceNameIndex(const std::u16string& namespaceName, std::uint32_t& index) const;
     bool FindLocalNameIndex(const std::u16string& localName, std::uint32_t& index) const;
-    static bool FindIndex(const IndexMap& map, const std::u16string& key, std::uint32_t& index);
-
-    static std::u16string QNameKey(std::u16string_view prefix, std::u16string_view namespaceName,
-                                   std::u16string_view localName);
+    /// `key` is a text or a CQName.
+    template <class Key>
+    static bool FindIndex(const IndexMap& map, const Key& key, std::uint32_t& index);
 
     static void AddValueToMap(const std::u16string& value, IndexMap& map);
     static void AddValueToVector(const std::u16string& value, std::vector<std::u16string>& vector);
