@@ -61,18 +61,22 @@ private:
     std::size_t m_position = 0;
 };
 
+/// Reads the buffer of a stream, so that the end of it is no failure of the stream.
 class StreamSource : public ByteSource {
 public:
-    explicit StreamSource(std::istream& stream) : m_stream(stream) {}
-    std::size_t Read(std::span<unsigned char> block) override {
-        if (m_stream.eof())
-            return 0;
-        m_stream.read(reinterpret_cast<char*>(block.data()), static_cast<std::streamsize>(block.size()));
-        const auto count = static_cast<std::size_t>(m_stream.gcount());
-        if (!m_stream && !m_stream.eof())
+    explicit StreamSource(std::istream& stream) : m_stream(stream) {
+        if (!stream || !stream.rdbuf())
             Throw<CKzException>(messages::SourceNotRead);
-        m_position += count;
-        return count;
+    }
+    std::size_t Read(std::span<unsigned char> block) override {
+        try {
+            const std::streamsize count = m_stream.rdbuf()->sgetn(reinterpret_cast<char*>(block.data()),
+                                                                  static_cast<std::streamsize>(block.size()));
+            m_position += static_cast<std::uint64_t>(count);
+            return static_cast<std::size_t>(count);
+        } catch (const std::ios_base::failure&) {
+            Throw<CKzException>(messages::SourceNotRead);
+        }
     }
     std::uint64_t GetPosition() const override { return m_position; }
 

@@ -12,6 +12,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <fstream>
 #include <malloc.h>
 #include <ranges>
 #include <sstream>
@@ -114,6 +115,7 @@ TEST_F(RecordsTest, EverySourceAndFormatGivesTheSameRecords) {
             padded = type == CompressionType_None ? padded : Compressed(padded, type);
             m_dir.Write("file", padded);
             std::istringstream stream(padded);
+            stream.exceptions(std::ios::failbit | std::ios::eofbit); // the end is no failure
             EXPECT_EQ(Seen(padded), expected);
             EXPECT_EQ(Seen(std::as_bytes(std::span(padded))), expected);
             EXPECT_EQ(Seen(stream), expected);
@@ -171,9 +173,11 @@ TEST_F(RecordsTest, WhatEndsTheDocumentComesBehindTheRecordsBeforeIt) {
     EXPECT_EQ(seen(""sv), "no element found at line 1");
     EXPECT_EQ(seen("<all/>"sv), "no failure");
     EXPECT_EQ(seen(std::filesystem::path("/none")), "Failed to open the file [/none] Error [0x00000002]");
-    std::istringstream broken("x");
-    broken.setstate(std::ios::badbit);
-    EXPECT_EQ(seen(broken), "Failed to read the stream of the document");
+    std::ifstream absent("/none");
+    EXPECT_EQ(seen(absent), "Failed to read the stream of the document");
+    std::ifstream folder("/"); // opens, and cannot be read
+    folder.exceptions(std::ios::failbit | std::ios::eofbit);
+    EXPECT_EQ(seen(folder), "Failed to read the stream of the document");
     // Enough of a compressed document for its records to arrive in front of its damage.
     std::string many = prefix;
     for (int i = 0; i < 10'000; ++i)

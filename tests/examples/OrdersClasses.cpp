@@ -4,6 +4,10 @@
 #include "classes/CShipment.h"
 #include "support/Test.h"
 
+#include <KzXmlLib10/edges/Chrono.h>
+#include <KzXmlLib10/edges/FailureFrames.h>
+#include <KzXmlLib10/edges/ReadAndWrite.h>
+#include <KzXmlLib10/edges/Records.h>
 #include <KzXmlLib10/object/CXmlSerializationContext.h>
 
 #include <fstream>
@@ -137,6 +141,30 @@ TEST(OrdersClasses, CarrierIsOfTheTypeThatTheDocumentNames) {
     EXPECT_EQ(Failure<CKzValidationException>([&] { shipment.FromXml(unknown.c_str(), {}); }),
               "Failed to process the element [shipment]\nFailed to find a suitable substitution element for "
               "[carrier]");
+}
+
+TEST(OrdersClasses, RecordsFramesAndTimesReachThroughTheBorderOfTheLibrary) {
+    const std::filesystem::path faulty = ORDERS_SAMPLES "/orders-faulty.xml";
+    std::string seen;
+    const auto note = [&](std::uint64_t number, const CKzException& failure) {
+        seen += std::to_string(number);
+        for (const FailureFrame& frame : GetFailureFrames(failure))
+            seen += ' ' + std::string(GetFailureKindName(frame.kind)) + ' ' + frame.name;
+    };
+    for (const COrder& order : records<COrder>(faulty, {}, {.name = u"order", .onFault = note}))
+        seen += std::to_string(order.GetId()) + ' ';
+    EXPECT_EQ(seen, "1 Record  ReadElement order ReadElement item Value quantity100008 ");
+
+    COrders object, copy;
+    ReadFile(object, ORDERS_SAMPLES "/orders.xml");
+    Read(copy, WriteBytes(object, {.compression = CompressionType_GZip}));
+    EXPECT_EQ(WriteText(copy), WriteText(object));
+    COrder& first = *object.GetOrders()->Item(0);
+    first.SetShipDate(FromChrono(std::chrono::year(2024) / 2 / 29));
+    EXPECT_EQ(ToYearMonthDay(*first.GetShipDate()), std::chrono::year(2024) / 2 / 29);
+    EXPECT_EQ(FromChrono(ToSysTime<std::chrono::seconds>(object.GetCreated())).ToString(),
+              object.GetCreated().GetNormalized().ToString());
+    EXPECT_EQ(FromChrono(ToDuration(FromChrono(std::chrono::hours(3)))).ToString(), u"PT3H");
 }
 
 TEST(OrdersClasses, ThreadsMayMeetTheClassesAtOnce) {

@@ -14,105 +14,100 @@
 ///         for (const CXmlAttribute& attribute : Attributes(item))
 ///             std::cout << ToUtf8(attribute.GetLocalName()) << '\n';
 ///
-/// Collections are ranges themselves: those of primitive values give values, those of objects, CAttributeCol
-/// and CElementCol give references.
+/// They are forward ranges, valid as long as the element is. Collections are ranges themselves: those of
+/// primitive values give values, those of objects, CAttributeCol and CElementCol give references.
 namespace KzXmlLib10 {
 
-/// The children of an element, in document order. Valid as long as the element is.
-class ElementChildren : public std::ranges::view_base {
+/// Walks elements from sibling to sibling. A default one is the end of any list of children.
+class SiblingIterator {
 public:
-    /// A forward iterator. A default one is the end of any list of children.
-    class Iterator {
-    public:
-        using iterator_category = std::forward_iterator_tag;
-        using value_type = CXmlElement;
-        using difference_type = std::ptrdiff_t;
-        using pointer = CXmlElement*;
-        using reference = CXmlElement&;
+    using iterator_category = std::forward_iterator_tag;
+    using value_type = CXmlElement;
+    using difference_type = std::ptrdiff_t;
+    using pointer = CXmlElement*;
+    using reference = CXmlElement&;
 
-        Iterator() = default;
-        explicit Iterator(CXmlElement* element) : m_element(element) {}
+    SiblingIterator() = default;
+    explicit SiblingIterator(CXmlElement* element) : m_element(element) {}
 
-        CXmlElement& operator*() const { return *m_element; }
-        CXmlElement* operator->() const { return m_element; }
-        Iterator& operator++() {
-            m_element = m_element->GetNextSiblingElement();
-            return *this;
-        }
-        Iterator operator++(int) {
-            Iterator before = *this;
-            ++*this;
-            return before;
-        }
-        friend bool operator==(const Iterator&, const Iterator&) = default;
+    CXmlElement& operator*() const { return *m_element; }
+    CXmlElement* operator->() const { return m_element; }
+    SiblingIterator& operator++() {
+        m_element = m_element->GetNextSiblingElement();
+        return *this;
+    }
+    SiblingIterator operator++(int) {
+        SiblingIterator before = *this;
+        ++*this;
+        return before;
+    }
+    friend bool operator==(const SiblingIterator&, const SiblingIterator&) = default;
 
-    private:
-        CXmlElement* m_element = nullptr;
-    };
+private:
+    CXmlElement* m_element = nullptr;
+};
 
-    ElementChildren() = default;
-    explicit ElementChildren(const CXmlElement& parent) : m_first(parent.GetFirstElement()) {}
+/// Walks the attributes of one element.
+class AttributeIterator {
+public:
+    using iterator_category = std::forward_iterator_tag;
+    using value_type = CXmlAttribute;
+    using difference_type = std::ptrdiff_t;
+    using pointer = const CXmlAttribute*;
+    using reference = const CXmlAttribute&;
+    using Base = std::vector<CXmlAttribute*>::const_iterator;
+
+    AttributeIterator() = default;
+    explicit AttributeIterator(Base attribute) : m_attribute(attribute) {}
+
+    const CXmlAttribute& operator*() const { return **m_attribute; }
+    const CXmlAttribute* operator->() const { return *m_attribute; }
+    AttributeIterator& operator++() {
+        ++m_attribute;
+        return *this;
+    }
+    AttributeIterator operator++(int) {
+        AttributeIterator before = *this;
+        ++*this;
+        return before;
+    }
+    friend bool operator==(const AttributeIterator&, const AttributeIterator&) = default;
+
+private:
+    Base m_attribute;
+};
+
+/// The two ends of a range.
+template <class Iterator>
+class IteratorRange : public std::ranges::view_base {
+public:
+    IteratorRange() = default;
+    IteratorRange(Iterator first, Iterator last) : m_first(first), m_last(last) {}
 
     Iterator begin() const { return m_first; }
-    Iterator end() const { return {}; }
+    Iterator end() const { return m_last; }
 
 private:
-    Iterator m_first;
+    Iterator m_first, m_last;
 };
 
-/// The attributes of an element, in document order. Valid as long as the element is.
-class ElementAttributes : public std::ranges::view_base {
-public:
-    /// A forward iterator.
-    class Iterator {
-    public:
-        using iterator_category = std::forward_iterator_tag;
-        using value_type = CXmlAttribute;
-        using difference_type = std::ptrdiff_t;
-        using pointer = const CXmlAttribute*;
-        using reference = const CXmlAttribute&;
+using ElementChildren = IteratorRange<SiblingIterator>;
+using ElementAttributes = IteratorRange<AttributeIterator>;
 
-        Iterator() = default;
-        explicit Iterator(CXmlAttribute* const* attribute) : m_attribute(attribute) {}
+/// The children of an element of a document, in document order.
+inline ElementChildren Children(const CXmlElement& element) {
+    return {SiblingIterator(element.GetFirstElement()), SiblingIterator()};
+}
 
-        const CXmlAttribute& operator*() const { return **m_attribute; }
-        const CXmlAttribute* operator->() const { return *m_attribute; }
-        Iterator& operator++() {
-            ++m_attribute;
-            return *this;
-        }
-        Iterator operator++(int) {
-            Iterator before = *this;
-            ++*this;
-            return before;
-        }
-        friend bool operator==(const Iterator&, const Iterator&) = default;
-
-    private:
-        CXmlAttribute* const* m_attribute = nullptr;
-    };
-
-    ElementAttributes() = default;
-    explicit ElementAttributes(const CXmlElement& element)
-        : m_begin(element.GetAttributes().data()),
-          m_end(element.GetAttributes().data() + element.GetAttributes().size()) {}
-
-    Iterator begin() const { return m_begin; }
-    Iterator end() const { return m_end; }
-
-private:
-    Iterator m_begin, m_end;
-};
-
-/// The children of an element of a document.
-inline ElementChildren Children(const CXmlElement& element) { return ElementChildren(element); }
-
-/// The attributes of an element of a document.
-inline ElementAttributes Attributes(const CXmlElement& element) { return ElementAttributes(element); }
+/// The attributes of an element of a document, in document order.
+inline ElementAttributes Attributes(const CXmlElement& element) {
+    return {AttributeIterator(element.GetAttributes().begin()),
+            AttributeIterator(element.GetAttributes().end())};
+}
 
 } // namespace KzXmlLib10
 
-template <>
-inline constexpr bool std::ranges::enable_borrowed_range<KzXmlLib10::ElementChildren> = true;
-template <>
-inline constexpr bool std::ranges::enable_borrowed_range<KzXmlLib10::ElementAttributes> = true;
+/// @cond
+template <class Iterator>
+inline constexpr bool std::ranges::enable_borrowed_range<KzXmlLib10::IteratorRange<Iterator>> = true;
+/// @endcond

@@ -27,7 +27,8 @@ namespace KzXmlLib10 {
 /// Where records come from: a file, a document in memory or a stream. Memory and stream stay the caller's
 /// and must outlive the records.
 ///
-/// A file is named by a std::filesystem::path; text, in whatever string, is a document.
+/// A file is named by a std::filesystem::path; text, in whatever string, is a document. Of a stream the
+/// buffer is read, from where it stands; its state stays as it is. A stream that has failed is refused.
 class RecordSource {
 public:
     template <std::same_as<std::filesystem::path> Path>
