@@ -31,7 +31,8 @@ using namespace messages;
 constexpr std::size_t mostArguments = 4;
 using Arguments = std::array<std::u16string_view, mostArguments>;
 
-/// A format, what its message is about, and which of its arguments is the name; -1 for none.
+/// A format, what its message is about, and which of its arguments is the name; -1 for none. The first row
+/// that fits counts.
 struct Row {
     const char16_t* format;
     FailureKind kind;
@@ -73,6 +74,13 @@ constexpr Row rows[] = {
     {NoRootElement, Syntax},
     {InvalidOrEmptyDocument, Syntax},
     {CompressedStreamDamaged, Syntax},
+    {UnknownByteEncoding, Syntax},
+    {InvalidShort, Syntax},
+    {InvalidInt, Syntax},
+    {InvalidLong, Syntax},
+    {InvalidFloat, Syntax},
+    {InvalidDouble, Syntax},
+    {InvalidUuid, Syntax},
 
     {FileNotOpened, File, 0},
     {FileSizeUnknown, File, 0},

@@ -16,7 +16,6 @@ static_assert(!ExactDuration<duration<double>> && !ExactDuration<duration<long l
 
 using Frames = duration<std::int64_t, std::ratio<1, 24>>;
 
-CDateTime DateTime(const char16_t* text) { return CDateTime(text); }
 CDateTime Date(const char16_t* text) {
     CDateTime value;
     value.ParseXSDDate(text);
@@ -44,19 +43,19 @@ TEST(Chrono, PointsInTimeGoBothWays) {
                 {sys_days(year(-4) / 2 / 29), u"-0004-02-29T00:00:00Z"}};
     for (const auto& [time, text] : rows) {
         EXPECT_EQ(FromChrono(time).ToString(), text);
-        EXPECT_EQ(ToSysTime<seconds>(DateTime(text)), time);
+        EXPECT_EQ(ToSysTime<seconds>(CDateTime(text)), time);
         EXPECT_EQ(ToSysTime<milliseconds>(FromChrono(time)), time);
         EXPECT_EQ(FromChrono(local_seconds(time.time_since_epoch())).ToString() + u"Z", text);
     }
     const sys_time<nanoseconds> fine = sys_days(1969y / 7 / 20) + 20h + 17min + 40s + 123456789ns;
     EXPECT_EQ(FromChrono(fine).ToString(), u"1969-07-20T20:17:40.123456789Z");
     EXPECT_EQ(ToSysTime(FromChrono(fine)), fine);
-    EXPECT_EQ(ToLocalTime(DateTime(u"1969-07-20T20:17:40.5")).time_since_epoch(),
+    EXPECT_EQ(ToLocalTime(CDateTime(u"1969-07-20T20:17:40.5")).time_since_epoch(),
               (sys_days(1969y / 7 / 20) + 20h + 17min + 40s + 500ms).time_since_epoch());
     // An offset is taken off, with its minutes.
-    EXPECT_EQ(ToSysTime<minutes>(DateTime(u"2024-01-01T00:30:00+01:45")),
+    EXPECT_EQ(ToSysTime<minutes>(CDateTime(u"2024-01-01T00:30:00+01:45")),
               sys_days(2023y / 12 / 31) + 22h + 45min);
-    EXPECT_EQ(ToSysTime<minutes>(DateTime(u"2023-12-31T22:45:00-02:30")),
+    EXPECT_EQ(ToSysTime<minutes>(CDateTime(u"2023-12-31T22:45:00-02:30")),
               sys_days(2024y / 1 / 1) + 1h + 15min);
 }
 
@@ -98,10 +97,10 @@ TEST(Chrono, WhatWouldBeLostIsRefused) {
     const std::string inexact = "The value is no whole number of the unit";
     const std::string tooLarge = "The value does not fit into the target";
     const std::pair<std::function<void()>, std::string> rows[] = {
-        {[] { ToSysTime<seconds>(DateTime(u"2000-01-01T00:00:00.000000001Z")); }, inexact},
+        {[] { ToSysTime<seconds>(CDateTime(u"2000-01-01T00:00:00.000000001Z")); }, inexact},
         {[] { ToDuration<hours>(Span(u"PT90M")); }, inexact},
         {[] { FromChrono(Frames(1)); }, inexact},
-        {[] { ToSysTime(DateTime(u"2300-01-01T00:00:00Z")); }, tooLarge},
+        {[] { ToSysTime(CDateTime(u"2300-01-01T00:00:00Z")); }, tooLarge},
         {[] { ToDuration(Span(u"P106752D")); }, tooLarge},
         {[] { ToDuration<duration<signed char>>(Span(u"PT128S")); }, tooLarge},
         {[] { ToDuration<weeks>(CDateTimeSpan(0, 0, ~0ull)); }, tooLarge},
@@ -115,8 +114,8 @@ TEST(Chrono, WhatWouldBeLostIsRefused) {
         {[] { FromChrono(10000y); }, "Invalid Year [10000] (9999 <= year <= -9999 && year != 0)"},
         {[] { FromChrono(2023y / 2 / 29); }, "Invalid Day [29] (1 <= day <= days in month"},
         {[] { FromChrono(month(13)); }, "Invalid Month [13] (1 <= month <= 12)"},
-        {[] { ToSysTime(DateTime(u"2000-01-01T00:00:00")); }, "The value has no time zone"},
-        {[] { ToLocalTime(DateTime(u"2000-01-01T00:00:00Z")); },
+        {[] { ToSysTime(CDateTime(u"2000-01-01T00:00:00")); }, "The value has no time zone"},
+        {[] { ToLocalTime(CDateTime(u"2000-01-01T00:00:00Z")); },
          "The value has a time zone, which would be lost"},
         {[] { ToYearMonthDay(Date(u"2000-01-01+01:00")); }, "The value has a time zone, which would be lost"},
         {[] { ToDuration(Span(u"P1Y")); }, "The duration has years or months, which have no fixed length"},
@@ -130,7 +129,7 @@ TEST(Chrono, WhatWouldBeLostIsRefused) {
     };
     for (const auto& [action, message] : rows)
         EXPECT_EQ(Failure<CKzInvalidValueException>(action), message);
-    EXPECT_EQ(Failure<CKzInvalidStateException>([] { ToYearMonthDay(DateTime(u"2000-01-01T00:00:00")); }),
+    EXPECT_EQ(Failure<CKzInvalidStateException>([] { ToYearMonthDay(CDateTime(u"2000-01-01T00:00:00")); }),
               "The value is a dateTime, not a date");
     EXPECT_EQ(Failure<CKzInvalidStateException>([] { ToSysTime(CDateTime()); }),
               "The value is a yearZero, not a dateTime");

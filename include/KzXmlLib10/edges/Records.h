@@ -97,8 +97,9 @@ private:
 /// ignores namespaces, the name alone counts. All other children of the root are passed over.
 ///
 /// A document of any size is read in constant memory: text in any encoding that expat reads, plain or under
-/// gzip or zlib, in blocks of 64 KiB, of which the records are held ready. What bounds memory is the largest
-/// child of the root, to which the Limits of a document apply. A Fast Infoset document is taken whole.
+/// gzip or zlib, in blocks of 64 KiB, of which the records are held ready. What takes memory is the largest
+/// child of the root; the Limits of a document apply to each child, those of a compressed stream too. A Fast
+/// Infoset document is taken whole, with all its records.
 ///
 /// Each record is an object of its own, which lives on in a CSmartPtr that is pointed at it.
 ///
