@@ -237,7 +237,8 @@ void CFastInfosetReader::ParseItem(Byte item) {
 
 void CFastInfosetReader::PopElement() {
     m_document->m_elementStack.pop_back();
-    m_document->m_previousSiblings.pop_back();
+    if (m_document->m_elementCallback) // not called here, but an open element is noted for it
+        m_document->m_previousSiblings.pop_back();
 }
 
 /// Returns the byte behind the list, with which the name of the element starts.

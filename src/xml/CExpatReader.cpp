@@ -126,17 +126,22 @@ void CExpatReader::StartElement(const char16_t* name, const XML_Char** attribute
     m_budget.Charge(uri.size() + local.size(), sizeof(CXmlElement));
     CXmlElement* element = m_document->m_documentElement ? m_document->AddChildElement(uri, local)
                                                          : m_document->AddDocElement(uri, local);
+    if (*attributes)
+        AddAttributes(*element, attributes);
+}
+
+void CExpatReader::AddAttributes(CXmlElement& element, const XML_Char** attributes) {
     std::size_t count = 0;
     while (attributes[2 * count])
         ++count;
-    element->m_attributes.reserve(count);
+    element.m_attributes.reserve(count);
     // A document type can give each element any number of attributes, so they count even if they are empty.
     constexpr std::size_t attributeUnits = sizeof(CXmlAttribute) / sizeof(char16_t);
     for (; *attributes; attributes += 2) {
         const auto [attributeUri, attributeLocal] = SplitName(expat::Text(attributes[0]));
         const std::u16string_view value = expat::Text(attributes[1]);
         m_budget.Charge(attributeUri.size() + attributeLocal.size() + value.size() + attributeUnits);
-        element->AddAttribute(attributeLocal, value, attributeUri);
+        element.AddAttribute(attributeLocal, value, attributeUri);
     }
 }
 

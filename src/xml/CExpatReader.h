@@ -57,6 +57,7 @@ private:
     static void Handle(void* reader, Action action) noexcept;
 
     void StartElement(const char16_t* name, const XML_Char** attributes);
+    void AddAttributes(CXmlElement& element, const XML_Char** attributes);
     void AppendText(std::u16string_view text);
     [[noreturn]] void Fail();
 

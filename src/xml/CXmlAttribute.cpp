@@ -2,6 +2,9 @@
 
 #include "xml/XmlNamespaces.h"
 
+#include <string_view>
+#include <utility>
+
 namespace KzXmlLib10 {
 
 namespace {
@@ -13,21 +16,21 @@ bool IsReservedNamespace(std::u16string_view uri) {
 
 } // namespace
 
-CXmlAttribute::CXmlAttribute(std::u16string_view localName, std::u16string_view value,
-                             std::u16string_view namespaceUri)
-    : CInstanceMonitor(u"CXmlAttribute"), m_localName(localName), m_value(value),
-      m_namespaceUri(namespaceUri) {}
+CXmlAttribute::CXmlAttribute(const std::u16string& localName, std::u16string value,
+                             const std::u16string& namespaceUri) noexcept
+    : CInstanceMonitor(u"CXmlAttribute"), m_localName(&localName), m_value(std::move(value)),
+      m_namespaceUri(&namespaceUri) {}
 
 CXmlAttribute::~CXmlAttribute() = default;
 
 bool CXmlAttribute::IsNamespaceAttribute() const {
-    return IsReservedNamespace(m_namespaceUri) &&
-           (m_localName == u"xmlns" || m_localName == u"type" || m_localName == u"schemaLocation" ||
-            m_localName == u"noNamespaceSchemaLocation");
+    return IsReservedNamespace(*m_namespaceUri) &&
+           (*m_localName == u"xmlns" || *m_localName == u"type" || *m_localName == u"schemaLocation" ||
+            *m_localName == u"noNamespaceSchemaLocation");
 }
 
 bool CXmlAttribute::IsNilAttribute() const {
-    return m_localName == u"nil" && IsReservedNamespace(m_namespaceUri);
+    return *m_localName == u"nil" && IsReservedNamespace(*m_namespaceUri);
 }
 
 } // namespace KzXmlLib10

@@ -6,6 +6,7 @@
 #include "xml/AsyncFiles.h"
 #include "xml/CExpatReader.h"
 #include "xml/Messages.h"
+#include "xml/TreeMemory.h"
 
 #include <KzXmlLib10/object/CXmlSerializationContext.h>
 
@@ -26,10 +27,10 @@ CXmlDocument::CXmlDocument(bool (*elementCallback)(CXmlElement*), const CXmlSeri
     : CInstanceMonitor(u"CXmlDocument"), m_schemaType(context.GetSchemaType()),
       m_elementCallback(elementCallback), m_context(&context) {}
 
-CXmlDocument::~CXmlDocument() = default;
+CXmlDocument::~CXmlDocument() { DropTree(); }
 
 void CXmlDocument::Cleanup() {
-    m_documentElement.reset();
+    DropTree();
     m_buffer.reset();
     m_bufferSize = 0;
     m_elementStack.clear();
@@ -39,7 +40,7 @@ void CXmlDocument::Cleanup() {
 
 void CXmlDocument::Init() {
     m_readOffset = 0;
-    m_documentElement.reset();
+    DropTree();
     m_buffer.reset();
     m_bufferSize = 0;
     m_schemaType = m_context->GetSchemaType();
@@ -97,13 +98,24 @@ std::map<std::u16string, std::u16string> CXmlDocument::GetNamespaceAliases() con
     return {m_namespaceAliases.begin(), m_namespaceAliases.end()};
 }
 
+void CXmlDocument::DropTree() {
+    m_documentElement.reset();
+    m_memory.reset(); // last, since the tree stands in it
+}
+
+void CXmlDocument::OpenElement(CXmlElement* element, CXmlElement* previous) {
+    if (m_elementCallback)
+        m_previousSiblings.push_back(previous);
+    m_elementStack.push_back(element);
+}
+
 CXmlElement* CXmlDocument::AddDocElement(std::u16string_view namespaceUri, std::u16string_view localName) {
-    m_documentElement.reset(new CXmlElement(this));
+    m_memory = std::make_unique<TreeMemory>();
+    m_documentElement.reset(CXmlElement::Create(this));
     CXmlElement* root = m_documentElement.get();
     root->SetNamespace(namespaceUri);
     root->SetElementName(localName);
-    m_previousSiblings.push_back(nullptr);
-    m_elementStack.push_back(root);
+    OpenElement(root, nullptr);
     return root;
 }
 
@@ -113,17 +125,18 @@ CXmlElement* CXmlDocument::AddChildElement(std::u16string_view namespaceUri, std
     CXmlElement* child = parent->CreateNewChildElement();
     child->SetNamespace(namespaceUri);
     child->SetElementName(localName);
-    m_previousSiblings.push_back(previous);
-    m_elementStack.push_back(child);
+    OpenElement(child, previous);
     return child;
 }
 
 void CXmlDocument::EndElement() {
     CXmlElement* element = m_elementStack.back();
-    CXmlElement* previous = m_previousSiblings.back();
     m_elementStack.pop_back();
+    if (!m_elementCallback)
+        return;
+    CXmlElement* previous = m_previousSiblings.back();
     m_previousSiblings.pop_back();
-    if (m_elementCallback && m_elementCallback(element) && !m_elementStack.empty())
+    if (m_elementCallback(element) && !m_elementStack.empty())
         m_elementStack.back()->RemoveLastChildElement(previous);
 }
 

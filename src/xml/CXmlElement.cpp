@@ -1,17 +1,40 @@
 #include <KzXmlLib10/xml/CXmlElement.h>
 
+#include "object/SameText.h"
+#include "xml/TreeMemory.h"
+
+#include <KzXmlLib10/xml/CXmlDocument.h>
+
 #include <algorithm>
-#include <memory>
+#include <utility>
 
 namespace KzXmlLib10 {
 
-CXmlElement::CXmlElement(const CXmlDocument* document)
-    : CInstanceMonitor(u"CXmlElement"), m_document(document) {}
+namespace {
+
+const std::u16string none;
+
+} // namespace
+
+CXmlElement::CXmlElement(const CXmlDocument* document) noexcept
+    : CInstanceMonitor(u"CXmlElement"), m_document(document), m_localName(&none), m_namespaceUri(&none) {}
+
+CXmlElement* CXmlElement::Create(const CXmlDocument* document) {
+    return ::new (document->m_memory->elements.Take()) CXmlElement(document);
+}
 
 CXmlElement::~CXmlElement() {
     DestroyChain(m_firstChild);
-    for (CXmlAttribute* attribute : m_attributes)
-        delete attribute;
+    for (CXmlAttribute* attribute : m_attributes) {
+        attribute->~CXmlAttribute();
+        m_document->m_memory->attributes.GiveBack(attribute);
+    }
+}
+
+void CXmlElement::operator delete(CXmlElement* element, std::destroying_delete_t) {
+    TreeMemory& memory = *element->m_document->m_memory;
+    element->~CXmlElement();
+    memory.elements.GiveBack(element);
 }
 
 /// Destroys a chain of siblings and all below them. The children of an element move in front of what is left
@@ -31,9 +54,9 @@ void CXmlElement::DestroyChain(CXmlElement* list) noexcept {
 
 const std::u16string& CXmlElement::GetAttribute(const std::u16string& localName,
                                                 const std::u16string& namespaceUri) const {
-    static const std::u16string none;
     for (const CXmlAttribute* attribute : m_attributes) {
-        if (attribute->GetLocalName() == localName && attribute->GetNamespaceURI() == namespaceUri)
+        if (SameText(attribute->GetLocalName(), localName) &&
+            SameText(attribute->GetNamespaceURI(), namespaceUri))
             return attribute->GetValue();
     }
     return none;
@@ -41,9 +64,23 @@ const std::u16string& CXmlElement::GetAttribute(const std::u16string& localName,
 
 void CXmlElement::AddAttribute(std::u16string_view localName, std::u16string_view value,
                                std::u16string_view namespaceUri) {
-    std::unique_ptr<CXmlAttribute> attribute(new CXmlAttribute(localName, value, namespaceUri));
-    m_attributes.push_back(attribute.get());
-    attribute.release();
+    TreeMemory& memory = *m_document->m_memory;
+    const std::u16string& sharedName = memory.localNames.Share(localName);
+    const std::u16string& sharedNamespace = memory.namespaces.Share(namespaceUri);
+    std::u16string ownValue(value);
+    if (m_attributes.size() == m_attributes.capacity())
+        m_attributes.reserve(2 * m_attributes.size() + 1);
+    // Nothing fails from here on, once there is room.
+    void* room = memory.attributes.Take();
+    m_attributes.push_back(::new (room) CXmlAttribute(sharedName, std::move(ownValue), sharedNamespace));
+}
+
+void CXmlElement::SetElementName(std::u16string_view localName) {
+    m_localName = &m_document->m_memory->localNames.Share(localName);
+}
+
+void CXmlElement::SetNamespace(std::u16string_view namespaceUri) {
+    m_namespaceUri = &m_document->m_memory->namespaces.Share(namespaceUri);
 }
 
 void CXmlElement::AppendText(const char16_t* text) {
@@ -58,7 +95,7 @@ void CXmlElement::AppendText(const char16_t* text, std::size_t count) {
 }
 
 CXmlElement* CXmlElement::CreateNewChildElement() {
-    CXmlElement* child = new CXmlElement(m_document);
+    CXmlElement* child = Create(m_document);
     (m_lastChild ? m_lastChild->m_nextSibling : m_firstChild) = child;
     m_lastChild = child;
     return child;

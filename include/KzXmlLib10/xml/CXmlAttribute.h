@@ -5,7 +5,6 @@
 #include <KzXmlLib10/object/Fwd.h>
 
 #include <string>
-#include <string_view>
 
 namespace KzXmlLib10 {
 
@@ -17,8 +16,8 @@ class QUILLON_EXPORT CXmlAttribute : public CInstanceMonitor {
 public:
     ~CXmlAttribute() override;
 
-    const std::u16string& GetLocalName() const { return m_localName; }
-    const std::u16string& GetNamespaceURI() const { return m_namespaceUri; }
+    const std::u16string& GetLocalName() const { return *m_localName; }
+    const std::u16string& GetNamespaceURI() const { return *m_namespaceUri; }
     const std::u16string& GetValue() const { return m_value; }
 
     /// Whether the attribute steers reading instead of carrying data: "xmlns", "type", "schemaLocation" or
@@ -36,11 +35,13 @@ public:
 private:
     friend class CXmlElement;
 
-    CXmlAttribute(std::u16string_view localName, std::u16string_view value, std::u16string_view namespaceUri);
+    /// The names stay those of the document.
+    CXmlAttribute(const std::u16string& localName, std::u16string value,
+                  const std::u16string& namespaceUri) noexcept;
 
-    std::u16string m_localName;
+    const std::u16string* m_localName;
     std::u16string m_value;
-    std::u16string m_namespaceUri;
+    const std::u16string* m_namespaceUri;
 };
 
 } // namespace KzXmlLib10

@@ -18,6 +18,7 @@
 namespace KzXmlLib10 {
 
 class AsyncFile;
+struct TreeMemory;
 
 /// A small read-only tree of elements: the form in which every input reaches the objects.
 ///
@@ -85,9 +86,11 @@ public:
 private:
     friend class CExpatReader;
     friend class CFastInfosetReader;
+    friend class CXmlElement;
     friend class RecordParser;
 
     void Init();
+    void DropTree();
     void ParseText(std::uint64_t handedIn, const char16_t* protocolEncoding = nullptr);
     void Parse();
     void DecompressBuffer();
@@ -100,6 +103,7 @@ private:
 
     CXmlElement* AddDocElement(std::u16string_view namespaceUri, std::u16string_view localName);
     CXmlElement* AddChildElement(std::u16string_view namespaceUri, std::u16string_view localName);
+    void OpenElement(CXmlElement* element, CXmlElement* previous);
     void EndElement();
     void AddElementAttribute(CXmlElement* element, std::u16string_view localName, std::u16string_view value,
                              std::u16string_view namespaceUri);
@@ -118,8 +122,11 @@ private:
     SchemaType m_schemaType;
     bool (*m_elementCallback)(CXmlElement*);
     const CXmlSerializationContext* m_context;
-    /// For each open element the sibling before it, so that dropping a child needs no walk.
+    /// For each open element the sibling before it, so that dropping a child needs no walk. Kept only where
+    /// the callback can drop.
     std::vector<CXmlElement*> m_previousSiblings;
+    /// There while there is a root.
+    std::unique_ptr<TreeMemory> m_memory;
 };
 
 } // namespace KzXmlLib10

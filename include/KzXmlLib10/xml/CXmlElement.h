@@ -6,6 +6,7 @@
 #include <KzXmlLib10/xml/CXmlAttribute.h>
 
 #include <cstddef>
+#include <new>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -25,14 +26,16 @@ public:
     CXmlElement& operator=(const CXmlElement&) = delete;
     /// Destroys all below the element as well, at any depth, in constant stack.
     ~CXmlElement() override;
+    /// Gives the memory back to the document that it came from.
+    static void operator delete(CXmlElement* element, std::destroying_delete_t);
 
     const CXmlDocument* GetDocument() const { return m_document; }
     /// The first child, or null.
     CXmlElement* GetFirstElement() const { return m_firstChild; }
     /// The next child of the same parent, or null.
     CXmlElement* GetNextSiblingElement() const { return m_nextSibling; }
-    const std::u16string& GetLocalName() const { return m_localName; }
-    const std::u16string& GetNamespaceURI() const { return m_namespaceUri; }
+    const std::u16string& GetLocalName() const { return *m_localName; }
+    const std::u16string& GetNamespaceURI() const { return *m_namespaceUri; }
     /// All character data directly in this element, in document order, white space included.
     const std::u16string& GetText() const { return m_text; }
     /// In document order; the attributes stay the property of the element.
@@ -53,8 +56,8 @@ protected:
     CXmlElement* CreateNewChildElement();
     /// Removes and destroys the last child; `previous` is the one before it, or null.
     void RemoveLastChildElement(CXmlElement* previous);
-    void SetElementName(std::u16string_view localName) { m_localName = localName; }
-    void SetNamespace(std::u16string_view namespaceUri) { m_namespaceUri = namespaceUri; }
+    void SetElementName(std::u16string_view localName);
+    void SetNamespace(std::u16string_view namespaceUri);
 
 private:
     friend class CExpatReader;
@@ -62,8 +65,10 @@ private:
     friend class RecordParser;
     friend class CXmlDocument;
 
-    explicit CXmlElement(const CXmlDocument* document);
+    explicit CXmlElement(const CXmlDocument* document) noexcept;
 
+    /// A new element without a name, in the memory of its document.
+    static CXmlElement* Create(const CXmlDocument* document);
     static void DestroyChain(CXmlElement* list) noexcept;
 
     const CXmlDocument* m_document;
@@ -72,8 +77,8 @@ private:
     CXmlElement* m_lastChild = nullptr;
     std::vector<CXmlAttribute*> m_attributes;
     std::u16string m_text;
-    std::u16string m_localName;
-    std::u16string m_namespaceUri;
+    const std::u16string* m_localName; ///< the document's, as all names
+    const std::u16string* m_namespaceUri;
 };
 
 } // namespace KzXmlLib10
