@@ -2,11 +2,13 @@
 
 #include "object/Throw.h"
 #include "xml/Messages.h"
+#include "xml/TreeMemory.h"
 
 #include <KzXmlLib10/object/CXmlSerializationContext.h>
 #include <KzXmlLib10/xml/CXmlDocument.h>
 
 #include <algorithm>
+#include <cstring>
 #include <limits>
 #include <new>
 #include <string_view>
@@ -27,9 +29,16 @@ struct Name {
 };
 
 /// Splits a name as expat gives it, URI, separator and local name or the local name alone, at the first
-/// separator.
-Name SplitName(const char16_t* name) {
+/// separator. If the URI is the likely one, it is that very text.
+Name SplitName(const char16_t* name, std::u16string_view likely) {
     const char16_t* at = name;
+    for (const char16_t unit : likely) {
+        if (*at != unit)
+            break;
+        ++at;
+    }
+    if (*at == NamespaceSeparator && static_cast<std::size_t>(at - name) == likely.size())
+        return {likely, std::u16string_view(at + 1)};
     while (*at != u'\0' && *at != NamespaceSeparator)
         ++at;
     if (*at == u'\0')
@@ -122,7 +131,8 @@ void CExpatReader::Handle(void* userData, Action action) noexcept {
 }
 
 void CExpatReader::StartElement(const char16_t* name, const XML_Char** attributes) {
-    const auto [uri, local] = SplitName(name);
+    PassTextOn();
+    const auto [uri, local] = SplitName(name, LikelyNamespace());
     m_budget.Charge(uri.size() + local.size(), sizeof(CXmlElement));
     CXmlElement* element = m_document->m_documentElement ? m_document->AddChildElement(uri, local)
                                                          : m_document->AddDocElement(uri, local);
@@ -138,16 +148,43 @@ void CExpatReader::AddAttributes(CXmlElement& element, const XML_Char** attribut
     // A document type can give each element any number of attributes, so they count even if they are empty.
     constexpr std::size_t attributeUnits = sizeof(CXmlAttribute) / sizeof(char16_t);
     for (; *attributes; attributes += 2) {
-        const auto [attributeUri, attributeLocal] = SplitName(expat::Text(attributes[0]));
+        const auto [attributeUri, attributeLocal] = SplitName(expat::Text(attributes[0]), LikelyNamespace());
         const std::u16string_view value = expat::Text(attributes[1]);
         m_budget.Charge(attributeUri.size() + attributeLocal.size() + value.size() + attributeUnits);
         element.AddAttribute(attributeLocal, value, attributeUri);
     }
 }
 
+std::u16string_view CExpatReader::LikelyNamespace() const {
+    return m_document->m_memory ? m_document->m_memory->namespaces.Last() : std::u16string_view();
+}
+
+/// Expat reports each line end by itself, so pieces of text are gathered as far as the buffer takes them.
 void CExpatReader::AppendText(std::u16string_view text) {
     m_budget.Charge(text.size());
-    m_document->AppendTextExcludingCR(m_document->m_elementStack.back(), text.data(), text.size());
+    const std::size_t capacity = m_bufferSize / sizeof(char16_t);
+    if (text.size() > capacity - m_textSize) {
+        PassTextOn();
+        if (text.size() > capacity)
+            return PassOn(text);
+    }
+    std::memcpy(m_buffer.get() + m_textSize * sizeof(char16_t), text.data(), text.size() * sizeof(char16_t));
+    m_textSize += text.size();
+}
+
+/// Gives the gathered text to the innermost element.
+void CExpatReader::PassTextOn() {
+    if (const std::size_t size = std::exchange(m_textSize, 0))
+        PassOn({reinterpret_cast<const char16_t*>(m_buffer.get()), size});
+}
+
+void CExpatReader::PassOn(std::u16string_view text) {
+    CXmlElement* element = m_document->m_elementStack.back();
+    // There is no NUL in XML. Where no byte is that of a carriage return, none is there either.
+    if (std::memchr(text.data(), '\r', text.size() * sizeof(char16_t)))
+        m_document->AppendTextExcludingCR(element, text.data(), text.size());
+    else
+        element->AppendText(text.data(), text.size());
 }
 
 void XMLCALL CExpatReader::StartElementHandler(void* reader, const XML_Char* name,
@@ -156,7 +193,10 @@ void XMLCALL CExpatReader::StartElementHandler(void* reader, const XML_Char* nam
 }
 
 void XMLCALL CExpatReader::EndElementHandler(void* reader, const XML_Char*) {
-    Handle(reader, [](CExpatReader& self) { self.m_document->EndElement(); });
+    Handle(reader, [](CExpatReader& self) {
+        self.PassTextOn();
+        self.m_document->EndElement();
+    });
 }
 
 void XMLCALL CExpatReader::StartNamespaceDeclHandler(void* reader, const XML_Char* prefix,

@@ -6,6 +6,7 @@
 #include <KzXmlLib10/object/CInstanceMonitor.h>
 #include <KzXmlLib10/object/Fwd.h>
 
+#include <cstddef>
 #include <cstdint>
 #include <exception>
 #include <memory>
@@ -58,14 +59,18 @@ private:
 
     void StartElement(const char16_t* name, const XML_Char** attributes);
     void AddAttributes(CXmlElement& element, const XML_Char** attributes);
+    std::u16string_view LikelyNamespace() const;
     void AppendText(std::u16string_view text);
+    void PassTextOn();
+    void PassOn(std::u16string_view text);
     [[noreturn]] void Fail();
 
     CXmlDocument* m_document;
-    std::unique_ptr<unsigned char[]> m_buffer;
+    std::unique_ptr<unsigned char[]> m_buffer; ///< text that is being gathered
     std::uint32_t m_bufferSize = 1024;
     expat::Parser m_parser;
     std::exception_ptr m_failure;
+    std::size_t m_textSize = 0; ///< the code units in m_buffer
     TreeBudget m_budget;
 };
 

@@ -29,6 +29,9 @@ public:
         return m_last->text;
     }
 
+    /// The name that was shared last; empty at first.
+    std::u16string_view Last() const { return m_last->text; }
+
 private:
     struct Name {
         std::u16string text;
