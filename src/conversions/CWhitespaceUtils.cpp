@@ -1,6 +1,7 @@
 #include <KzXmlLib10/conversions/CWhitespaceUtils.h>
 
 #include "conversions/Messages.h"
+#include "object/TextScan.h"
 #include "object/Throw.h"
 
 #include <string_view>
@@ -48,7 +49,7 @@ std::u16string CWhitespaceUtils::ApplyRule(WhitespaceRule rule, const std::u16st
 
 std::u16string CWhitespaceUtils::Preserve(const std::u16string& text) {
     // Deliberate: text without a carriage return keeps what stands behind a NUL.
-    if (text.find(u'\r') == std::u16string::npos)
+    if (!MayHold(text, '\r') || text.find(u'\r') == std::u16string::npos)
         return text;
     return WithLineFeeds(UpToNul(text));
 }

@@ -4,6 +4,7 @@
 #include "metadata/ValueText.h"
 #include "object/NamespaceRestriction.h"
 #include "object/NotNull.h"
+#include "object/TextScan.h"
 
 #include <KzXmlLib10/conversions/FacetChecks.h>
 #include <KzXmlLib10/object/CXmlGeneratedClass.h>
@@ -51,9 +52,9 @@ bool CAttributeInfo::IsNamespaceValid(const std::u16string& ns, const std::u16st
 }
 
 bool CAttributeInfo::IsThisAttribute(const CXmlSerializationContext& context, CXmlAttribute* attribute) {
-    if (!attribute || attribute->GetLocalName() != m_attributeName)
+    if (!attribute || !SameText(attribute->GetLocalName(), m_attributeName))
         return false;
-    return context.GetIgnoreNamespaces() || attribute->GetNamespaceURI() == m_attributeNamespace;
+    return context.GetIgnoreNamespaces() || SameText(attribute->GetNamespaceURI(), m_attributeNamespace);
 }
 
 bool CAttributeInfo::IsOmitted(const KzVariant& value) const {
@@ -87,7 +88,8 @@ void CAttributeInfoPrimitive::CheckRestriction(KzVariant value) const {
 bool CAttributeInfoPrimitive::AttributeFromXml(const CXmlSerializationContext&, CXmlGeneratedClass* object,
                                                CXmlAttribute* attribute) {
     // Deliberate: the context is not asked, so ignoring namespaces has no power over primitive attributes.
-    if (attribute->GetLocalName() != m_attributeName || attribute->GetNamespaceURI() != m_attributeNamespace)
+    if (!SameText(attribute->GetLocalName(), m_attributeName) ||
+        !SameText(attribute->GetNamespaceURI(), m_attributeNamespace))
         return false;
     KzVariant value;
     value.FromString(attribute->GetValue(), m_itemType, m_whitespaceRule);

@@ -2,6 +2,7 @@
 
 #include "metadata/Messages.h"
 #include "object/NotNull.h"
+#include "object/TextScan.h"
 
 #include <KzXmlLib10/conversions/FacetChecks.h>
 #include <KzXmlLib10/object/CXmlGeneratedClass.h>
@@ -49,9 +50,9 @@ void CElementInfo::CheckRestriction(const KzVariant& value) const {
 }
 
 bool CElementInfo::IsThisElement(const CXmlSerializationContext& context, const CXmlElement* element) const {
-    if (!element || element->GetLocalName() != m_elementName)
+    if (!element || !SameText(element->GetLocalName(), m_elementName))
         return false;
-    return context.GetIgnoreNamespaces() || element->GetNamespaceURI() == m_elementNamespace;
+    return context.GetIgnoreNamespaces() || SameText(element->GetNamespaceURI(), m_elementNamespace);
 }
 
 std::u16string CElementInfo::GetAnyDefaultNamespace(const char16_t* namespaceConstraint,

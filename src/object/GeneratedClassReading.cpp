@@ -75,9 +75,9 @@ void CXmlGeneratedClass::ReadPrimitiveValue(const CXmlElement& element) {
 
 void CXmlGeneratedClass::ProcessAttributesFromXml(const CXmlSerializationContext& context,
                                                   CXmlElement* element, bool failIfUnknown) {
-    std::vector<char> found;
+    std::string found; // which needs no heap for a few flags
     for (CAttributeInfo** entry = GetClassAttributeInfo(); *entry; ++entry)
-        found.push_back(false);
+        found.push_back(0);
     for (CXmlAttribute* attribute : element->GetAttributes()) {
         if (attribute->IsNamespaceAttribute())
             continue;
@@ -103,7 +103,7 @@ void CXmlGeneratedClass::ReadNilAttribute(const CXmlElement& element, const CXml
 }
 
 bool CXmlGeneratedClass::OfferAttribute(const CXmlSerializationContext& context, CXmlAttribute* attribute,
-                                        std::vector<char>& found) {
+                                        std::string& found) {
     CAttributeInfo** table = GetClassAttributeInfo();
     for (std::size_t i = 0; i < found.size(); ++i)
         if (table[i]->AttributeFromXml(context, this, attribute)) {

@@ -3,6 +3,7 @@
 #include <KzXmlLib10/object/CXmlObjectBase.h>
 
 #include "object/NotNull.h"
+#include "object/TextScan.h"
 
 #include <KzXmlLib10/object/CXmlSerializationContext.h>
 #include <KzXmlLib10/xml/CXmlElement.h>
@@ -24,8 +25,8 @@ void CXmlObjectBase::Throw_IfElementNameDiffers(CXmlObjectBase* value, const cha
 
 bool CXmlObjectBase::DoesElementNameMatch(const CXmlSerializationContext& context, const CXmlElement* element,
                                           const char16_t* name, const char16_t* ns) const {
-    return NotNull(element, u"element")->GetLocalName() == NotNull(name, u"name") &&
-           (context.GetIgnoreNamespaces() || element->GetNamespaceURI() == NotNull(ns, u"ns"));
+    return SameText(NotNull(element, u"element")->GetLocalName(), NotNull(name, u"name")) &&
+           (context.GetIgnoreNamespaces() || SameText(element->GetNamespaceURI(), NotNull(ns, u"ns")));
 }
 
 } // namespace KzXmlLib10

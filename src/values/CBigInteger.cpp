@@ -11,7 +11,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <span>
 #include <utility>
 
 namespace KzXmlLib10 {
@@ -49,12 +48,12 @@ std::uint64_t Magnitude(long long value) {
 
 /// The number of low zeros; for zero, of all digits.
 std::size_t LowZeros(const CBigInteger::Digits& digits) {
-    const auto end = std::ranges::find_if(digits, [](std::uint16_t digit) { return digit != 0; });
+    const auto end = std::ranges::find_if(digits, [](char16_t digit) { return digit != 0; });
     return static_cast<std::size_t>(end - digits.begin());
 }
 
 Limbs ToLimbsAbove(const CBigInteger::Digits& digits, std::size_t places) {
-    return ToLimbs(std::span(digits).subspan(places));
+    return ToLimbs(std::u16string_view(digits).substr(places));
 }
 
 /// 32 bits, as the field is wide; unsigned, as signs other than +1 and -1 may overflow.
@@ -120,7 +119,7 @@ std::u16string CBigInteger::ToString() const {
     const std::size_t signs = m_sign == -1 ? 1 : 0;
     std::u16string text(signs + m_digits.size(), u'-');
     std::transform(m_digits.rbegin(), m_digits.rend(), text.begin() + static_cast<std::ptrdiff_t>(signs),
-                   [](std::uint16_t digit) { return static_cast<char16_t>(u'0' + digit); });
+                   [](char16_t digit) { return static_cast<char16_t>(u'0' + digit); });
     return text;
 }
 
@@ -300,7 +299,7 @@ void CBigInteger::Build(std::uint32_t value, Digits& out) { BuildDWORDLONG(value
 void CBigInteger::BuildDWORDLONG(std::uint64_t value, Digits& out) {
     out.clear();
     do {
-        out.push_back(static_cast<std::uint16_t>(value % 10));
+        out.push_back(static_cast<char16_t>(value % 10));
         value /= 10;
     } while (value != 0);
 }
@@ -311,7 +310,7 @@ void CBigInteger::BuildDouble(double value, Digits& out) {
     out.clear();
     double rest = std::ceil(value - 0.5);
     while (rest > 0) {
-        out.push_back(static_cast<std::uint16_t>(std::fmod(rest, 10.0)));
+        out.push_back(static_cast<char16_t>(std::fmod(rest, 10.0)));
         std::modf(rest / 10.0, &rest);
     }
     Clean(out);
@@ -321,7 +320,7 @@ void CBigInteger::Build(std::u16string_view text, Digits& out) {
     const auto end = std::find_if_not(text.rbegin(), text.rend(), IsDigit);
     out.resize(static_cast<std::size_t>(end - text.rbegin()));
     std::transform(text.rbegin(), end, out.begin(),
-                   [](char16_t unit) { return static_cast<std::uint16_t>(unit - u'0'); });
+                   [](char16_t unit) { return static_cast<char16_t>(unit - u'0'); });
     Clean(out);
 }
 
@@ -351,7 +350,7 @@ void CBigInteger::Add(const Digits& a, const Digits& b, Digits& out) {
     for (std::size_t i = 0; i < length; ++i) {
         const unsigned sum = longer[i] + (i < overlap ? shorter[i] : 0u) + carry;
         carry = sum >= 10;
-        out[i] = static_cast<std::uint16_t>(sum - carry * 10);
+        out[i] = static_cast<char16_t>(sum - carry * 10);
     }
     if (carry)
         out.push_back(1);
@@ -366,7 +365,7 @@ void CBigInteger::Subtract(const Digits& a, const Digits& b, Digits& out) {
     for (std::size_t i = 0; i < length; ++i) {
         const unsigned difference = a[i] + 10u - (i < overlap ? b[i] : 0u) - borrow;
         borrow = difference < 10;
-        out[i] = static_cast<std::uint16_t>(borrow ? difference : difference - 10);
+        out[i] = static_cast<char16_t>(borrow ? difference : difference - 10);
     }
     Clean(out);
 }
@@ -376,10 +375,10 @@ void CBigInteger::Multiply(const Digits& a, std::uint16_t digit, Digits& out) {
     unsigned carry = 0;
     for (std::size_t i = 0; i < out.size(); ++i) {
         carry += static_cast<unsigned>(a[i]) * digit;
-        out[i] = static_cast<std::uint16_t>(carry % 10);
+        out[i] = static_cast<char16_t>(carry % 10);
         carry /= 10;
     }
-    out.push_back(static_cast<std::uint16_t>(carry));
+    out.push_back(static_cast<char16_t>(carry));
     Clean(out);
 }
 

@@ -45,7 +45,7 @@ bool IsAboveHalf(const Digits& low, std::size_t places) {
     if (low.size() < places || low.back() < 5)
         return false;
     return low.back() > 5 ||
-           std::any_of(low.begin(), low.end() - 1, [](std::uint16_t digit) { return digit != 0; });
+           std::any_of(low.begin(), low.end() - 1, [](char16_t digit) { return digit != 0; });
 }
 
 void AppendDigits(std::u16string& text, const Digits& digits) {

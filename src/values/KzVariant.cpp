@@ -321,6 +321,10 @@ CDecimal KzVariant::GetDecimal() const { return GetDecimalRef(); }
 CBigInteger KzVariant::GetInteger() const { return GetIntegerRef(); }
 
 const std::u16string& KzVariant::GetStringRef() const { return GetValue<std::u16string>(ItemType_string); }
+// A payload is the variant's own, so the variant decides on whether it can change.
+std::u16string KzVariant::TakeString() { return std::move(const_cast<std::u16string&>(GetStringRef())); }
+CDecimal KzVariant::TakeDecimal() { return std::move(const_cast<CDecimal&>(GetDecimalRef())); }
+
 const CDecimal& KzVariant::GetDecimalRef() const { return GetValue<CDecimal>(ItemType_decimal); }
 const CBigInteger& KzVariant::GetIntegerRef() const { return GetValue<CBigInteger>(ItemType_integer); }
 

@@ -95,7 +95,7 @@ void AddBack(std::uint32_t* rest, const Limbs& b) {
 
 } // namespace
 
-Limbs ToLimbs(std::span<const std::uint16_t> digits) {
+Limbs ToLimbs(std::u16string_view digits) {
     Limbs limbs;
     limbs.reserve(digits.size() / digitsPerLimb + 2);
     for (std::size_t low = 0; low < digits.size(); low += digitsPerLimb) {
@@ -108,11 +108,11 @@ Limbs ToLimbs(std::span<const std::uint16_t> digits) {
     return limbs;
 }
 
-void AppendDigits(const Limbs& limbs, std::vector<std::uint16_t>& digits) {
+void AppendDigits(const Limbs& limbs, std::u16string& digits) {
     digits.reserve(digits.size() + limbs.size() * digitsPerLimb);
     for (std::uint32_t limb : limbs) {
         for (std::size_t i = 0; i < digitsPerLimb; ++i) {
-            digits.push_back(static_cast<std::uint16_t>(limb % 10));
+            digits.push_back(static_cast<char16_t>(limb % 10));
             limb /= 10;
         }
     }

@@ -1,7 +1,8 @@
 #pragma once
 
 #include <cstdint>
-#include <span>
+#include <string>
+#include <string_view>
 #include <vector>
 
 namespace KzXmlLib10 {
@@ -18,10 +19,10 @@ struct LimbQuotient {
 };
 
 /// The limbs of decimal digits, least significant first.
-Limbs ToLimbs(std::span<const std::uint16_t> digits);
+Limbs ToLimbs(std::u16string_view digits);
 
 /// Appends the decimal digits of `limbs`, least significant first and without high zeros.
-void AppendDigits(const Limbs& limbs, std::vector<std::uint16_t>& digits);
+void AppendDigits(const Limbs& limbs, std::u16string& digits);
 
 Limbs MultiplyLimbs(const Limbs& a, const Limbs& b);
 

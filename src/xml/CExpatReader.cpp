@@ -1,5 +1,6 @@
 #include "xml/CExpatReader.h"
 
+#include "object/TextScan.h"
 #include "object/Throw.h"
 #include "xml/Messages.h"
 #include "xml/TreeMemory.h"
@@ -180,8 +181,8 @@ void CExpatReader::PassTextOn() {
 
 void CExpatReader::PassOn(std::u16string_view text) {
     CXmlElement* element = m_document->m_elementStack.back();
-    // There is no NUL in XML. Where no byte is that of a carriage return, none is there either.
-    if (std::memchr(text.data(), '\r', text.size() * sizeof(char16_t)))
+    // There is no NUL in XML, which would have to be looked for too.
+    if (MayHold(text, '\r'))
         m_document->AppendTextExcludingCR(element, text.data(), text.size());
     else
         element->AppendText(text.data(), text.size());

@@ -1,5 +1,6 @@
 #include <KzXmlLib10/xml/CXmlAttribute.h>
 
+#include "object/TextScan.h"
 #include "xml/XmlNamespaces.h"
 
 #include <string_view>
@@ -11,7 +12,7 @@ namespace {
 
 /// The schema-instance or the xmlns namespace.
 bool IsReservedNamespace(std::u16string_view uri) {
-    return uri == schemaInstanceNamespace || uri == xmlnsNamespace;
+    return SameText(uri, schemaInstanceNamespace) || SameText(uri, xmlnsNamespace);
 }
 
 } // namespace

@@ -1,6 +1,6 @@
 #include <KzXmlLib10/xml/CXmlElement.h>
 
-#include "object/SameText.h"
+#include "object/TextScan.h"
 #include "xml/TreeMemory.h"
 
 #include <KzXmlLib10/xml/CXmlDocument.h>

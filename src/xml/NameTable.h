@@ -1,6 +1,6 @@
 #pragma once
 
-#include "object/SameText.h"
+#include "object/TextScan.h"
 
 #include <cstring>
 #include <set>

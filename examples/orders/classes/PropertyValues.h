@@ -61,24 +61,24 @@ void ToVariant(const Nillable<T>& member, KzVariant& value) {
         ToVariant(member.Get(), value);
 }
 
-inline void FromVariant(const KzVariant& value, std::u16string& member) { member = value.GetStringRef(); }
+inline void FromVariant(KzVariant& value, std::u16string& member) { member = value.TakeString(); }
 inline void FromVariant(const KzVariant& value, std::int32_t& member) { member = value.GetI4(); }
 inline void FromVariant(const KzVariant& value, double& member) { member = value.GetR8(); }
 inline void FromVariant(const KzVariant& value, bool& member) { member = value.GetBoolean(); }
-inline void FromVariant(const KzVariant& value, CDecimal& member) { member = value.GetDecimalRef(); }
+inline void FromVariant(KzVariant& value, CDecimal& member) { member = value.TakeDecimal(); }
 inline void FromVariant(const KzVariant& value, CDateTime& member) { member = value.GetDateTime(); }
 template <class T>
 requires std::is_enum_v<T>
 void FromVariant(const KzVariant& value, T& member) { member = static_cast<T>(value.GetI4()); }
 template <class T>
-void FromVariant(const KzVariant& value, std::optional<T>& member) {
+void FromVariant(KzVariant& value, std::optional<T>& member) {
     if (value.IsValid())
         FromVariant(value, member.emplace());
     else
         member.reset();
 }
 template <class T>
-void FromVariant(const KzVariant& value, Nillable<T>& member) {
+void FromVariant(KzVariant& value, Nillable<T>& member) {
     if (value.IsNil()) {
         member = Nillable<T>();
     } else {

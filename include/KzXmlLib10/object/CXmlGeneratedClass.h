@@ -4,7 +4,7 @@
 #include <KzXmlLib10/object/CKZCriticalSection.h>
 #include <KzXmlLib10/object/CXmlObjectBase.h>
 
-#include <vector>
+#include <string>
 
 namespace KzXmlLib10 {
 
@@ -99,7 +99,7 @@ private:
     void ReadPrimitiveValue(const CXmlElement& element);
     void ReadNilAttribute(const CXmlElement& element, const CXmlAttribute& attribute);
     bool OfferAttribute(const CXmlSerializationContext& context, CXmlAttribute* attribute,
-                        std::vector<char>& found);
+                        std::string& found);
     CXmlElement* ProcessElementSeqFromXml(const CXmlSerializationContext& context, CXmlElement* element,
                                           CXmlElement* current, KzXmlLib10Data::XmlElementType type);
 

@@ -7,7 +7,6 @@
 #include <cstdint>
 #include <string>
 #include <string_view>
-#include <vector>
 
 namespace KzXmlLib10 {
 
@@ -26,8 +25,9 @@ namespace KzXmlLib10 {
 /// its sign.
 class QUILLON_EXPORT CBigInteger {
 public:
-    /// Decimal digits 0 to 9, one in each unit, least significant first.
-    using Digits = std::vector<std::uint16_t>;
+    /// Decimal digits 0 to 9, one in each unit, least significant first. Not their characters: a string holds
+    /// them because it needs no heap for the few that most numbers have.
+    using Digits = std::u16string;
 
     /// Zero.
     CBigInteger();

@@ -110,6 +110,8 @@ public:
     std::u16string GetString() const;
     /// The text itself, valid until the variant changes.
     const std::u16string& GetStringRef() const;
+    /// Moves the text out, and leaves an empty one. For generated classes, which need not copy it.
+    std::u16string TakeString();
 
     // Setters move the value in; getters copy it.
 
@@ -138,6 +140,8 @@ public:
     /// The numbers themselves, valid until the variant changes.
     const CDecimal& GetDecimalRef() const;
     const CBigInteger& GetIntegerRef() const;
+    /// Moves the number out, and leaves one to be assigned or destroyed.
+    CDecimal TakeDecimal();
 
     /// Adds a reference to the object, which may be null.
     void SetXmlObject(CXmlObjectBase* object);
