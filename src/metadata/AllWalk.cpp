@@ -20,8 +20,7 @@ CXmlElement* CXmlGeneratedClass::ProcessElementAllFromXml(const CXmlSerializatio
         before = current;
         for (std::size_t i = 0; i < found.size(); ++i)
             if (!found[i])
-                found[i] = GetClassElementInfo()[i]->ElementFromXml(context, this, element, &current,
-                                                                    GetNamespace().c_str(), type);
+                found[i] = OfferElement(context, i, element, current, type);
     }
     for (std::size_t i = 0; i < found.size(); ++i)
         if (!GetClassElementInfo()[i]->Validate(context, this, found[i], type == XmlElementType_Element))

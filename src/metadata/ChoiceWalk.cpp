@@ -66,8 +66,7 @@ bool CXmlGeneratedClass::FindChoice(const CXmlSerializationContext& context, CXm
     const int count = GetClassElementInfoCount();
     for (;;) {
         for (int i = 0; i < count; ++i)
-            if (GetClassElementInfo()[i]->ElementFromXml(context, this, element, &current,
-                                                         GetNamespace().c_str(), type))
+            if (OfferElement(context, static_cast<std::size_t>(i), element, current, type))
                 return true;
         // Only a class with a tag of its own skips unknown children in search of a member.
         if (!current || !context.GetIgnoreUnknownElements() || type != XmlElementType_Element)

@@ -113,6 +113,14 @@ bool CXmlGeneratedClass::OfferAttribute(const CXmlSerializationContext& context,
     return false;
 }
 
+bool CXmlGeneratedClass::OfferElement(const CXmlSerializationContext& context, std::size_t index,
+                                      CXmlElement* element, CXmlElement*& current, XmlElementType type) {
+    CElementInfo* entry = GetClassElementInfo()[index];
+    // Fetched for each call, but not for a descriptor that does not look at it.
+    const std::u16string ns = entry->HeedsOwnerNamespace() ? GetNamespace() : std::u16string();
+    return entry->ElementFromXml(context, this, element, &current, ns.c_str(), type);
+}
+
 CXmlElement* CXmlGeneratedClass::ProcessElementSeqFromXml(const CXmlSerializationContext& context,
                                                           CXmlElement* element, CXmlElement* current,
                                                           XmlElementType type) {
@@ -122,8 +130,7 @@ CXmlElement* CXmlGeneratedClass::ProcessElementSeqFromXml(const CXmlSerializatio
     int resume = 0; // the descriptor that moved the position last gets the next look
     for (;;) {
         for (int i = resume; i < count; ++i) {
-            while (!GetClassElementInfo()[i]->ElementFromXml(context, this, element, &current,
-                                                             GetNamespace().c_str(), type)) {
+            while (!OfferElement(context, static_cast<std::size_t>(i), element, current, type)) {
                 if (!context.GetIgnoreUnknownElements() || !current)
                     return start;
                 current = current->GetNextSiblingElement();

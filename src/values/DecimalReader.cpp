@@ -39,7 +39,7 @@ DecimalText DecimalReader::Read() {
 void DecimalReader::ReadInteger() {
     for (; *m_at && *m_at != u'.' && !StartsExponent(*m_at); ++m_at) {
         if (IsDigit(*m_at))
-            m_parts.integerDigits += *m_at;
+            m_at = AppendDigits(m_parts.integerDigits) - 1;
         else if (IsSign(*m_at))
             m_parts.negative = *m_at == u'-'; // Deliberate: wherever it stands, the last one counting
         else if (!CWhitespaceUtils::IsWhiteSpace(*m_at))
@@ -50,8 +50,17 @@ void DecimalReader::ReadInteger() {
 void DecimalReader::ReadFraction() {
     for (; IsDigit(*m_at) || CWhitespaceUtils::IsWhiteSpace(*m_at); ++m_at) {
         if (IsDigit(*m_at))
-            m_parts.fractionDigits += *m_at;
+            m_at = AppendDigits(m_parts.fractionDigits) - 1;
     }
+}
+
+/// Appends the digits that stand here. Returns the place behind them.
+const char16_t* DecimalReader::AppendDigits(std::u16string& digits) const {
+    const char16_t* end = m_at;
+    while (IsDigit(*end))
+        ++end;
+    digits.append(m_at, end);
+    return end;
 }
 
 void DecimalReader::ReadExponent() {

@@ -27,6 +27,7 @@ private:
     void ReadInteger();
     void ReadFraction();
     void ReadExponent();
+    const char16_t* AppendDigits(std::u16string& digits) const;
     [[noreturn]] void Refuse() const;
 
     const char16_t* m_text;

@@ -32,14 +32,12 @@ struct Name {
 /// Splits a name as expat gives it, URI, separator and local name or the local name alone, at the first
 /// separator. If the URI is the likely one, it is that very text.
 Name SplitName(const char16_t* name, std::u16string_view likely) {
+    std::size_t alike = 0;
+    while (alike < likely.size() && name[alike] == likely[alike])
+        ++alike;
+    if (alike == likely.size() && name[alike] == NamespaceSeparator)
+        return {likely, std::u16string_view(name + alike + 1)};
     const char16_t* at = name;
-    for (const char16_t unit : likely) {
-        if (*at != unit)
-            break;
-        ++at;
-    }
-    if (*at == NamespaceSeparator && static_cast<std::size_t>(at - name) == likely.size())
-        return {likely, std::u16string_view(at + 1)};
     while (*at != u'\0' && *at != NamespaceSeparator)
         ++at;
     if (*at == u'\0')
@@ -161,8 +159,7 @@ std::u16string_view CExpatReader::LikelyNamespace() const {
 }
 
 /// Expat reports each line end by itself, so pieces of text are gathered as far as the buffer takes them.
-void CExpatReader::AppendText(std::u16string_view text) {
-    m_budget.Charge(text.size());
+inline void CExpatReader::AppendText(std::u16string_view text) {
     const std::size_t capacity = m_bufferSize / sizeof(char16_t);
     if (text.size() > capacity - m_textSize) {
         PassTextOn();
@@ -180,6 +177,7 @@ void CExpatReader::PassTextOn() {
 }
 
 void CExpatReader::PassOn(std::u16string_view text) {
+    m_budget.Charge(text.size());
     CXmlElement* element = m_document->m_elementStack.back();
     // There is no NUL in XML, which would have to be looked for too.
     if (MayHold(text, '\r'))

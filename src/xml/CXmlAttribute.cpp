@@ -12,7 +12,8 @@ namespace {
 
 /// The schema-instance or the xmlns namespace.
 bool IsReservedNamespace(std::u16string_view uri) {
-    return SameText(uri, schemaInstanceNamespace) || SameText(uri, xmlnsNamespace);
+    constexpr std::u16string_view schemaInstance = schemaInstanceNamespace, xmlns = xmlnsNamespace;
+    return SameText(uri, schemaInstance) || SameText(uri, xmlns);
 }
 
 } // namespace

@@ -18,7 +18,9 @@ public:
              ItemType itemType, const char16_t* formatOverride,
              CWhitespaceUtils::WhitespaceRule whitespaceRule, const CPrimitiveRestrictions& restrictions)
         : Group(name, namespaceUri, propertyIndex, nillable, itemType, formatOverride, whitespaceRule,
-                restrictions) {}
+                restrictions) {
+        this->m_heedsOwnerNamespace = false;
+    }
 
     bool ElementToXml(const CXmlSerializationContext& context, const CXmlGeneratedClass* object,
                       CXmlWriter* writer) const override {
@@ -33,7 +35,9 @@ public:
     EnumKind(const char16_t* name, const char16_t* namespaceUri, int propertyIndex, bool nillable,
              EnumToString enumToString, StringToEnum stringToEnum)
         : Group(name, namespaceUri, propertyIndex, nillable), m_enumToString(enumToString),
-          m_stringToEnum(stringToEnum) {}
+          m_stringToEnum(stringToEnum) {
+        this->m_heedsOwnerNamespace = false;
+    }
 
     bool ElementToXml(const CXmlSerializationContext& context, const CXmlGeneratedClass* object,
                       CXmlWriter* writer) const override {
@@ -61,7 +65,9 @@ public:
 protected:
     ObjectKind(const char16_t* name, const char16_t* namespaceUri, int propertyIndex,
                XmlElementType elementType)
-        : Group(name, namespaceUri, propertyIndex), m_elementType(elementType) {}
+        : Group(name, namespaceUri, propertyIndex), m_elementType(elementType) {
+        this->m_heedsOwnerNamespace = false;
+    }
 
     XmlElementType m_elementType;
 };
@@ -119,7 +125,9 @@ class QUILLON_EXPORT ObjectsKind : public Collection {
 public:
     ObjectsKind(const char16_t* name, const char16_t* namespaceUri, int propertyIndex,
                 XmlElementType elementType)
-        : Collection(name, namespaceUri, propertyIndex), m_elementType(elementType) {}
+        : Collection(name, namespaceUri, propertyIndex), m_elementType(elementType) {
+        this->m_heedsOwnerNamespace = false;
+    }
 
     void PseudoChildAttributeToXml(const CXmlSerializationContext& context, const CXmlGeneratedClass* object,
                                    CXmlWriter* writer) const override {

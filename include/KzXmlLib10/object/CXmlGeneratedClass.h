@@ -4,6 +4,7 @@
 #include <KzXmlLib10/object/CKZCriticalSection.h>
 #include <KzXmlLib10/object/CXmlObjectBase.h>
 
+#include <cstddef>
 #include <string>
 
 namespace KzXmlLib10 {
@@ -100,6 +101,8 @@ private:
     void ReadNilAttribute(const CXmlElement& element, const CXmlAttribute& attribute);
     bool OfferAttribute(const CXmlSerializationContext& context, CXmlAttribute* attribute,
                         std::string& found);
+    bool OfferElement(const CXmlSerializationContext& context, std::size_t index, CXmlElement* element,
+                      CXmlElement*& current, KzXmlLib10Data::XmlElementType type);
     CXmlElement* ProcessElementSeqFromXml(const CXmlSerializationContext& context, CXmlElement* element,
                                           CXmlElement* current, KzXmlLib10Data::XmlElementType type);
 
