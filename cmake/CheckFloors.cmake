@@ -19,9 +19,9 @@ set(floor_of_fastinfoset 8)
 set(floor_of_edges 9)
 
 set(headers_of_floor_0
-    object/CInstanceMonitor object/CKZCriticalSection object/CKzException object/CSmartPtr object/CurrentLimit
+    object/AddressSanitizer object/CInstanceMonitor object/CKZCriticalSection object/CKzException object/CSmartPtr object/CurrentLimit
     object/Enumerations object/Export object/FormatString object/Fwd object/IEventSink object/INillable
-    object/ItemType object/Limits object/Messages object/SupportContact object/Text object/Throw object/Utf8
+    object/ItemType object/Limits object/Messages object/SupportContact object/Text object/TextScan object/Throw object/Utf8
     metadata/XmlElementType)
 set(headers_of_floor_1
     conversions/CPrimitiveRestrictions conversions/CWhitespaceUtils conversions/XsdPattern)

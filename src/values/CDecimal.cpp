@@ -101,7 +101,8 @@ CBigInteger CDecimal::Scaled() const {
 }
 
 void CDecimal::Parse(const char16_t* text) {
-    const DecimalText parts = DecimalReader(NotNull(text, u"text")).Read();
+    DecimalReader reader(NotNull(text, u"text"));
+    const DecimalText& parts = reader.Read();
     CBigInteger::Build(parts.integerDigits, m_integral.m_digits);
     CBigInteger::Build(parts.fractionDigits, m_fractional.m_digits);
     m_divider = std::max(1, static_cast<int>(parts.fractionDigits.size()));

@@ -7,7 +7,6 @@
 #include "values/Messages.h"
 
 #include <algorithm>
-#include <utility>
 
 namespace KzXmlLib10 {
 
@@ -21,7 +20,7 @@ bool StartsExponent(char16_t unit) { return unit == u'e' || unit == u'E'; }
 
 } // namespace
 
-DecimalText DecimalReader::Read() {
+const DecimalText& DecimalReader::Read() {
     ReadInteger();
     if (*m_at == u'.') {
         ++m_at;
@@ -33,7 +32,7 @@ DecimalText DecimalReader::Read() {
     }
     if (*m_at)
         Refuse();
-    return std::move(m_parts);
+    return m_parts;
 }
 
 void DecimalReader::ReadInteger() {

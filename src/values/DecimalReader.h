@@ -21,7 +21,8 @@ public:
     explicit DecimalReader(const char16_t* text) : m_text(text), m_at(text) {}
 
     /// Throws CKzInvalidValueException with the position of the first character that no stage takes.
-    DecimalText Read();
+    /// What it returns belongs to the reader.
+    const DecimalText& Read();
 
 private:
     void ReadInteger();
