@@ -85,17 +85,13 @@ bool CFIVocabulary::FindLocalNameIndex(const std::u16string& localName, std::uin
     return FindIndex(m_localNameIndex, localName, index);
 }
 
-template <class Key>
-bool CFIVocabulary::FindIndex(const IndexMap& map, const Key& key, std::uint32_t& index) {
+bool CFIVocabulary::FindIndex(const IndexMap& map, const std::u16string& key, std::uint32_t& index) {
     const auto found = map.find(key);
     if (found == map.end())
         return false;
     index = found->second;
     return true;
 }
-
-template bool CFIVocabulary::FindIndex(const IndexMap&, const std::u16string&, std::uint32_t&);
-template bool CFIVocabulary::FindIndex(const IndexMap&, const CQName&, std::uint32_t&);
 
 /// Compares a key with that of a name, which is as long.
 int CFIVocabulary::CQName::CompareKey(std::u16string_view key) const {

@@ -193,11 +193,29 @@ void CFastInfosetWriter::WriteXsiNil() {
     WriteAttribute(u"nil", schemaInstanceNamespace, u"true", ItemType_boolean);
 }
 
+template <class Table, class Name>
+bool CFastInfosetWriter::FindName(const Table& table, RecentNames& recent, const Name& name,
+                                  std::uint32_t& index) {
+    const std::u16string_view local = name.localName;
+    const std::size_t place = local.empty() ? 0
+                                            : local.size() + 3u * local.front() + 11u * local.back() +
+                                                  23u * local[local.size() / 2];
+    auto*& entry = recent[place % recent.size()];
+    if (!entry || entry->first.size() != name.KeyLength() || name.CompareKey(entry->first) != 0) {
+        const auto found = table.find(name);
+        if (found == table.end())
+            return false;
+        entry = &*found; // which stays where it is
+    }
+    index = entry->second;
+    return true;
+}
+
 void CFastInfosetWriter::WriteElementName(unsigned char flag, const std::u16string& prefix,
                                           const std::u16string& uri, const std::u16string& localName) {
     const CFIVocabulary::CQName name{prefix, uri, localName};
     std::uint32_t index;
-    if (CFIVocabulary::FindIndex(m_vocabulary->m_elementNameIndex, name, index))
+    if (FindName(m_vocabulary->m_elementNameIndex, m_recentElementNames, name, index))
         return WriteIntegerBit3(flag, index);
     WriteQName(flag | LiteralElementName, prefix, uri, localName);
     CFIVocabulary::AddValueToMap(name.Key(), m_vocabulary->m_elementNameIndex);
@@ -207,7 +225,7 @@ void CFastInfosetWriter::WriteAttributeName(const std::u16string& prefix, const 
                                             const std::u16string& localName) {
     const CFIVocabulary::CQName name{prefix, uri, localName};
     std::uint32_t index;
-    if (CFIVocabulary::FindIndex(m_vocabulary->m_attributeNameIndex, name, index))
+    if (FindName(m_vocabulary->m_attributeNameIndex, m_recentAttributeNames, name, index))
         return WriteIntegerBit2(0, index);
     WriteQName(LiteralAttributeName, prefix, uri, localName);
     CFIVocabulary::AddValueToMap(name.Key(), m_vocabulary->m_attributeNameIndex);

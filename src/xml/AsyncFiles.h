@@ -29,7 +29,8 @@ struct SystemCalls {
 
 extern SystemCalls systemCalls;
 
-/// The length of the blocks in which AsyncFromXmlFile has files read. Only tests change it, to move the edges.
+/// The length of the blocks in which AsyncFromXmlFile has files read. Only tests change it, to move the
+/// edges.
 extern std::uint32_t readBlockSize;
 
 /// One open file with at most one read or write in flight. Nothing else in the library calls the system for

@@ -131,9 +131,7 @@ private:
     bool FindPrefixNameIndex(const std::u16string& prefix, std::uint32_t& index) const;
     bool FindNamespaceNameIndex(const std::u16string& namespaceName, std::uint32_t& index) const;
     bool FindLocalNameIndex(const std::u16string& localName, std::uint32_t& index) const;
-    /// `key` is a text or a CQName.
-    template <class Key>
-    static bool FindIndex(const IndexMap& map, const Key& key, std::uint32_t& index);
+    static bool FindIndex(const IndexMap& map, const std::u16string& key, std::uint32_t& index);
 
     static void AddValueToMap(const std::u16string& value, IndexMap& map);
     static void AddValueToVector(const std::u16string& value, std::vector<std::u16string>& vector);

@@ -4,10 +4,12 @@
 #include <KzXmlLib10/object/Fwd.h>
 #include <KzXmlLib10/xml/CXmlWriter.h>
 
+#include <array>
 #include <cstdint>
 #include <memory>
 #include <string>
 #include <string_view>
+#include <utility>
 
 namespace KzXmlLib10 {
 
@@ -59,6 +61,10 @@ public:
 private:
     friend class CXmlObjectBase;
 
+    /// Entries of a table of names that were found last, each at a place that its name tells: nearly all
+    /// elements have a name that was there before.
+    using RecentNames = std::array<const std::pair<const std::u16string, std::uint32_t>*, 64>;
+
     void WriteHeader(FInfoDecl declaration);
     void WriteDocumentEnd();
 
@@ -71,6 +77,9 @@ private:
                           const std::u16string& localName);
     void WriteAttributeName(const std::u16string& prefix, const std::u16string& uri,
                             const std::u16string& localName);
+    /// Looks a name up in a table of the vocabulary.
+    template <class Table, class Name>
+    static bool FindName(const Table& table, RecentNames& recent, const Name& name, std::uint32_t& index);
     void WriteQName(unsigned char literal, const std::u16string& prefix, const std::u16string& uri,
                     const std::u16string& localName);
     void WritePrefixName(const std::u16string& prefix);
@@ -98,6 +107,8 @@ private:
     std::unique_ptr<CXmlWriterContext> m_pendingContext;
     bool m_pendingTerminator = false;
     std::unique_ptr<CFIVocabulary> m_vocabulary;
+    RecentNames m_recentElementNames{};
+    RecentNames m_recentAttributeNames{};
     /// The bytes of the string that is being written, kept for their memory.
     std::string m_octets;
 };
