@@ -2,6 +2,8 @@
 
 # Packages of Debian 12 that a build of the library and its tests needs.
 build_packages=(g++ cmake ninja-build pkg-config libexpat1-dev libpcre2-dev zlib1g-dev libgtest-dev libcli11-dev)
+# What the benchmarks need besides.
+benchmark_packages=(libbenchmark-dev python3 valgrind)
 
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 logs=build/logs
