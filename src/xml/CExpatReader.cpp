@@ -68,9 +68,9 @@ void CExpatReader::Initialize(const char16_t* protocolEncoding) {
 
     m_buffer = std::make_unique<unsigned char[]>(m_bufferSize);
     const XML_Char* encoding = expat::Text(protocolEncoding);
-    m_parser.reset(m_document->m_schemaType == SchemaType_NoNamespaces
-                       ? XML_ParserCreate(encoding)
-                       : XML_ParserCreateNS(encoding, NamespaceSeparator));
+    const bool hasNamespaces = m_document->m_schemaType != SchemaType_NoNamespaces;
+    m_parser.reset(XML_ParserCreate_MM(encoding, &expat::memory,
+                                       hasNamespaces ? expat::Text(&NamespaceSeparator) : nullptr));
     if (!m_parser)
         throw std::bad_alloc();
 
@@ -87,6 +87,7 @@ void CExpatReader::ParseChunk(bool isFinal, std::uint64_t handedIn) {
     const char* next = reinterpret_cast<const char*>(m_document->m_buffer.get());
     std::uint32_t left = m_document->m_bufferSize;
     m_budget.Extend(handedIn, left);
+    expat::wasRefusedMemory = false;
     do {
         const std::uint32_t slice = std::min(left, SliceSize);
         left -= slice;
@@ -108,6 +109,8 @@ void CExpatReader::RenewBudget(std::uint64_t handedIn, std::uint64_t parsed) {
 void CExpatReader::Fail() {
     if (m_failure)
         std::rethrow_exception(std::exchange(m_failure, nullptr));
+    if (std::exchange(expat::wasRefusedMemory, false))
+        throw std::bad_alloc();
     const std::u16string error = expat::ErrorText(XML_GetErrorCode(m_parser.get()));
     const std::int32_t line = Line(XML_GetCurrentLineNumber(m_parser.get()));
     m_buffer.reset();

@@ -5,6 +5,8 @@
 
 #include <expat.h>
 
+#include <cstddef>
+#include <cstdlib>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -40,6 +42,21 @@ inline std::u16string ErrorText(XML_Error code) {
     const std::string_view text = XML_ErrorString(code);
     return std::u16string(text.begin(), text.end());
 }
+
+/// Whether expat was refused memory on this thread. It takes some refusals for faults of the document, such
+/// as an unbound prefix.
+inline thread_local bool wasRefusedMemory = false;
+
+inline void* Noted(void* block) {
+    wasRefusedMemory |= !block;
+    return block;
+}
+
+inline constexpr XML_Memory_Handling_Suite memory = {
+    [](std::size_t size) { return Noted(std::malloc(size)); },
+    [](void* block, std::size_t size) { return Noted(std::realloc(block, size)); },
+    [](void* block) { std::free(block); },
+};
 
 struct Free {
     void operator()(XML_Parser parser) const noexcept { XML_ParserFree(parser); }
