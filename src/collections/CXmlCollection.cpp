@@ -1,6 +1,6 @@
 #include <KzXmlLib10/collections/CXmlCollection.h>
 
-#include "collections/Messages.h"
+#include "collections/ItemIndex.h"
 #include "object/NotNull.h"
 
 namespace KzXmlLib10 {
@@ -57,10 +57,7 @@ CXmlCollection::~CXmlCollection() {
 
 int CXmlCollection::GetCount() const { return m_count; }
 
-void CXmlCollection::Clear() {
-    while (m_count > 0)
-        Remove(0);
-}
+void CXmlCollection::Clear() { RemoveAll(*this); }
 
 void CXmlCollection::Remove(int index) { RemoveNode(GetNodeAtIndex(index)); }
 

@@ -85,10 +85,7 @@ CdatetimeBaseCol::~CdatetimeBaseCol() = default;
 
 int CdatetimeBaseCol::GetCount() const { return m_items.GetCount(); }
 
-void CdatetimeBaseCol::Clear() {
-    while (m_items.GetCount() > 0)
-        Remove(0);
-}
+void CdatetimeBaseCol::Clear() { RemoveAll(*this); }
 
 void CdatetimeBaseCol::Remove(int index) {
     FireOnCollectionRemove(index); // Deliberate: also for an index that is refused below.

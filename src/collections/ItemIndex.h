@@ -22,4 +22,17 @@ inline void RequireItemIndex(int index, int count) {
         Throw<CKzInvalidParamException>(messages::ItemIndexOutOfRange, index, count);
 }
 
+/// Removes the first item until none is left. A removal may be in vain, where a listener adds an item again;
+/// throws CKzInvalidStateException where it always is, as under a derived Remove that does nothing.
+template <class Collection>
+void RemoveAll(Collection& collection) {
+    constexpr int patience = 1'000'000;
+    int inVain = 0;
+    for (int count; (count = collection.GetCount()) > 0;) {
+        collection.Remove(0);
+        if (collection.GetCount() >= count && ++inVain == patience)
+            Throw<CKzInvalidStateException>(messages::ItemsStay, count);
+    }
+}
+
 } // namespace KzXmlLib10

@@ -16,6 +16,7 @@ inline constexpr char16_t MinimumNotReached[] =
 inline constexpr char16_t InsertIndexOutOfRange[] = u"Index out of range";
 inline constexpr char16_t ItemIndexOutOfRange[] = u"Index %d is out of range, use 0 - %d";
 inline constexpr char16_t CollectionFull[] = u"A collection cannot hold more than %d items";
+inline constexpr char16_t ItemsStay[] = u"The collection cannot be cleared; %d items stay";
 inline constexpr char16_t ItemNotFound[] = u"The object was not found in the collection";
 inline constexpr char16_t NotOfKindDateTime[] = u"Dates added to this collection must be of type dt_dateTime";
 inline constexpr char16_t NotOfKindDate[] = u"Dates added to this collection must be of type dt_date";

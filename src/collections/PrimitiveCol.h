@@ -82,8 +82,7 @@ int CPrimitiveCol<Collection, T>::GetCount() const {
 
 template <class Collection, class T>
 void CPrimitiveCol<Collection, T>::Clear() {
-    while (m_items.GetCount() > 0)
-        Remove(0);
+    RemoveAll(*this);
 }
 
 template <class Collection, class T>

@@ -265,6 +265,16 @@ TEST(TypedCols, ClearIsLinearAlsoWhereSomebodyListens) {
     ExpectLinearClear<CdateCol>(CDateTime(2001, 5, 6));
 }
 
+TEST(TypedCols, ClearEndsWhereRemovalsAreInVain) {
+    struct CStubbornCol : Ci4Col {
+        using Ci4Col::Ci4Col;
+        void Remove(int) override {}
+    };
+    auto items = Make<CStubbornCol>();
+    items.Add(1);
+    EXPECT_EQ(InvalidState([&] { items.Clear(); }), "The collection cannot be cleared; 1 items stay");
+}
+
 TEST(TypedCols, HoldWhatAVectorWouldHold) {
     std::minstd_rand random(1);
     auto items = Make<Ci4Col>();
