@@ -3,7 +3,7 @@
 //     hostile_test [--size BYTES] [--bombs 1] [--only NAME]
 //
 // Each shape is made at the size and at eight times the size (1 MiB unless given), and read in a process of
-// its own. --bombs 1 adds a megabyte of gzip that holds a gigabyte.
+// its own. --bombs 1 adds a few megabytes of gzip that hold gigabytes.
 #include "faults/Report.h"
 #include "support/Bytes.h"
 #include "support/Model.h"
@@ -347,12 +347,12 @@ void MeasureShape(const Shape& shape, std::size_t size) {
                 eight.outcome);
 }
 
-/// A megabyte of gzip that holds a gigabyte.
-void MeasureBomb(const char* name, std::string_view unit) {
+/// A few megabytes of gzip that hold gigabytes.
+void MeasureBomb(const char* name, std::string_view unit, int mebibytes) {
     const auto bomb = [=](std::size_t) {
         CBinaryData data;
         const std::string elements = Repeated(unit, 1 << 20);
-        for (int i = 0; i < 1023; ++i)
+        for (int i = 0; i < mebibytes; ++i)
             data.Append(reinterpret_cast<const unsigned char*>(elements.data()), elements.size());
         Compress(data, CompressionType_GZip);
         return support::FromBinary(data);
@@ -448,8 +448,12 @@ int main(int argc, char** argv) {
     if (only.empty())
         MeasureValues();
     if (faults::Option(argc, argv, "--bombs", 0) != 0) {
-        MeasureBomb("bomb of elements", "<a/>");
-        MeasureBomb("bomb of text", "x");
+        MeasureBomb("bomb of elements", "<a/>", 1023);
+        MeasureBomb("bomb of text", "x", 1023);
+        MeasureBomb("bomb beyond the limit", "x", 1025);
+        limits.inflatedBytes = 0xFFFFFFFF;
+        SetLimits(limits);
+        MeasureBomb("comments beyond 2 GiB", "<!--x-->", 2200);
     }
     return report.ExitCode();
 }

@@ -1,0 +1,150 @@
+// Every system call of every scenario with files fails in every way that it can.
+#include "faults/Report.h"
+#include "faults/Scenarios.h"
+#include "support/TempDir.h"
+#include "xml/AsyncFiles.h"
+
+#include <KzXmlLib10/KzXmlLib10.h>
+
+#include <cerrno>
+#include <cstddef>
+#include <string>
+
+using KzXmlLib10::CKzException;
+using KzXmlLib10::systemCalls;
+using KzXmlLib10::SystemCalls;
+using KzXmlLib10::ToUtf8;
+
+namespace {
+
+faults::Report report;
+const SystemCalls real = systemCalls;
+
+enum Fault { Eio, Enospc, Eintr, Short, Zero };
+constexpr const char* names[] = {"EIO", "ENOSPC", "EINTR", "short", "zero"};
+constexpr int errors[] = {EIO, ENOSPC, EINTR, 0, 0};
+
+long calls, faultyCall;
+Fault fault;
+/// Why the call failed in the end, or 0 if it must not have mattered.
+int cause;
+
+/// Whether this call is the faulty one and fails with an error.
+bool Fails(bool matters) {
+    if (++calls != faultyCall || fault > Eintr)
+        return false;
+    errno = errors[fault];
+    cause = matters && fault != Eintr ? errno : 0;
+    return true;
+}
+
+template <class Transfer>
+ssize_t Transferred(std::size_t length, int causeOfZero, Transfer transfer) {
+    if (calls + 1 == faultyCall && fault > Eintr) {
+        ++calls;
+        if (fault == Short)
+            return transfer(length > 1 ? length - 1 : length);
+        cause = causeOfZero;
+        return 0;
+    }
+    return Fails(true) ? -1 : transfer(length);
+}
+
+void InstallFaultyCalls() {
+    systemCalls.open = [](const char* name, int flags, mode_t mode) {
+        return Fails(true) ? -1 : real.open(name, flags, mode);
+    };
+    systemCalls.fstat = [](int file, struct stat* status) {
+        const bool fails = Fails(true);
+        if (fails && fault == Eintr)
+            cause = EINTR; // which fstat never gives
+        return fails ? -1 : real.fstat(file, status);
+    };
+    systemCalls.advise = [](int file, off_t offset, off_t length, int advice) {
+        return Fails(false) ? errno : real.advise(file, offset, length, advice);
+    };
+    systemCalls.pread = [](int file, void* buffer, std::size_t length, off_t offset) {
+        return Transferred(length, KzXmlLib10::AsyncFile::EndOfFile,
+                           [&](std::size_t n) { return real.pread(file, buffer, n, offset); });
+    };
+    systemCalls.pwrite = [](int file, const void* bytes, std::size_t length, off_t offset) {
+        return Transferred(length, EIO, [&](std::size_t n) { return real.pwrite(file, bytes, n, offset); });
+    };
+    systemCalls.close = [](int file) {
+        const int result = real.close(file); // it is closed in any case
+        return Fails(true) ? -1 : result;
+    };
+}
+
+std::string Outcome(const faults::Scenario& scenario) {
+    try {
+        return scenario.run();
+    } catch (const CKzException& failure) {
+        return ToUtf8(failure.GetFullMessage());
+    }
+}
+
+/// Whether a message is one of those about files, with the number of the cause.
+bool Reports(const std::string& message, int error) {
+    char number[32];
+    std::snprintf(number, sizeof number, "rror [0x%08x]", static_cast<unsigned>(error));
+    std::string lower = message;
+    for (char& c : lower)
+        c = c >= 'A' && c <= 'F' ? static_cast<char>(c + 32) : c;
+    return lower.find("failed to ") != lower.npos && lower.ends_with(number);
+}
+
+struct Tally {
+    long points = 0, reported = 0, correct = 0, wrong = 0;
+    double slowest = 0;
+};
+
+/// Runs with one fault; false if there is no such call.
+bool RunWithFault(const faults::Scenario& scenario, const std::string& expected, Tally& tally) {
+    calls = cause = 0;
+    const auto descriptors = KzXmlLib10::support::OpenDescriptors();
+    std::string outcome;
+    InstallFaultyCalls();
+    tally.slowest = std::max(tally.slowest, faults::Seconds([&] { outcome = Outcome(scenario); }));
+    systemCalls = real;
+    if (calls < faultyCall)
+        return false;
+    ++tally.points;
+    const bool isReported = cause != 0 && Reports(outcome, cause);
+    // An error of closing a file that was only read does not matter.
+    const bool isCorrect = outcome == expected;
+    tally.reported += isReported;
+    tally.correct += isCorrect;
+    const bool isGood = (isReported || isCorrect) && (cause != 0 || isCorrect) &&
+                        KzXmlLib10::support::OpenDescriptors() == descriptors &&
+                        Outcome(scenario) == expected;
+    if (!isGood && ++tally.wrong == 1)
+        std::printf("      %s, call %ld, %s: %.200s\n", scenario.name, faultyCall, names[fault],
+                    outcome.c_str());
+    return true;
+}
+
+} // namespace
+
+int main() {
+    KzXmlLib10::Register(10, 1);
+    long points = 0;
+    for (const faults::Scenario& scenario : faults::Scenarios()) {
+        if (!scenario.usesFiles)
+            continue;
+        scenario.run();
+        const std::string expected = Outcome(scenario);
+        Tally tally;
+        for (const Fault each : {Eio, Enospc, Eintr, Short, Zero}) {
+            fault = each;
+            for (faultyCall = 1; RunWithFault(scenario, expected, tally); ++faultyCall)
+                continue;
+        }
+        points += tally.points;
+        report.Line(tally.wrong == 0 && tally.slowest < 5,
+                    "%-30s %4ld points: %4ld reported, %4ld correct, %ld wrong, at most %.3f s",
+                    scenario.name, tally.points, tally.reported, tally.correct, tally.wrong, tally.slowest);
+    }
+    report.Line(points > 0, "%ld points", points);
+    return report.ExitCode();
+}
