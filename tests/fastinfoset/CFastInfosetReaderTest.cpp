@@ -196,6 +196,16 @@ TEST(CFastInfosetReader, ChecksEveryIndexAgainstItsTable) {
     EXPECT_EQ(Read(HexBytes(start + "38 CD E00000 F0")), "The index [8257] lies beyond its table.");
 }
 
+TEST(CFastInfosetReader, AFullTableTakesNoMore) {
+    CBinaryData bytes = Concatenated(start + "3C 00 'a'", HexBytes("90 'x'"), 1 << 20);
+    bytes.Append(HexBytes("90 'y'"));
+    CBinaryData last = bytes, beyond = bytes;
+    last.Append(HexBytes("B8 0B FB EF FF"));
+    beyond.Append(HexBytes("B8 0B FB F0 FF"));
+    EXPECT_EQ(Read(last), "a[\"" + std::string(1 << 20, 'x') + "yx\"]");
+    EXPECT_EQ(Read(beyond), "The index [1048577] lies beyond its table.");
+}
+
 TEST(CFastInfosetReader, RecognisesDocumentsByTheirFirstBytes) {
     const ScriptedObject object("<a '" + std::string(500, 'x') + " >");
     const std::string tree = "a[\"" + std::string(500, 'x') + "\"]";
