@@ -15,9 +15,11 @@ TEST(CBinaryData, NoArrayAndAnEmptyArrayAreDifferent) {
     EXPECT_TRUE(none == alsoNone && !none.GetData() && none.GetLength() == 0 && !none.ReleaseData());
     EXPECT_EQ(none.GetAsBase64() + none.GetAsHexString(), u"");
     for (const CBinaryData& empty : {ToBinary(""), CBinaryData(u""), CBinaryData(nullptr, 0, true)}) {
-        EXPECT_TRUE(none != empty && empty == ToBinary(""));
+        EXPECT_TRUE(none != empty && empty != none && empty == ToBinary(""));
         EXPECT_EQ(empty.GetAsHexString(), u"");
     }
+    EXPECT_THROW((void)none[0], CKzException);
+    EXPECT_THROW((void)std::as_const(none)[0], CKzException);
     none.Append(alsoNone);
     EXPECT_TRUE(none == ToBinary(""));
 }

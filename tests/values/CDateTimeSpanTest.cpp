@@ -13,9 +13,9 @@ std::string Read(const char16_t* text) {
 }
 
 TEST(CDateTimeSpan, WhatIsReadIsWritten) {
-    for (const char* text :
-         {"P1Y2M3DT4H5M6.5S", "-P1D", "P1M", "PT1M", "P15M", "P400D", "PT36H", "PT90M", "PT0.5S",
-          "PT0.001002S", "P65535Y4294967295M4294967295DT4294967295H2147483647M2147483647.999999S"})
+    for (const char* text : {"P1Y2M3DT4H5M6.5S", "-P1D", "P1M", "PT1M", "P15M", "P400D", "PT36H", "PT90M",
+                             "PT0.5S", "PT1H2S", "PT0.000001S", "PT0.000000001S", "PT0.001002S",
+                             "P65535Y4294967295M4294967295DT4294967295H2147483647M2147483647.999999S"})
         EXPECT_EQ(Read(FromUtf8(text).c_str()), text);
     // Lenient forms; of the digits of nanoseconds the last alone counts; numbers wrap in 32 bits.
     ExpectRows({"PT1. -> PT1S", "PT1.S -> PT1S", "PT.5S -> PT0.5S", "PY -> P", "-PTS -> -P", "P5T1H -> PT1H",

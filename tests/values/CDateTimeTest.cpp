@@ -113,6 +113,23 @@ TEST(CDateTime, FormatsAreComparedByContentAndOnlyAMidnightIsAValueOfZeros) {
     EXPECT_EQ(CDateTime(CDateTime::DTType_time).ToString(), u"00:00:00");
     EXPECT_EQ(InvalidValue([] { CDateTime().ToString(nullptr); }), "Date Not Set");
     EXPECT_EQ(InvalidValue([] { CDateTime(CDateTime::DTType_date).ToString(); }), "Date Not Set");
+    const std::pair<void (*)(CDateTime&), const char*> rows[] = {
+        // any field makes it one
+        {[](CDateTime& v) { v.SetYear(1); }, "0001-00-00T00:00:00"},
+        {[](CDateTime& v) { v.SetMonth(1); }, "0000-01-00T00:00:00"},
+        {[](CDateTime& v) { v.SetDay(1); }, "0000-00-01T00:00:00"},
+        {[](CDateTime& v) { v.SetHour(1); }, "0000-00-00T01:00:00"},
+        {[](CDateTime& v) { v.SetMinute(1); }, "0000-00-00T00:01:00"},
+        {[](CDateTime& v) { v.SetSecond(1); }, "0000-00-00T00:00:01"},
+        {[](CDateTime& v) { v.SetMilliSecond(1); }, "0000-00-00T00:00:00.001"},
+        {[](CDateTime& v) { v.SetMicroSecond(1); }, "0000-00-00T00:00:00.000001"},
+        {[](CDateTime& v) { v.SetNanoSecond(1); }, "0000-00-00T00:00:00.000000001"},
+    };
+    for (const auto& [set, text] : rows) {
+        CDateTime value(CDateTime::DTType_dateTime);
+        set(value);
+        EXPECT_EQ(ToUtf8(value.ToString()), text);
+    }
 }
 
 TEST(CDateTime, SettersByKindValidateAndRefuseAnotherKind) {
