@@ -57,6 +57,8 @@ reference::Signed Number(Input& input, std::size_t most) {
     return {head >= 0x80, digits.substr(0, length)};
 }
 
+} // namespace
+
 void Integers(Input input) {
     const reference::Signed a = Number(input, 36);
     const reference::Signed b = Number(input, 36);
@@ -94,6 +96,8 @@ void Integers(Input input) {
     }
 }
 
+namespace {
+
 /// The text of a number of `places` decimal places: zeros at the end are dropped, then what is beyond 30
 /// places is rounded, the half downwards; a fraction that becomes a whole unit so is not carried.
 std::u16string TextOfScaled(const reference::Signed& scaled, std::size_t places) {
@@ -115,6 +119,8 @@ std::u16string TextOfScaled(const reference::Signed& scaled, std::size_t places)
     const bool minus = scaled.negative && !(isZero && whole == "0");
     return Wide((minus ? "-" : "") + whole + (isZero ? "" : "." + fraction));
 }
+
+} // namespace
 
 void Decimals(Input input) {
     constexpr std::size_t most = 14; // so that products have places enough
@@ -147,6 +153,8 @@ void Decimals(Input input) {
     ExpectSame((x / y).ToString(), TextOfScaled(quotient, quotientPlaces), "the quotient of decimals");
 }
 
+namespace {
+
 // --- dates ------------------------------------------------------------------------------------------------
 
 std::int64_t FloorDivide(std::int64_t a, std::int64_t b) { return a / b - (a % b < 0); }
@@ -158,6 +166,8 @@ std::int64_t Carry(std::int64_t& field, std::int64_t change, std::int64_t unit) 
     field -= carry * unit;
     return carry;
 }
+
+} // namespace
 
 void DateAndDuration(Input input) {
     constexpr int most = 100'000; // beyond it a carry is not exact
@@ -195,6 +205,8 @@ void DateAndDuration(Input input) {
            "a date and a duration add up as on foot");
 }
 
+namespace {
+
 /// Any dates and durations, of any size: the relations agree with each other.
 void Relations(Input input) {
     CDateTime dates[2];
@@ -220,6 +232,8 @@ void Relations(Input input) {
 
 void Binary(Input input) {
     const std::string bytes = input.Bytes();
+    if (bytes.empty())
+        return; // an array without bytes is not equal to no array
     const auto* data = reinterpret_cast<const unsigned char*>(bytes.data());
     CBinaryData whole;
     whole.SetBuffer(data, bytes.size());
@@ -242,7 +256,7 @@ void Binary(Input input) {
 } // namespace
 
 void Values(Input input) {
-    constexpr void (*others[])(Input) = {Integers, Decimals, DateAndDuration, Relations, Binary};
+    constexpr Target others[] = {Integers, Decimals, DateAndDuration, Relations, Binary};
     const unsigned choice = input.Byte() % (ItemType_integer + std::size(others));
     if (choice < ItemType_integer)
         TextOfAValue(static_cast<ItemType>(choice + 1), input);

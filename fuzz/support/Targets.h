@@ -44,6 +44,13 @@ inline constexpr NamedTarget targets[] = {
     {"Allocation", Allocation},
 };
 
+// Parts of Values, which any bytes make a case of.
+void Integers(Input input);
+void Decimals(Input input);
+void DateAndDuration(Input input);
+inline constexpr NamedTarget arithmetic[] = {
+    {"integers", Integers}, {"decimals", Decimals}, {"dates and durations", DateAndDuration}};
+
 /// Of what one input may inflate to.
 inline constexpr std::uint64_t inflatedBytes = 1 << 18;
 /// Of the texts that it may bring into a tree, apart from its own size.
