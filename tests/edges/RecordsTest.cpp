@@ -253,7 +253,7 @@ private:
 TEST_F(RecordsTest, MemoryIsThatOfABlockHoweverLongTheDocumentIs) {
     support::LimitsScope limits(&Limits::treeBytes, 1 << 20);
     limits.Set(&Limits::treeBytesPerInputByte, 0); // so a tree that is kept fails under the sanitizer too
-    EndlessDocument document("\n  <r><n>1</n></r>\n  <skipped><a/></skipped>", 40'000);
+    EndlessDocument document(std::string(100, '\n') + "<r><n>1</n></r><skipped><a/></skipped>", 20'000);
     std::istream stream(&document);
     std::size_t first = 0, most = 0;
     int liveMost = 0;
@@ -262,11 +262,12 @@ TEST_F(RecordsTest, MemoryIsThatOfABlockHoweverLongTheDocumentIs) {
         liveMost = std::max(liveMost, CRecord::live);
         if (all.GetNumber() % 1'000 != 0)
             continue;
-        const std::size_t inUse = mallinfo2().uordblks; // 0 under the sanitizer
+        const struct mallinfo2 heap = mallinfo2(); // nothing under the sanitizer
+        const std::size_t inUse = heap.uordblks + heap.hblkhd;
         first = first == 0 ? inUse : first;
         most = std::max(most, inUse);
     }
-    EXPECT_EQ(all.GetNumber(), 40'000u);
+    EXPECT_EQ(all.GetNumber(), 20'000u);
     EXPECT_LT(most, first + 2'000'000);
     EXPECT_LT(liveMost, 2'000);
 }
