@@ -9,12 +9,18 @@ install(TARGETS quillon EXPORT QuillonTargets
     FILE_SET HEADERS DESTINATION "${CMAKE_INSTALL_INCLUDEDIR}"
     INCLUDES DESTINATION "${CMAKE_INSTALL_INCLUDEDIR}") # for users whose CMake knows no file sets
 install(EXPORT QuillonTargets NAMESPACE Quillon:: DESTINATION "${package_dir}")
+if(QUILLON_BUILD_STATIC)
+    install(TARGETS quillon_static EXPORT QuillonStaticTargets ARCHIVE DESTINATION "${CMAKE_INSTALL_LIBDIR}")
+    install(EXPORT QuillonStaticTargets NAMESPACE Quillon:: DESTINATION "${package_dir}")
+    install(FILES "${CMAKE_CURRENT_LIST_DIR}/FindExpatW.cmake" DESTINATION "${package_dir}")
+endif()
 
 configure_package_config_file(
     "${CMAKE_CURRENT_LIST_DIR}/QuillonConfig.cmake.in" "${PROJECT_BINARY_DIR}/QuillonConfig.cmake"
     INSTALL_DESTINATION "${package_dir}"
     NO_SET_AND_CHECK_MACRO)
-write_basic_package_version_file("${PROJECT_BINARY_DIR}/QuillonConfigVersion.cmake" COMPATIBILITY SameMajorVersion)
+# Generated code says which major and minor version it is for, and no other one runs it.
+write_basic_package_version_file("${PROJECT_BINARY_DIR}/QuillonConfigVersion.cmake" COMPATIBILITY SameMinorVersion)
 install(FILES
     "${PROJECT_BINARY_DIR}/QuillonConfig.cmake" "${PROJECT_BINARY_DIR}/QuillonConfigVersion.cmake"
     DESTINATION "${package_dir}")

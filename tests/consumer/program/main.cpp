@@ -1,26 +1,89 @@
-// A program of a user: it sees the installed headers and the shared library only.
-#include <KzXmlLib10/object/CKzException.h>
-#include <KzXmlLib10/object/FormatString.h>
+// A program of a user: a class in the form that a generator emits, which is read, written and refused. It
+// sees the installed headers and one library only, and reaches each library behind that one.
+#include <KzXmlLib10/KzXmlLib10.h>
 
 #include <iostream>
 
 using namespace KzXmlLib10;
+using namespace KzXmlLib10Data;
 
 namespace {
 
-// Derives from an exported class in the user's own program, as generated code does.
-class OrderRefused : public CKzInvalidValueException {
+/// <parcel code="A1"><weight>2.50</weight></parcel>
+class CParcel : public CXmlGeneratedClass {
 public:
-    explicit OrderRefused(int number) : CKzInvalidValueException(FormatString(u"order %d", number)) {}
+    CParcel() { SetElementName(u"parcel"); }
+
+    using CXmlObjectBase::GetBase;
+    CXmlObjectBase* GetBase() override { return this; }
+    std::u16string GetTargetNamespace() const override { return u""; }
+    std::u16string GetNamespace() const override { return u""; }
+
+    void AccessProperty(int propertyIndex, bool read, KzVariant& value) override {
+        if (propertyIndex == Property_weight)
+            return read ? value.SetDecimal(m_weight) : (void)(m_weight = value.GetDecimal());
+        if (read)
+            return value.SetString(m_code);
+        static_cast<CAttributeInfoPrimitive*>(GetClassAttributeInfo()[0])->CheckRestriction(value);
+        m_code = value.GetString();
+    }
+    CParentElementInfo* GetClassInfo() const override {
+        static CParentElementInfo info(XmlElementGroupType_Sequence, XmlElementType_Element, u"parcel", u"",
+                                       true, false, -1, ItemType_Invalid, nullptr, false);
+        return &info;
+    }
+    CElementInfo** GetClassElementInfo() const override {
+        static CElementInfoSeqPrimMnd weight(u"weight", u"", Property_weight, false, ItemType_decimal,
+                                             nullptr, CWhitespaceUtils::WhitespaceRule_Collapse,
+                                             CPrimitiveRestrictions());
+        static CElementInfo* elements[] = {&weight, nullptr};
+        return elements;
+    }
+    CAttributeInfo** GetClassAttributeInfo() const override {
+        static CAttributeInfoPrimitive code(
+            u"code", u"", Property_code, false, ItemType_string, nullptr,
+            CWhitespaceUtils::WhitespaceRule_Collapse,
+            CPrimitiveRestrictions(u"[A-Z]\\d", -1, -1, u"", u"", u"", u"", -1), nullptr);
+        static CAttributeInfo* attributes[] = {&code, nullptr};
+        return attributes;
+    }
+    void Init() override {
+        m_code.clear();
+        m_weight = CDecimal();
+    }
+
+private:
+    enum Property { Property_code, Property_weight };
+    std::u16string m_code;
+    CDecimal m_weight;
 };
+
+bool Check(const char* what, const std::u16string& found, const std::u16string& expected) {
+    if (found != expected)
+        std::cerr << what << ": " << ToUtf8(found) << '\n';
+    return found == expected;
+}
 
 } // namespace
 
 int main() {
+    Register(10, 1);
+    const CXmlSerializationContext& context = CXmlSerializationContext::GetDefaultContext();
+    const CSmartPtr<CParcel> parcel = new CParcel;
+    bool good = true;
+
+    parcel->FromXml("<parcel code='A1'><weight>2.50</weight></parcel>", context);
+    CBinaryData packed =
+        parcel->ToXmlStream(true, true, XmlEncoding_UTF16, EOLType_LF, context, CompressionType_GZip);
+    parcel->FromXmlStream(packed, context);
+    good &= Check("written", parcel->ToXml(false, false, EOLType_LF, context),
+                  u"<parcel code=\"A1\"><weight>2.5</weight></parcel>");
     try {
-        throw OrderRefused(7);
+        parcel->FromXml("<parcel code='A'><weight>2.50</weight></parcel>", context);
+        good = false;
     } catch (const CKzValidationException& failure) {
-        std::cout << CKzException(u"refused", failure) << '\n';
-        return CKzException(u"refused", failure).GetFullMessage() == u"refused\norder 7" ? 0 : 1;
+        good &= Check("refused", failure.GetFullMessage(),
+                      u"Failed to process the element [parcel]\nInvalid Value for code [A]");
     }
+    return good ? 0 : 1;
 }
