@@ -1,4 +1,5 @@
-// Lets the whole suite run under the locale of its environment, as a program does that speaks its user's language:
+// Lets the whole suite run under the locale of its environment, as a program does that speaks its user's
+// language:
 //
 //     LC_ALL=de_DE.UTF-8 TZ=Pacific/Chatham quillon_tests
 
