@@ -30,4 +30,9 @@ cmake_path(RELATIVE_PATH CMAKE_INSTALL_PREFIX BASE_DIRECTORY "${pkgconfig_dir}" 
 configure_file("${CMAKE_CURRENT_LIST_DIR}/quillon.pc.in" "${PROJECT_BINARY_DIR}/quillon.pc" @ONLY)
 install(FILES "${PROJECT_BINARY_DIR}/quillon.pc" DESTINATION "${CMAKE_INSTALL_LIBDIR}/pkgconfig")
 
+# gdb looks for a file of this name under the folder of the library. The prefix is that of `cmake --install`.
+install(FILES "${PROJECT_SOURCE_DIR}/tools/gdb/libquillon-gdb.py"
+    DESTINATION "${CMAKE_INSTALL_DATADIR}/gdb/auto-load\${CMAKE_INSTALL_PREFIX}/${CMAKE_INSTALL_LIBDIR}"
+    RENAME libquillon.so.1-gdb.py)
+
 install(FILES "${PROJECT_SOURCE_DIR}/LICENSE" "${PROJECT_SOURCE_DIR}/CHANGELOG.md" DESTINATION "${CMAKE_INSTALL_DOCDIR}")
