@@ -25,36 +25,28 @@ std::string Changed(const char* file, std::string_view what, std::string_view by
     return text.replace(text.find(what), what.size(), by);
 }
 
-void Read(CXmlObjectBase& object, const std::string& text, const CXmlSerializationContext& context) {
-    object.FromXml(text.c_str(), context);
-}
-
 } // namespace
 
 void Checking() {
-    const CXmlSerializationContext& strict = CXmlSerializationContext::GetDefaultContext();
-    const CSmartPtr<COrders> orders = new COrders;
+    COrders orders;
     {
         Section("broken-documents");
         ShowFailure([&] {
-            Read(*orders, Changed("orders.xml", "<quantity>2</quantity>", "<quantity>2000</quantity>"),
-                 strict);
+            Read(orders, Changed("orders.xml", "<quantity>2</quantity>", "<quantity>2000</quantity>"));
         });
         ShowFailure([&] {
-            Read(*orders, Changed("orders.xml", "<quantity>2</quantity>", "<quantity>two</quantity>"),
-                 strict);
+            Read(orders, Changed("orders.xml", "<quantity>2</quantity>", "<quantity>two</quantity>"));
         });
-        ShowFailure([&] { Read(*orders, Changed("orders.xml", "<quantity>2</quantity>", ""), strict); });
-        ShowFailure(
-            [&] { Read(*orders, Changed("orders.xml", "<gift>", "<colour>red</colour><gift>"), strict); });
-        ShowFailure([&] { Read(*orders, Changed("orders.xml", "id=\"100007\" ", ""), strict); });
-        ShowFailure([&] { Read(*orders, Changed("orders.xml", "</note>", "</nota>"), strict); });
+        ShowFailure([&] { Read(orders, Changed("orders.xml", "<quantity>2</quantity>", "")); });
+        ShowFailure([&] { Read(orders, Changed("orders.xml", "<gift>", "<colour>red</colour><gift>")); });
+        ShowFailure([&] { Read(orders, Changed("orders.xml", "id=\"100007\" ", "")); });
+        ShowFailure([&] { Read(orders, Changed("orders.xml", "</note>", "</nota>")); });
     }
     {
         Section("setters");
-        orders->FromXmlFile(u"orders.xml", strict);
+        ReadFile(orders, "orders.xml");
         // [setters]
-        COrder& order = *orders->GetOrders()->Item(0);
+        COrder& order = *orders.GetOrders()->Item(0);
         try {
             order.GetItems()->Item(0)->SetQuantity(2000);
         } catch (const CKzException& failure) {
@@ -63,7 +55,7 @@ void Checking() {
 
         order.GetItems()->Clear(); // counts and choices are checked when the object is written
         try {
-            orders->ToXml(false, false, EOLType_LF, CXmlSerializationContext::GetDefaultContext());
+            WriteText(orders);
         } catch (const CKzException& failure) {
             std::cout << failure << '\n';
         }
@@ -76,9 +68,9 @@ void Checking() {
         CXmlSerializationContext tolerant;
         tolerant.SetIgnoreUnknownElements(true);
         tolerant.SetIgnoreUnknownAttributes(true);
-        orders->FromXml(newer.c_str(), tolerant); // each <item> has a <colour> that the schema does not know
+        Read(orders, newer, tolerant); // each <item> has a <colour> that the schema does not know
         // [/tolerate]
-        std::cout << orders->GetOrders()->GetCount() << " orders\n";
+        std::cout << orders.GetOrders()->GetCount() << " orders\n";
     }
     {
         Section("tolerate-both");
@@ -101,16 +93,16 @@ void Checking() {
         for (std::size_t at = 0; (at = noItem.find("<item>")) != std::string::npos;)
             noItem.erase(at, noItem.find("</item>") + 7 - at);
         const std::string noPayment = "<payment xmlns='urn:example:orders'/>";
-        const CSmartPtr<CPayment> payment = new CPayment(u"payment");
-        passes(*orders, Changed("orders.xml", "<gift>", "<colour/><gift>"),
+        CPayment payment(u"payment");
+        passes(orders, Changed("orders.xml", "<gift>", "<colour/><gift>"),
                &Context::SetIgnoreUnknownElements);
-        passes(*orders, Changed("orders.xml", " id=", " colour='red' id="),
+        passes(orders, Changed("orders.xml", " id=", " colour='red' id="),
                &Context::SetIgnoreUnknownAttributes);
-        passes(*orders, Changed("orders.xml", "<quantity>2</quantity>", ""),
+        passes(orders, Changed("orders.xml", "<quantity>2</quantity>", ""),
                &Context::SetIgnoreMissingMandatoryElements);
-        passes(*payment, noPayment, &Context::SetIgnoreMissingChoice);
-        passes(*orders, noItem, &Context::SetIgnoreInvalidCollectionCounts);
-        passes(*orders, Changed("orders.xml", "urn:example:orders", "urn:example:other"),
+        passes(payment, noPayment, &Context::SetIgnoreMissingChoice);
+        passes(orders, noItem, &Context::SetIgnoreInvalidCollectionCounts);
+        passes(orders, Changed("orders.xml", "urn:example:orders", "urn:example:other"),
                &Context::SetIgnoreNamespaces);
     }
 }

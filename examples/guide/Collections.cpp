@@ -32,9 +32,9 @@ public:
 } // namespace
 
 void Collections() {
-    const CSmartPtr<COrders> orders = new COrders;
-    orders->FromXmlFile(u"orders.xml", CXmlSerializationContext::GetDefaultContext());
-    COrder& order = *orders->GetOrders()->Item(0);
+    COrders orders;
+    ReadFile(orders, "orders.xml");
+    COrder& order = *orders.GetOrders()->Item(0);
     {
         Section("collections");
         // [collections]

@@ -11,13 +11,12 @@ namespace guide {
 using namespace orders;
 
 void Content() {
-    const CXmlSerializationContext& context = CXmlSerializationContext::GetDefaultContext();
     {
         Section("choice");
         // [choice]
-        const CSmartPtr<COrders> orders = new COrders;
-        orders->FromXmlFile(u"orders.xml", context);
-        CPayment& payment = *orders->GetOrders()->Item(0)->GetPayment();
+        COrders orders;
+        ReadFile(orders, "orders.xml");
+        CPayment& payment = *orders.GetOrders()->Item(0)->GetPayment();
 
         if (const CCard* card = payment.GetCard())
             std::cout << "card of " << ToUtf8(card->GetHolder()) << '\n';
@@ -33,44 +32,42 @@ void Content() {
     {
         Section("derived");
         // [derived]
-        const CSmartPtr<CShipment> shipment = new CShipment;
-        shipment->FromXmlFile(u"shipment.xml", context); // <carrier xsi:type="PostType">
+        CShipment shipment;
+        ReadFile(shipment, "shipment.xml"); // <carrier xsi:type="PostType">
 
-        if (const auto* post = dynamic_cast<const CPost*>(shipment->GetCarrier()))
+        if (const auto* post = dynamic_cast<const CPost*>(shipment.GetCarrier()))
             std::cout << "post office " << ToUtf8(post->GetOffice()) << '\n';
 
         const CSmartPtr<CCourier> courier = new CCourier(u"carrier"); // the name of the element
         courier->SetName(u"Pigeon & Sons");
         courier->SetPhone(u"+46 8 123456");
-        shipment->SetCarrier(courier); // written with xsi:type="CourierType"
+        shipment.SetCarrier(courier); // written with xsi:type="CourierType"
         // [/derived]
-        const std::u16string text = shipment->ToXml(false, true, EOLType_LF, [] {
-            CXmlSerializationContext writing;
-            writing.SetDefaultNamespaceURI(u"urn:example:shipment");
-            writing.GetNamespaceAliases().Add(u"xsi", u"http://www.w3.org/2001/XMLSchema-instance");
-            return writing;
-        }());
-        const std::size_t from = text.find(u"<carrier"), to = text.find(u"</carrier>");
-        Print(text.substr(from, to + 10 - from));
+        CXmlSerializationContext writing;
+        writing.SetDefaultNamespaceURI(u"urn:example:shipment");
+        writing.GetNamespaceAliases().Add(u"xsi", u"http://www.w3.org/2001/XMLSchema-instance");
+        const std::string text = WriteText(shipment, {}, writing);
+        const std::size_t from = text.find("<carrier"), to = text.find("</carrier>");
+        std::cout << text.substr(from, to + 10 - from) << '\n';
     }
     {
         Section("nil");
         // [nil]
-        const CSmartPtr<CShipment> shipment = new CShipment;
-        shipment->FromXmlFile(u"shipment.xml", context); // <weight xsi:nil="true"/>
+        CShipment shipment;
+        ReadFile(shipment, "shipment.xml"); // <weight xsi:nil="true"/>
 
-        if (shipment->GetWeight().IsNil())
-            shipment->SetWeight(18.25);
-        std::cout << shipment->GetWeight().Get() << " kg\n";
+        if (shipment.GetWeight().IsNil())
+            shipment.SetWeight(18.25);
+        std::cout << shipment.GetWeight().Get() << " kg\n";
         // [/nil]
     }
     {
         Section("wildcard");
         // [wildcard]
-        const CSmartPtr<CShipment> shipment = new CShipment;
-        shipment->FromXmlFile(u"shipment.xml", context);
+        CShipment shipment;
+        ReadFile(shipment, "shipment.xml");
 
-        for (const CElement& extension : *shipment->GetAnyElements()) {
+        for (const CElement& extension : *shipment.GetAnyElements()) {
             std::cout << ToUtf8(extension.GetName()) << " of " << ToUtf8(extension.GetNamespace()) << '\n';
             for (const CAttribute& attribute : *extension.GetAttributes())
                 std::cout << "  " << ToUtf8(attribute.GetName()) << " = " << ToUtf8(attribute.GetValue())
@@ -80,19 +77,18 @@ void Content() {
         }
 
         const CSmartPtr<CElement> insurance =
-            shipment->GetAnyElements()->Add(u"insurance", u"urn:example:ins");
+            shipment.GetAnyElements()->Add(u"insurance", u"urn:example:ins");
         insurance->GetAttributes()->Add(u"policy", u"77-1", u"");
         insurance->GetChildElements()->Add(u"sum")->SetText(u"1000.00");
         // [/wildcard]
-        Print(insurance->ToXml(false, true, EOLType_LF, context));
+        std::cout << WriteText(*insurance, {.declaration = false});
     }
     {
         Section("generic");
         // [generic]
-        const CSmartPtr<CElement> anything = new CElement(u"anything");
-        anything->FromXml(
-            u"<list xmlns='urn:l'><entry n='1'>first</entry><entry n='2'>second</entry></list>");
-        std::cout << ToUtf8(anything->GetName()) << " has " << anything->GetChildElements()->GetCount()
+        CElement anything(u"anything");
+        anything.FromXml(u"<list xmlns='urn:l'><entry n='1'>first</entry><entry n='2'>second</entry></list>");
+        std::cout << ToUtf8(anything.GetName()) << " has " << anything.GetChildElements()->GetCount()
                   << " children\n";
         // [/generic]
     }

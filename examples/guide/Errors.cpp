@@ -4,39 +4,57 @@
 
 #include <iostream>
 #include <string>
+#include <string_view>
+#include <vector>
 
 namespace guide {
 
 using namespace orders;
 
 void Errors() {
-    const CSmartPtr<COrders> orders = new COrders;
+    COrders orders;
     {
         Section("catch");
         // [catch]
         try {
-            orders->FromXmlFile(u"orders-faulty.xml", CXmlSerializationContext::GetDefaultContext());
+            ReadFile(orders, "orders-faulty.xml");
         } catch (const CKzException& failure) {
             std::cout << failure << '\n'; // in UTF-8, the outermost element first
         }
         // [/catch]
     }
     {
-        Section("chain");
-        // [chain]
+        Section("frames");
+        // [frames]
         try {
-            orders->FromXmlFile(u"orders-faulty.xml", CXmlSerializationContext::GetDefaultContext());
+            ReadFile(orders, "orders-faulty.xml");
         } catch (const CKzException& failure) {
-            for (const CKzException* level = &failure; level; level = level->GetInnerException())
-                std::cout << "- " << ToUtf8(level->GetMessageW()) << '\n';
+            const std::vector<FailureFrame> frames = GetFailureFrames(failure);
+            for (const FailureFrame& frame : frames)
+                if (frame.kind == FailureKind::ReadElement)
+                    std::cout << '/' << frame.name;
+            if (frames.back().kind == FailureKind::Value)
+                std::cout << " has a bad value: " << frames.back().message << '\n';
         }
-        // [/chain]
+        // [/frames]
+    }
+    {
+        Section("line");
+        // [line]
+        try {
+            Read(orders, "<orders>\n<order>\n</orders>");
+        } catch (const CKzException& failure) {
+            const FailureFrame cause = GetFailureFrames(failure).back();
+            if (cause.kind == FailureKind::Syntax)
+                std::cout << "line " << cause.number << ": " << cause.message << '\n';
+        }
+        // [/line]
     }
     {
         Section("other-failures");
-        ShowFailure([&] { orders->FromXmlFile(u"missing.xml", {}); });
-        ShowFailure([&] { orders->FromXml("<orders>\n<order>\n</orders>", {}); });
-        ShowFailure([&] { orders->FromXmlStream(CBinaryData(), {}); });
+        ShowFailure([&] { ReadFile(orders, "missing.xml"); });
+        ShowFailure([&] { Read(orders, "<orders>\n<order>\n</orders>"); });
+        ShowFailure([&] { Read(orders, std::string_view()); });
     }
 }
 

@@ -3,25 +3,26 @@
 #include "classes/COrders.h"
 
 #include <iostream>
+#include <vector>
 
 namespace guide {
 
 using namespace orders;
 
 void FastInfoset() {
-    const CSmartPtr<COrders> orders = new COrders;
-    orders->FromXmlFile(u"orders.xml", {});
-    const CSmartPtr<COrders> copy = new COrders;
     Section("fast-infoset");
     // [fast-infoset]
-    CXmlSerializationContext context;
-    const CBinaryData bytes = orders->ToFastInfosetStream(FInfoDecl_None, context, CompressionType_None);
-    orders->ToFastInfosetFile(u"orders.finf", FInfoDecl_None, context, CompressionType_GZip);
+    COrders orders;
+    ReadFile(orders, "orders.xml");
+    WriteFile(orders, "orders.finf", {.format = DocumentFormat::FastInfoset});
+    const std::vector<std::byte> bytes = WriteBytes(
+        orders, {.format = DocumentFormat::FastInfoset, .declaration = FInfoDecl_10}); // with a declaration
 
-    copy->FromXmlStream(bytes, context); // the first bytes tell the format
-    copy->FromXmlFile(u"orders.finf", context);
+    COrders copy;
+    Read(copy, bytes); // the first bytes tell the format
+    ReadFile(copy, "orders.finf");
     // [/fast-infoset]
-    std::cout << copy->GetOrders()->GetCount() << " orders\n";
+    std::cout << copy.GetOrders()->GetCount() << " orders\n";
 }
 
 } // namespace guide

@@ -12,33 +12,29 @@ void Generators() {
     {
         Section("library");
         // [library]
-        const CSmartPtr<CLibrary> shelf = new CLibrary;
-        shelf->FromXml(
-            u"<library xmlns='urn:example:library'>"
-            u"<book isbn='9780306406157'><title>Hairy dogs</title><author>A. Poodle</author></book>"
-            u"</library>",
-            CXmlSerializationContext::GetDefaultContext());
-        shelf->GetBooks()->Item(0)->SetPrice(u"19.90");
-        shelf->GetBooks()->Item(0)->SetBinding(Binding_hardcover);
+        CLibrary shelf;
+        Read(shelf, "<library xmlns='urn:example:library'>"
+                    "<book isbn='9780306406157'><title>Hairy dogs</title><author>A. Poodle</author></book>"
+                    "</library>");
+        shelf.GetBooks()->Item(0)->SetPrice(u"19.90");
+        shelf.GetBooks()->Item(0)->SetBinding(Binding_hardcover);
 
         CXmlSerializationContext context;
         context.SetDefaultNamespaceURI(libraryNamespace);
-        Print(shelf->ToXml(false, true, EOLType_LF, context));
+        std::cout << WriteText(shelf, {.declaration = false}, context);
         // [/library]
     }
     {
         Section("library-broken");
-        const CSmartPtr<CLibrary> shelf = new CLibrary;
+        CLibrary shelf;
         ShowFailure([&] {
-            shelf->FromXml(u"<library xmlns='urn:example:library'>"
-                           u"<book isbn='0306'><title>Hairy dogs</title><author>A. Poodle</author></book>"
-                           u"</library>",
-                           {});
+            Read(shelf, "<library xmlns='urn:example:library'>"
+                        "<book isbn='0306'><title>Hairy dogs</title><author>A. Poodle</author></book>"
+                        "</library>");
         });
         ShowFailure([&] {
-            shelf->FromXml(u"<library xmlns='urn:example:library'>"
-                           u"<book isbn='9780306406157'><title>Hairy dogs</title></book></library>",
-                           {});
+            Read(shelf, "<library xmlns='urn:example:library'>"
+                        "<book isbn='9780306406157'><title>Hairy dogs</title></book></library>");
         });
     }
 }

@@ -2,6 +2,7 @@
 
 #include "classes/COrders.h"
 
+#include <array>
 #include <iostream>
 #include <thread>
 #include <vector>
@@ -16,19 +17,16 @@ void Threads() {
     CXmlSerializationContext context;
     context.SetIgnoreUnknownElements(true); // set up first,
 
-    std::vector<CSmartPtr<COrders>> all(4);
+    std::array<COrders, 4> all;
     {
         std::vector<std::jthread> threads;
-        for (CSmartPtr<COrders>& orders : all)
-            threads.emplace_back([&] {
-                orders = new COrders;
-                orders->FromXmlFile(u"orders.xml", context); // then share it
-            });
+        for (COrders& orders : all)
+            threads.emplace_back([&] { ReadFile(orders, "orders.xml", context); }); // then share it
     }
     // [/threads]
     int count = 0;
-    for (const CSmartPtr<COrders>& orders : all)
-        count += orders->GetOrders()->GetCount();
+    for (const COrders& orders : all)
+        count += orders.GetOrders()->GetCount();
     std::cout << count << " orders\n";
 }
 

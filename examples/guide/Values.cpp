@@ -1,6 +1,8 @@
 #include "Guide.h"
 
+#include <chrono>
 #include <iostream>
+#include <string>
 
 namespace guide {
 
@@ -37,6 +39,23 @@ void Values() {
         const CDateTime utc(u"2024-05-16T22:59:00.125Z");
         std::cout << (order == utc ? "the same moment\n" : "another moment\n");
         // [/dates]
+    }
+    {
+        Section("chrono");
+        // [chrono]
+        using namespace std::chrono_literals;
+        CDateTime day = FromChrono(2024y / std::chrono::May / 17);
+        Print(day.ToString());
+
+        const CDateTime moment(u"2024-05-17T07:59:00.125+09:00");
+        const auto time = ToSysTime<std::chrono::milliseconds>(moment);
+        Print(FromChrono(time + 1h).ToString());
+        try {
+            ToSysTime<std::chrono::seconds>(moment); // would lose the milliseconds
+        } catch (const CKzException& failure) {
+            std::cout << failure << '\n';
+        }
+        // [/chrono]
     }
     {
         Section("bytes");

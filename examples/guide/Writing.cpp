@@ -3,10 +3,10 @@
 #include "classes/COrders.h"
 #include "classes/CShipment.h"
 
-#include <algorithm>
-#include <fstream>
 #include <iostream>
 #include <string>
+#include <string_view>
+#include <vector>
 
 namespace guide {
 
@@ -33,13 +33,12 @@ bool IsPlainText(std::u16string_view text) {
 }
 // [/is-plain-text]
 
-CSmartPtr<COrders> MakeOrders() {
+void Fill(COrders& orders) {
     // [make]
-    const CSmartPtr<COrders> orders = new COrders;
-    orders->SetVersion(u"1.2");
-    orders->SetCreated(u"2024-05-17T08:30:00Z");
+    orders.SetVersion(u"1.2");
+    orders.SetCreated(u"2024-05-17T08:30:00Z");
 
-    const CSmartPtr<COrder> order = orders->GetOrders()->Add();
+    const CSmartPtr<COrder> order = orders.GetOrders()->Add();
     order->SetId(100009);
     order->GetCustomer()->SetName(u"Zoë Brontë");
     order->GetCustomer()->SetEmail(u"zoe@example.com");
@@ -61,22 +60,22 @@ CSmartPtr<COrders> MakeOrders() {
     order->GetPayment()->SetTransfer(transfer);
     order->SetTotal(item->GetUnitPrice() * CDecimal(item->GetQuantity()));
     // [/make]
-    return orders;
 }
 
 } // namespace
 
 void Writing() {
-    const CSmartPtr<COrders> orders = MakeOrders();
+    COrders orders;
+    Fill(orders);
     {
         Section("write");
         // [write]
         CXmlSerializationContext context;
         context.SetDefaultNamespaceURI(u"urn:example:orders");
 
-        const std::u16string text = orders->ToXml(true, true, EOLType_LF, context);
+        const std::string text = WriteText(orders, {}, context);
         // [/write]
-        Print(text);
+        std::cout << text;
     }
     {
         Section("write-file");
@@ -84,51 +83,58 @@ void Writing() {
         CXmlSerializationContext context;
         context.SetDefaultNamespaceURI(u"urn:example:orders");
 
-        orders->ToXmlFile(u"out.xml", true, true, XmlEncoding_UTF8, EOLType_LF, context,
-                          CompressionType_None);
-        orders->ToXmlFile(u"out.xml.gz", true, false, XmlEncoding_UTF8, EOLType_LF, context,
-                          CompressionType_GZip);
-        orders->ToFastInfosetFile(u"out.finf", FInfoDecl_None, context, CompressionType_None);
+        WriteFile(orders, "out.xml", {}, context);
+        WriteFile(orders, "out.xml.gz", {.compression = CompressionType_GZip}, context);
+        WriteFile(orders, "out.finf", {.format = DocumentFormat::FastInfoset}, context);
+        const std::vector<std::byte> bytes = WriteBytes(
+            orders, {.compression = CompressionType_ZLib, .text = {.declaration = false, .formatted = false}},
+            context);
 
-        const CBinaryData bytes =
-            orders->ToXmlStream(false, false, XmlEncoding_UTF8, EOLType_LF, context, CompressionType_ZLib);
-
-        const CSmartPtr<COrders> copy = new COrders;
-        for (const char16_t* file : {u"out.xml", u"out.xml.gz", u"out.finf"})
-            copy->FromXmlFile(file, context); // the same call for each of them
-        copy->FromXmlStream(bytes, context);
+        COrders copy;
+        for (const char* file : {"out.xml", "out.xml.gz", "out.finf"})
+            ReadFile(copy, file); // the same call for each of them
+        Read(copy, bytes);
         // [/write-file]
-        std::cout << (copy->ToXml(false, false, EOLType_LF, {}) == orders->ToXml(false, false, EOLType_LF, {})
-                          ? "the same orders\n"
-                          : "other orders\n");
+        std::cout << (WriteText(copy) == WriteText(orders) ? "the same orders\n" : "other orders\n");
+    }
+    {
+        Section("members");
+        // [members]
+        const CXmlSerializationContext context;
+        orders.ToXmlFile(u"utf16.xml", true, true, XmlEncoding_UTF16, EOLType_CRLF, context,
+                         CompressionType_None);
+        const std::u16string text = orders.ToXml(false, false, EOLType_LF, context);
+        // [/members]
+        COrders copy;
+        ReadFile(copy, "utf16.xml");
+        std::cout << (copy.ToXml(false, false, EOLType_LF, context) == text ? "the same orders\n"
+                                                                            : "other orders\n");
     }
     {
         Section("namespaces");
         // [namespaces]
-        const CSmartPtr<CShipment> shipment = new CShipment;
-        shipment->FromXmlFile(u"shipment.xml", CXmlSerializationContext::GetDefaultContext());
+        CShipment shipment;
+        ReadFile(shipment, "shipment.xml");
 
         CXmlSerializationContext context;
         context.GetNamespaceAliases().Add(u"s", u"urn:example:shipment");
         context.GetNamespaceAliases().Add(u"o", u"urn:example:orders");
         context.GetNamespaceAliases().Add(u"xsi", u"http://www.w3.org/2001/XMLSchema-instance");
-
-        const std::u16string text = shipment->ToXml(false, true, EOLType_LF, context);
+        std::cout << WriteText(shipment, {.declaration = false}, context);
         // [/namespaces]
-        Print(text);
     }
     {
         Section("made-up-prefixes");
-        const CSmartPtr<CShipment> shipment = new CShipment;
-        shipment->FromXmlFile(u"shipment.xml", {});
-        const std::u16string text = shipment->ToXml(false, true, EOLType_LF, {});
-        Print(text.substr(0, text.find(u"\t\t<AB:email")) + u"\t\t...");
+        CShipment shipment;
+        ReadFile(shipment, "shipment.xml");
+        const std::string text = WriteText(shipment, {.declaration = false});
+        std::cout << text.substr(0, text.find("\t\t<AB:email")) << "\t\t...\n";
     }
     {
         Section("root");
-        const CSmartPtr<COrders> empty = new COrders;
-        empty->SetVersion(u"1.2");
-        empty->SetCreated(u"2024-05-17T08:30:00Z");
+        COrders empty;
+        empty.SetVersion(u"1.2");
+        empty.SetCreated(u"2024-05-17T08:30:00Z");
         // [root]
         CXmlSerializationContext context;
         context.SetDefaultNamespaceURI(u"urn:example:orders");
@@ -138,26 +144,27 @@ void Writing() {
         context.GetProcessingInstructions().push_back(
             u"<?xml-stylesheet href='orders.xsl' type='text/xsl'?>");
         // [/root]
-        Print(empty->ToXml(true, true, EOLType_LF, context));
+        std::cout << WriteText(empty, {}, context);
     }
     {
         Section("not-escaped");
         // [not-escaped]
-        const CSmartPtr<CElement> note = new CElement(u"note");
-        note->SetText(u"<![CDATA[a]]><script/>");
-        Print(note->ToXml(false, false, EOLType_LF, {})); // markup out of a value
+        CElement note(u"note");
+        note.SetText(u"<![CDATA[a]]><script/>");
+        Print(note.ToXml(false, false, EOLType_LF, {})); // markup out of a value
 
-        note->SetText(u"<b>a</b>]]>");
-        Print(note->ToXml(false, false, EOLType_LF, {})); // any other text is escaped
+        note.SetText(u"<b>a</b>]]>");
+        Print(note.ToXml(false, false, EOLType_LF, {})); // any other text is escaped
 
         std::u16string text = u"before ";
         text += char16_t(0xD800); // half of a pair
         text += u" behind";
-        note->SetText(text.c_str());
-        note->ToXmlFile(u"note.xml", false, false, XmlEncoding_UTF8, EOLType_LF, {}, CompressionType_None);
+        note.SetText(text.c_str());
+        note.ToXmlFile(u"note.xml", false, false, XmlEncoding_UTF8, EOLType_LF, {}, CompressionType_None);
         PrintFile("note.xml"); // the output ends, silently, and is no XML any more
         // [/not-escaped]
         std::cout << '\n';
+        ShowFailure([&] { WriteText(note); });
         if (IsPlainText(text) || IsPlainText(u"<![CDATA[x]]>") || IsPlainText(u"bell \a") ||
             !IsPlainText(u"plain <b> \U0001F600\n"))
             std::cout << "the check is wrong\n";
