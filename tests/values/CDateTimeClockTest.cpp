@@ -1,5 +1,6 @@
 #include "values/Dates.h"
 
+#include <chrono>
 #include <cstdlib>
 #include <cstring>
 #include <ctime>
@@ -127,9 +128,13 @@ TEST(CDateTimeClock, TheDayOfTheWeekIsLocal) {
 TEST(CDateTimeClock, TheTickCountIsLocalTimeWithoutZone) {
     const TimeZone zone("EAST-3:30");
     constexpr long long offset = 3 * 3600 + 1800;
-    const long long before = std::time(nullptr);
+    // The clock that is exact: that of std::time may still tell the second before.
+    const auto seconds = [] {
+        return std::chrono::system_clock::to_time_t(std::chrono::system_clock::now());
+    };
+    const long long before = seconds();
     const CDateTime now = CDateTime::GetTickCount();
-    const long long after = std::time(nullptr);
+    const long long after = seconds();
     EXPECT_TRUE(now.GetType() == CDateTime::DTType_dateTime && !now.IsUTC());
     EXPECT_GE(now.GetTime() - offset, before);
     EXPECT_LE(now.GetTime() - offset, after);
