@@ -70,6 +70,15 @@ void Reading() {
         }
         // [/read-tree]
     }
+    {
+        const Limits held = GetLimits();
+        // [limits]
+        Limits limits = GetLimits();
+        limits.inflatedBytes = 16 << 20;
+        SetLimits(limits);
+        // [/limits]
+        SetLimits(held);
+    }
 }
 
 } // namespace guide
