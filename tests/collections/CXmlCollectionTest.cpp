@@ -1,7 +1,7 @@
 #include <KzXmlLib10/collections/CXmlCollection.h>
 
 #include "support/EventLog.h"
-#include "support/FastInfoset.h"
+#include "support/Script.h"
 #include "support/Test.h"
 
 #include <KzXmlLib10/collections/CKzIterator.h>

@@ -15,7 +15,7 @@
 #include <thread>
 
 using namespace orders;
-using KzXmlLib10::support::Failure;
+using namespace KzXmlLib10::support;
 
 namespace {
 
@@ -54,15 +54,10 @@ constexpr char minimalShipment[] =
 
 } // namespace
 
-TEST(OrdersClasses, SampleComesBackAsTheSameText) {
+TEST(OrdersClasses, TheSampleComesBackAndNothingOfAnEarlierDocumentIsLeft) {
     COrders object;
     object.FromXml(ReadSample("orders.xml").c_str(), {});
     EXPECT_EQ(Write(object, ordersNamespace), Expected("orders.xml"));
-}
-
-TEST(OrdersClasses, NothingOfAnEarlierDocumentIsLeft) {
-    COrders object;
-    object.FromXml(ReadSample("orders.xml").c_str(), {});
     // The first order has every optional member that the second has not, and the other way round.
     const std::string second = Write(*object.GetOrders()->Item(1), ordersNamespace);
     object.GetOrders()->Item(0)->FromXml(second.c_str(), {});
@@ -80,31 +75,22 @@ TEST(OrdersClasses, NothingOfAnEarlierDocumentIsLeft) {
 TEST(OrdersClasses, SettersRefuseWhatTheSchemaDoes) {
     COrder order(u"order");
     CItem item(u"item");
-    CCard card(u"card");
-    CTransfer transfer(u"transfer");
     const std::pair<std::function<void()>, const char*> cases[] = {
         {[&] { order.SetPriority(10); }, "Invalid Value for priority [10]"},
         {[&] { order.SetTotal(u"-0.01"); }, "Invalid Value for total [-0.01]"},
         {[&] { order.GetTags()->Add(std::u16string(33, u't')); },
          "Invalid Value for tag [ttttttttttttttttttttttttttttttttt]"},
-        {[&] { order.GetCustomer()->SetName(u""); }, "Invalid Value for name []"},
         {[&] { order.GetCustomer()->SetEmail(u"nobody"); }, "Invalid Value for email [nobody]"},
-        {[&] { order.GetCustomer()->SetPhone(u"1"); }, "Invalid Value for phone [1]"},
-        {[&] { order.GetCustomer()->GetAddress()->SetCountry(u"se"); }, "Invalid Value for country [se]"},
         {[&] { item.SetSku(u"ABC-1"); }, "Invalid Value for sku [ABC-1]"},
-        {[&] { item.SetQuantity(1001); }, "Invalid Value for quantity [1001]"},
         {[&] { item.SetUnitPrice(-1); }, "Invalid Value for unitPrice [-1]"},
-        {[&] { card.SetNumber(u"1"); }, "Invalid Value for number [1]"},
-        {[&] { transfer.SetIban(u"SE"); }, "Invalid Value for iban [SE]"},
     };
     for (const auto& [action, message] : cases)
         EXPECT_EQ(Failure(action), message);
-    EXPECT_EQ(
-        Failure<CKzInvalidParamException>([&] { order.SetShipDate(CDateTime(u"2024-05-16T19:04:31")); }),
-        "A value of the kind dateTime cannot be a date");
-    EXPECT_EQ(Failure<CKzInvalidParamException>([&] { order.SetCustomer(nullptr); }),
+    EXPECT_EQ(InvalidParam([&] { order.SetShipDate(CDateTime(u"2024-05-16T19:04:31")); }),
+              "A value of the kind dateTime cannot be a date");
+    EXPECT_EQ(InvalidParam([&] { order.SetCustomer(nullptr); }),
               "The Property [customer] is mandatory, it may node be NULL");
-    EXPECT_EQ(Failure<CKzInvalidValueException>([] { StatusTypeFromString(u"lost"); }),
+    EXPECT_EQ(InvalidValue([] { StatusTypeFromString(u"lost"); }),
               "The text [lost] is none of the values of StatusType");
 }
 
@@ -117,12 +103,12 @@ TEST(OrdersClasses, PaymentHoldsOneMember) {
     payment->SetTransfer(transfer);
     EXPECT_EQ(payment->GetChoice(), u"transfer");
     EXPECT_EQ(
-        Failure<CKzInvalidStateException>([&] { payment->SetCard(card); }),
+        InvalidState([&] { payment->SetCard(card); }),
         "The Property [transfer] is already set. Only one element within this class bay be set at a time");
     EXPECT_EQ(payment->GetCard(), nullptr);
     payment->SetTransfer(nullptr);
     EXPECT_EQ(
-        Failure<CKzInvalidParamException>([&] { payment->SetCard(misnamed); }),
+        InvalidParam([&] { payment->SetCard(misnamed); }),
         "This property requrires an element with the name card the element being set has the element name "
         "transfer");
     payment->SetCard(card);
@@ -136,8 +122,7 @@ TEST(OrdersClasses, CarrierIsOfTheTypeThatTheDocumentNames) {
     shipment.FromXml(ReadSample("shipment.xml").c_str(), {});
     EXPECT_NE(dynamic_cast<CPost*>(shipment.GetCarrier()), nullptr);
     EXPECT_TRUE(shipment.GetWeight().IsNil());
-    const std::string unknown =
-        std::regex_replace(std::string(minimalShipment), std::regex("CourierType"), "CarrierType");
+    const std::string unknown = std::regex_replace(minimalShipment, std::regex("CourierType"), "CarrierType");
     EXPECT_EQ(Failure<CKzValidationException>([&] { shipment.FromXml(unknown.c_str(), {}); }),
               "Failed to process the element [shipment]\nFailed to find a suitable substitution element for "
               "[carrier]");

@@ -2,6 +2,8 @@
 
 #include "support/Test.h"
 
+#include <KzXmlLib10/object/CXmlSerializationContext.h>
+
 using namespace KzXmlLib10;
 using namespace KzXmlLib10::support;
 
@@ -17,6 +19,21 @@ std::string Dump(const CFastInfosetContext& context) {
     return text;
 }
 
+std::string Dump(const CFIVocabulary::CFIStringTable& table) {
+    std::string text;
+    for (const std::u16string& value : table)
+        text += "[" + ToUtf8(value) + "]";
+    return text;
+}
+
+std::string Dump(const CFIVocabulary::CFIQNameTable& table) {
+    std::string text;
+    for (const CFIVocabulary::CQNameParts& name : table)
+        text += std::to_string(name.m_prefix) + ":" + std::to_string(name.m_namespaceName) + ":" +
+                std::to_string(name.m_localName) + " ";
+    return text;
+}
+
 TEST(CFastInfosetContext, SuggestedValuesLeaveTextAndDurationsAlone) {
     CFastInfosetContext context;
     EXPECT_EQ(Dump(context), "P0 P0 P0 P0 P0 P0 P0 P0 P0 P0 P0 P0 P0 P0 P0 P0 P0 P0 P0 P0 P0 P0 P0 P0 P0 "
@@ -26,16 +43,49 @@ TEST(CFastInfosetContext, SuggestedValuesLeaveTextAndDurationsAlone) {
     context.SetSuggestedValues();
     EXPECT_EQ(Dump(context), "P0 A1 A2 A3 A3 A4 A5 A3 A4 A5 A5 A7 A8 R0 R2 R2 R2 R2 R2 R2 R2 R2 P0 A10 A6 "
                              "R1 R1 P0 P0 ");
-}
-
-TEST(CFastInfosetContext, RefusesWhatIsOutOfRange) {
-    CFastInfosetContext context;
     EXPECT_EQ(InvalidParam([&] { context.GetEncoding(29); }), "There is no ItemType [29]");
     EXPECT_EQ(InvalidParam([&] { context.SetEncoding(1ul << 32, {}); }), "There is no ItemType [4294967296]");
     context.SetAttributeMaxAddLength(0xFFFFFFFF);
     EXPECT_EQ(InvalidParam([&] { context.SetAttributeMaxAddLength(1ul << 32); }),
               "The length [4294967296] is too large; at most 4294967295 characters can be set");
     EXPECT_EQ(context.GetAttributeMaxAddLength(), 0xFFFFFFFFu);
+}
+
+TEST(CFIVocabulary, EntersThePartsOfNamesAndValuesOnce) {
+    CFIVocabulary vocabulary;
+    for (int i = 0; i < 2; ++i) { // what is there already changes nothing
+        vocabulary.AddElement(u"o", u"urn:o", u"order");
+        vocabulary.AddElement(u"", u"urn:o", u"order"); // another prefix is another name
+        vocabulary.AddElement(u"p", u"urn:p", u"order");
+        vocabulary.AddElement(u"", u"", u"plain");
+        vocabulary.AddAttribute(u"o", u"urn:o", u"order");
+        vocabulary.AddAttribute(u"xml", u"http://www.w3.org/XML/1998/namespace", u"lang");
+        vocabulary.AddPrefixName(u"xml");
+        vocabulary.AddPrefixName(u"");
+        vocabulary.AddNamespaceName(u"");
+        vocabulary.AddLocalName(u"a");
+        vocabulary.AddAttributeValue(u"v");
+        vocabulary.AddElementValue(u"t");
+    }
+    EXPECT_EQ(Dump(vocabulary.GetPrefixNamesTable()) + Dump(vocabulary.GetNamespaceNamesTable()),
+              "[xml][o][p][http://www.w3.org/XML/1998/namespace][urn:o][urn:p]");
+    EXPECT_EQ(Dump(vocabulary.GetLocalNamesTable()), "[order][plain][lang][a]");
+    EXPECT_EQ(Dump(vocabulary.GetElementNamesTable()), "2:2:1 0:2:1 3:3:1 0:0:2 ");
+    EXPECT_EQ(Dump(vocabulary.GetAttributeNamesTable()), "2:2:1 1:1:3 ");
+    EXPECT_EQ(Dump(vocabulary.GetAttributeValuesTable()) + Dump(vocabulary.GetCharacterChunksTable()),
+              "[v][t]");
+}
+
+TEST(CFIVocabulary, TravelsWithCopiesOfTheContext) {
+    CXmlSerializationContext context;
+    context.GetFIContext().GetVocabulary().AddLocalName(u"a");
+    context.GetFIContext().SetEncoding(ItemType_i4, {CFastInfosetContext::EncodingType_Algorithm, 4});
+    CXmlSerializationContext copy(context);
+    copy.GetFIContext().GetVocabulary().AddLocalName(u"b");
+    EXPECT_EQ(Dump(context.GetFIContext().GetVocabulary().GetLocalNamesTable()), "[a]");
+    context = copy;
+    EXPECT_EQ(Dump(context.GetFIContext().GetVocabulary().GetLocalNamesTable()), "[a][b]");
+    EXPECT_EQ(context.GetFIContext().GetEncoding(ItemType_i4).m_index, 4u);
 }
 
 } // namespace

@@ -1,7 +1,7 @@
 #include <KzXmlLib10/fastinfoset/CFastInfosetWriter.h>
 
 #include "support/Bytes.h"
-#include "support/FastInfoset.h"
+#include "support/Script.h"
 #include "support/TempDir.h"
 #include "support/Test.h"
 

@@ -1,6 +1,6 @@
 #include <KzXmlLib10/object/CXmlObjectBase.h>
 
-#include "support/FastInfoset.h"
+#include "support/Script.h"
 #include "support/Model.h"
 #include "support/Test.h"
 

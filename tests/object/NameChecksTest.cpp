@@ -1,5 +1,5 @@
 #include "object/NamespaceRestriction.h"
-#include "support/FastInfoset.h"
+#include "support/Script.h"
 #include "support/Test.h"
 
 #include <KzXmlLib10/xml/CXmlDocument.h>

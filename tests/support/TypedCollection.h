@@ -1,6 +1,6 @@
 #pragma once
 
-#include "support/FastInfoset.h"
+#include "support/Script.h"
 
 #include <KzXmlLib10/collections/CXmlTypeCollection.h>
 #include <KzXmlLib10/object/CXmlSerializationContext.h>

@@ -78,18 +78,6 @@ TEST(CBinaryData, AppendsTextAsLittleEndianUnitsWithoutTerminator) {
     EXPECT_EQ(data.GetAsHexString(), u"5A00");
 }
 
-TEST(CBinaryData, GrowsByteByByteAcrossItsCapacity) {
-    CBinaryData data;
-    std::string expected;
-    for (int i = 0; i < 40000; ++i) {
-        expected += static_cast<char>(i * 7);
-        data.Append(static_cast<unsigned char>(i * 7));
-    }
-    EXPECT_TRUE(data == ToBinary(expected) && data != ToBinary(expected + "x"));
-    expected[20000] ^= 1;
-    EXPECT_TRUE(data != ToBinary(expected));
-}
-
 TEST(CBinaryData, IndexEqualToTheLengthIsASpareByte) {
     CBinaryData data(new unsigned char[2]{1, 2}, 2, true);
     const CBinaryData& view = data;

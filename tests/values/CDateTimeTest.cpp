@@ -153,16 +153,17 @@ TEST(CDateTime, SettersByKindValidateAndRefuseAnotherKind) {
               "Invalid Year [-10000] (9999 <= year <= -9999 && year != 0)");
 
     // Each field one above its range, one after the other.
-    const std::string fields[] = {"Hour [24] (0 <= hour <= 23)",
-                                  "Minute [60] (0 <= minute <= 59)",
-                                  "Second [60] (0 <= second <= 59)",
-                                  "Milli-Second [1000] (0 <= milli <= 999)",
-                                  "Micro-Second [1000] (0 <= micro <= 999)",
-                                  "Nano-Second [1000] (0 <= nano <= 999)"};
+    std::string messages;
     int f[] = {24, 60, 60, 1000, 1000, 1000};
-    for (std::size_t i = 0; i < std::size(f); --f[i++])
-        EXPECT_EQ(InvalidValue([&] { CDateTime().SetTime(f[0], f[1], f[2], f[3], f[4], f[5]); }),
-                  "Invalid " + fields[i]);
+    for (int& field : f) {
+        messages += InvalidValue([&] { CDateTime().SetTime(f[0], f[1], f[2], f[3], f[4], f[5]); }) + "\n";
+        --field;
+    }
+    EXPECT_EQ(messages, "Invalid Hour [24] (0 <= hour <= 23)\nInvalid Minute [60] (0 <= minute <= 59)\n"
+                        "Invalid Second [60] (0 <= second <= 59)\n"
+                        "Invalid Milli-Second [1000] (0 <= milli <= 999)\n"
+                        "Invalid Micro-Second [1000] (0 <= micro <= 999)\n"
+                        "Invalid Nano-Second [1000] (0 <= nano <= 999)\n");
     EXPECT_EQ(InvalidValue([] { CDateTime().SetTime(-1, 0, 0); }), "Invalid Hour [-1] (0 <= hour <= 23)");
 }
 
@@ -185,25 +186,26 @@ TEST(CDateTime, FieldsThatAKindHasNotAreRefused) {
     expect(u"2001-05-12T13:20:30", D::DTType_gYearMonth, "Day [12] for type gYearMonth");
     expect(u"2001-05-12T13:20:30", D::DTType_time, "Month [5] for type time");
     expect(u"2001-05-12T13:20:30", D::DTType_gMonth, "Year [2001] for type gMonth");
-    expect(u"2001-05-12T13:20:30.001002003", D::DTType_date, "Hour [13] for type date");
-    expect(u"2001-05-12T00:20:30.001002003", D::DTType_date, "Minute [20] for type date");
-    expect(u"2001-05-12T00:00:30.001002003", D::DTType_date, "Second [30] for type date");
-    expect(u"2001-05-12T00:00:00.001002003", D::DTType_date, "Milli-Second [1] for type date");
-    expect(u"2001-05-12T00:00:00.000002003", D::DTType_date, "Micro-Second [2] for type date");
-    expect(u"2001-05-12T00:00:00.000000003", D::DTType_date, "Nano-Second [3] for type date");
+    for (const Row& row :
+         {Row("13:20:30.001002003 -> Hour [13]"), Row("00:20:30.001002003 -> Minute [20]"),
+          Row("00:00:30.001002003 -> Second [30]"), Row("00:00:00.001002003 -> Milli-Second [1]"),
+          Row("00:00:00.000002003 -> Micro-Second [2]"), Row("00:00:00.000000003 -> Nano-Second [3]")})
+        expect((u"2001-05-12T" + row.text).c_str(), D::DTType_date, row.expected + " for type date");
 }
 
-/// Reads a field, or sets it to 200, which most fields must not be.
+/// Sets a field, unless to zero, and reads it.
 template <auto Get, auto Set>
-void Access(CDateTime& value, bool set) {
-    set ? (value.*Set)(200) : static_cast<void>((value.*Get)());
+int Access(CDateTime& value, int number) {
+    if (number)
+        (value.*Set)(static_cast<std::uint8_t>(number));
+    return static_cast<int>((value.*Get)());
 }
 
 TEST(CDateTime, GettersAndSettersAskTheKindAndNotTheRange) {
     using D = CDateTime;
     const struct {
-        const char *name, *kinds; // the numbers of the kinds that have the field
-        void (*access)(D&, bool set);
+        std::string name, kinds; // the numbers of the kinds that have the field
+        int (*access)(D&, int number);
     } rows[] = {{"Year", "1234", Access<&D::GetYear, &D::SetYear>},
                 {"Month", "12378", Access<&D::GetMonth, &D::SetMonth>},
                 {"Day", "1268", Access<&D::GetDay, &D::SetDay>},
@@ -213,33 +215,23 @@ TEST(CDateTime, GettersAndSettersAskTheKindAndNotTheRange) {
                 {"MilliSecond", "15", Access<&D::GetMilliSecond, &D::SetMilliSecond>},
                 {"MicroSecond", "15", Access<&D::GetMicroSecond, &D::SetMicroSecond>},
                 {"NanoSecond", "15", Access<&D::GetNanoSecond, &D::SetNanoSecond>},
-                {"RealSecond", "15", [](D& d, bool) { d.GetRealSecond(); }}};
-    for (const auto& row : rows) {
-        for (int kind = 0; kind <= 8; ++kind) {
-            D value(static_cast<D::DTType>(kind));
-            const std::string failure = "Failed to Get" + std::string(row.name) +
-                                        ". Invalid Date Type: " + ToUtf8(value.GetTypeAsString()) + ".";
-            const bool has = std::string(row.kinds).find(static_cast<char>('0' + kind)) != std::string::npos;
-            for (const bool set : {false, true})
-                EXPECT_EQ(InvalidState([&] { row.access(value, set); }), has ? "no failure" : failure);
+                {"RealSecond", "15", [](D& d, int) { return static_cast<int>(d.GetRealSecond()); }}};
+    D full(2001, 5, 12, 13, 20, 1);
+    for (const auto& [name, kinds, access] : rows) {
+        for (char kind = '0'; kind <= '8'; ++kind) {
+            D value(static_cast<D::DTType>(kind - '0'));
+            const std::string refused =
+                "Failed to Get" + name + ". Invalid Date Type: " + ToUtf8(value.GetTypeAsString()) + ".";
+            const bool has = kinds.find(kind) != std::string::npos;
+            for (const int number : {0, 200})
+                EXPECT_EQ(InvalidState([&, get = access] { get(value, number); }),
+                          has ? "no failure" : refused);
         }
     }
-    D value(2001, 5, 12, 13, 20, 1, 2, 3, 4);
-    value.SetYear(-12345);
-    value.SetMonth(6);
-    value.SetDay(7);
-    value.SetHour(8);
-    value.SetMinute(9);
-    value.SetSecond(10);
-    value.SetMilliSecond(500);
-    value.SetMicroSecond(12);
-    value.SetNanoSecond(13);
-    EXPECT_EQ(value.ToString(), u"-12345-06-07T08:09:10.500012013");
-    EXPECT_EQ(value.GetRealSecond(), 500 / 1000.0 + 10 + 12 / 1e6 + 13 / 1e9);
-    EXPECT_EQ((std::vector<int>{value.GetYear(), value.GetMonth(), value.GetDay(), value.GetHour(),
-                                value.GetMinute(), value.GetSecond(), value.GetMicroSecond(),
-                                value.GetNanoSecond()}),
-              (std::vector<int>{-12345, 6, 7, 8, 9, 10, 12, 13}));
+    for (int i = 0; i < 9; ++i)
+        EXPECT_EQ(rows[i].access(full, 11 + i), 11 + i);
+    EXPECT_EQ(full.ToString(), u"0011-12-13T14:15:16.017018019");
+    EXPECT_EQ(full.GetRealSecond(), 17 / 1000.0 + 16 + 18 / 1e6 + 19 / 1e9);
     EXPECT_EQ(D(static_cast<D::DTType>(9)).GetTypeAsString(), u"");
 }
 

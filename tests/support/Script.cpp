@@ -1,4 +1,4 @@
-#include "support/FastInfoset.h"
+#include "support/Script.h"
 
 #include <KzXmlLib10/object/Text.h>
 
@@ -41,12 +41,11 @@ void Call(CXmlWriter& writer, const std::string& word) {
 
 } // namespace
 
-ScriptedObject::ScriptedObject(const std::string& words)
-    : m_script([words](CXmlWriter& writer) {
-          std::istringstream stream(words);
-          for (std::string word; stream >> word;)
-              Call(writer, word);
-      }) {}
+void RunScript(CXmlWriter& writer, const std::string& words) {
+    std::istringstream stream(words);
+    for (std::string word; stream >> word;)
+        Call(writer, word);
+}
 
 CBinaryData HexBytes(const std::string& text) {
     CBinaryData bytes;
