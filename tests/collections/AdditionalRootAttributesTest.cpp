@@ -1,12 +1,4 @@
 #include "support/Model.h"
-#include "support/Test.h"
-
-#include <KzXmlLib10/collections/CAttributeCol.h>
-#include <KzXmlLib10/object/CXmlSerializationContext.h>
-
-#include <thread>
-
-using namespace KzXmlLib10;
 
 namespace {
 
@@ -35,20 +27,6 @@ TEST(AdditionalRootAttributes, AreSharedByCopiesMadeAfterwards) {
     assigned.GetAdditionalRootAttributes()->Add(u"b");
     EXPECT_EQ(source.GetAdditionalRootAttributes()->GetCount(), 2);
     EXPECT_EQ(before.GetAdditionalRootAttributes()->GetCount(), 0);
-}
-
-TEST(AdditionalRootAttributes, AreCreatedOnceHoweverManyThreadsAsk) {
-    for (int round = 0; round < 50; ++round) {
-        const CXmlSerializationContext context;
-        std::array<CAttributeCol*, 4> seen{};
-        std::vector<std::thread> threads;
-        for (CAttributeCol*& mine : seen)
-            threads.emplace_back([&] { mine = context.GetAdditionalRootAttributes(); });
-        for (std::thread& thread : threads)
-            thread.join();
-        for (const CAttributeCol* mine : seen)
-            ASSERT_EQ(mine, context.GetAdditionalRootAttributes());
-    }
 }
 
 } // namespace

@@ -1,14 +1,6 @@
-#include <KzXmlLib10/collections/CElement.h>
-
 #include "support/EventLog.h"
 #include "support/Model.h"
-#include "support/Test.h"
 #include "support/Threads.h"
-
-#include <KzXmlLib10/values/CBinaryData.h>
-
-using namespace KzXmlLib10;
-using namespace KzXmlLib10::support;
 
 namespace {
 

@@ -1,12 +1,4 @@
-#include "support/EventLog.h"
 #include "support/Test.h"
-
-#include <KzXmlLib10/collections/CXmlCollection.h>
-#include <KzXmlLib10/object/CXmlSerializationContext.h>
-#include <KzXmlLib10/xml/CXmlDocument.h>
-
-using namespace KzXmlLib10;
-using namespace KzXmlLib10::support;
 
 namespace {
 
@@ -20,8 +12,6 @@ public:
     using CXmlObjectBase::Choice_Read_Collection;
     using CXmlObjectBase::Choice_SelectElement;
     using CXmlObjectBase::Choice_SetElementValid;
-    using CXmlObjectBase::FireOnCollectionRemoveCompleteEvent;
-    using CXmlObjectBase::FireOnCollectionRemoveEvent;
 
 protected:
     void ToXml_Int(CXmlWriter*, bool, const char16_t*, const CXmlSerializationContext&, bool) const override {
@@ -83,17 +73,6 @@ TEST(ChoiceHelpers, ReadCollectionTakesOneRunAndChecksItsNumber) {
     EXPECT_EQ(read(5, nullptr, 0), "0null no failure") << "nothing taken, nothing counted";
     EXPECT_EQ(read(5, root->GetFirstElement(), 0),
               "0y The Minimum number of [c] elements allowed in this collection is 5");
-}
-
-TEST(CollectionEvents, TellTheIndexOfARemoval) {
-    EventLog log(nullptr);
-    CChoice collection;
-    log.Watch(collection);
-    CChoice::FireOnCollectionRemoveEvent(&log, &collection, 0);
-    CChoice::FireOnCollectionRemoveEvent(&log, &collection, -1);
-    CChoice::FireOnCollectionRemoveCompleteEvent(&log, &collection, 7);
-    CChoice::FireOnCollectionRemoveCompleteEvent(&log, &collection, -1);
-    EXPECT_EQ(log.Take(), "remove(0) remove(null) removed(7) removed(null) ");
 }
 
 } // namespace

@@ -1,14 +1,5 @@
 #include "support/Test.h"
 
-#include <KzXmlLib10/collections/CAttributeCol.h>
-#include <KzXmlLib10/collections/CElement.h>
-#include <KzXmlLib10/collections/CElementCol.h>
-#include <KzXmlLib10/object/CXmlSerializationContext.h>
-#include <KzXmlLib10/xml/CXmlDocument.h>
-
-using namespace KzXmlLib10;
-using namespace KzXmlLib10::support;
-
 namespace {
 
 const CXmlSerializationContext& Defaults() { return CXmlSerializationContext::GetDefaultContext(); }
@@ -124,27 +115,6 @@ TEST(CElementCol, ReadsEveryElementThatIsLeft) {
     elements.FromXml(u"<r><p:a xmlns:p='urn:p' xmlns='urn:d'/></r>", context);
     EXPECT_EQ(elements.Item(0)->GetName(), u"p:a");
     EXPECT_EQ(Describe(*elements.Item(0)->GetAttributes()), "xmlns:p=urn:p xmlns=urn:d");
-}
-
-TEST(CElementCol, MayBeLockedToOneName) {
-    struct CLocked : CElementCol {
-        CLocked() : CElementCol(u"", u"##any", u"", 0, -1) {}
-        std::string Run(const char16_t* xml, const char16_t* ns) {
-            CXmlDocument document;
-            document.LoadXml(xml);
-            CXmlSerializationContext context;
-            context.SetIgnoreNamespaces(true); // of no effect here
-            CXmlElement* root = document.GetDocumentElement();
-            const CXmlElement* rest =
-                FromXmlLockElementName_Int(u"a", ns, root, root->GetFirstElement(), context);
-            return Describe(*this) + (rest ? ToUtf8(rest->GetLocalName()) : "null");
-        }
-    };
-    EXPECT_EQ(CLocked().Run(u"<r/>", u""), "null");
-    EXPECT_EQ(CLocked().Run(u"<r><a/><a>1</a></r>", u""), "{}a {}a null");
-    EXPECT_EQ(CLocked().Run(u"<r><a/><b/><a/></r>", u""), "{}a b");
-    EXPECT_EQ(CLocked().Run(u"<r xmlns='urn:r'><a/><a xmlns=''/></r>", u"urn:r"), "{urn:r}a a");
-    EXPECT_EQ(CLocked().Run(u"<r xmlns='urn:r'><a/></r>", u""), "a");
 }
 
 } // namespace

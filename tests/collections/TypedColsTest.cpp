@@ -1,26 +1,11 @@
 #include "support/EventLog.h"
 #include "support/Model.h"
-#include "support/Test.h"
 #include "support/TypedCollection.h"
-
-#include <KzXmlLib10/collections/BinaryCols.h>
-#include <KzXmlLib10/collections/CalendarCols.h>
-#include <KzXmlLib10/collections/CbooleanCol.h>
-#include <KzXmlLib10/collections/CdurationCol.h>
-#include <KzXmlLib10/collections/CstringCol.h>
-#include <KzXmlLib10/collections/DateTimeCols.h>
-#include <KzXmlLib10/collections/ExactNumberCols.h>
-#include <KzXmlLib10/collections/IntegerCols.h>
-#include <KzXmlLib10/collections/RealCols.h>
-#include <KzXmlLib10/conversions/CConversions.h>
-#include <KzXmlLib10/metadata/CElementInfoSeq.h>
 
 #include <numeric>
 #include <random>
 #include <type_traits>
 
-using namespace KzXmlLib10;
-using namespace KzXmlLib10::support;
 using namespace std::literals;
 
 namespace {
@@ -172,20 +157,14 @@ TEST(PrimitiveCol, AddsBeforeItChecksIndexAndThenFacets) {
     EventLog log = LogOf<std::int32_t>(CConversions::i4ToString);
     auto items = Make<Ci4Col>({.minInclusive = u"0"});
     log.Watch(items);
-    items.Add(2);
-    EXPECT_EQ(log.Take(), "add(2) added(2) change ");
+    EXPECT_EQ(log.Of([&] { items.Add(2); }), "add(2) added(2) change ");
     items.AddAt(0, 1);
     items.AddAt(2, 3);
     EXPECT_EQ(Items(items), "<i 5:1><i 5:2><i 5:3>");
-    log.Take();
-    for (const int index : {-1, 4}) {
-        EXPECT_EQ(InvalidParam([&] { items.AddAt(index, -7); }), "Index out of range");
-        EXPECT_EQ(log.Take(), "add(-7) ");
-    }
-    EXPECT_EQ(Failure([&] { items.Add(-8); }), "Invalid Value for i [-8]");
-    EXPECT_EQ(log.Take(), "add(-8) ");
-    EXPECT_EQ(items.GetCount(), 3);
-    EXPECT_EQ(items.Item(2), 3);
+    for (const int index : {-1, 4})
+        EXPECT_EQ(log.Of([&] { items.AddAt(index, -7); }), "add(-7) Index out of range");
+    EXPECT_EQ(log.Of<CKzException>([&] { items.Add(-8); }), "add(-8) Invalid Value for i [-8]");
+    EXPECT_EQ(items.GetCount() + items.Item(2), 6);
     for (const int index : {-1, 3})
         EXPECT_EQ(InvalidParam([&] { items.Item(index); }),
                   "Index " + std::to_string(index) + " is out of range, use 0 - 3");
@@ -198,22 +177,15 @@ void ExpectEventsOfRemovals(T value) {
     EventLog log([](void*) { return ""; });
     auto items = Make<Collection>();
     log.Watch(items);
-    EXPECT_EQ(InvalidParam([&] { items.Remove(0); }), "Index 0 is out of range, use 0 - 0");
-    EXPECT_EQ(log.Take(), "remove(0) ");
-    for (int i = 0; i < 4; ++i)
+    const auto removal = [&](int index) { return log.Of([&] { items.Remove(index); }); };
+    EXPECT_EQ(removal(0), "remove(0) Index 0 is out of range, use 0 - 0");
+    for (int i = 0; i < 3; ++i)
         items.Add(value);
-    log.Take();
-    items.Remove(3);
-    EXPECT_EQ(log.Take(), "remove(3) removed(0) change ");
-    EXPECT_EQ(InvalidParam([&] { items.Remove(3); }), "Index 3 is out of range, use 0 - 3");
-    EXPECT_EQ(InvalidParam([&] { items.Remove(-1); }), "Index -1 is out of range, use 0 - 3");
-    EXPECT_EQ(log.Take(), "remove(3) remove(null) ");
-    {
-        const Collection copy(items); // has no events when it goes, though it has the listener
-    }
-    items.Clear();
-    EXPECT_EQ(log.Take(),
-              "remove(0) removed(0) change remove(0) removed(0) change remove(0) removed(0) change ");
+    EXPECT_EQ(removal(2), "remove(2) removed(0) change ");
+    EXPECT_EQ(removal(2), "remove(2) Index 2 is out of range, use 0 - 2");
+    EXPECT_EQ(removal(-1), "remove(null) Index -1 is out of range, use 0 - 2");
+    EXPECT_EQ(log.Of([&] { Collection copy(items); }), "") << "a copy has the listener and no events";
+    EXPECT_EQ(log.Of([&] { items.Clear(); }), "remove(0) removed(0) change remove(0) removed(0) change ");
 }
 
 TEST(TypedCols, RemoveCompleteReportsIndexZero) {
@@ -298,24 +270,11 @@ TEST(TypedCols, HoldWhatAVectorWouldHold) {
     }
 }
 
-TEST(TypedCols, RemovedValuesAreLetGoAtOnce) {
-    auto blobs = Make<ChexBinaryCol>();
-    CBinaryData data;
-    data.SetAsHexString(u"0A0B");
-    const unsigned char* bytes = data.GetData();
-    for (int i = 0; i < 9; ++i)
-        blobs.Add(i == 0 ? data : CBinaryData());
-    blobs.Remove(0);
-    data.Append(bytes, 0); // would leave shared bytes to the others
-    EXPECT_EQ(data.GetData(), bytes);
-}
-
 TEST(TypedCols, TextsFromCodeStandAsTheyAre) {
     EventLog log = LogOf<std::u16string>(CConversions::stringToString);
     auto items = Make<CstringCol>({.pattern = u"[a-z ]+", .minLength = 3});
     log.Watch(items);
-    items.Add(u" a ");
-    EXPECT_EQ(log.Take(), "add( a ) added( a ) change ");
+    EXPECT_EQ(log.Of([&] { items.Add(u" a "); }), "add( a ) added( a ) change ");
     EXPECT_EQ(items.Item(0), u" a ");
     EXPECT_EQ(Failure([&] { items.Add(u"AB"); }), "Invalid Value for i [AB]");
     EXPECT_EQ(Failure([&] { CollectionOwner(items).Read(u"<i> a </i>"); }), "Invalid Value for i [a]");
@@ -323,13 +282,10 @@ TEST(TypedCols, TextsFromCodeStandAsTheyAre) {
 }
 
 TEST(TypedCols, BooleansHaveNoFacetsAndBinaryDataHasLengths) {
-    EventLog log = LogOf<bool>(CConversions::booleanToString);
     auto flags = Make<CbooleanCol>({.pattern = u"(", .minLength = 9, .minInclusive = u"x"});
-    log.Watch(flags);
     flags.Add(true);
     flags.AddAt(0, false);
-    EXPECT_EQ(log.Take(), "add(true) added(true) change add(false) added(false) change ");
-    EXPECT_TRUE(flags.Item(1) && !flags.Item(0));
+    EXPECT_EQ(Items(flags), "<i 24:false><i 24:true>");
 
     auto blobs = Make<Cbase64BinaryCol>({.minLength = 2});
     CBinaryData data;
@@ -348,24 +304,19 @@ TEST(DateTimeCols, CheckKindAndFacetsBeforeTheEventAndTheIndexBehindIt) {
     auto items = Make<CdateCol>({.minInclusive = u"2001-05-05"});
     log.Watch(items);
     CdatetimeBaseCol& base = items;
-    base.Add(CDateTime(2001, 5, 6));
-    EXPECT_EQ(log.Take(), "add(2001-05-06) added(2001-05-06) change ");
+    EXPECT_EQ(log.Of([&] { base.Add(CDateTime(2001, 5, 6)); }), "add(2001-05-06) added(2001-05-06) change ");
     base.AddAt(0, CDateTime(2001, 5, 5));
     base.AddAt(2, *base.begin()); // a value of its own
     EXPECT_EQ(Items(items), "<i 20:2001-05-05><i 20:2001-05-06><i 20:2001-05-05>");
     EXPECT_EQ(base.Item(1), CDateTime(2001, 5, 6));
     EXPECT_EQ(InvalidParam([&] { base.Item(3); }), "Index 3 is out of range, use 0 - 3");
-    log.Take();
 
     const CDateTime wrongKind(2001, 1, 1, 0, 0, 0), tooLow(2001, 5, 4), good(2001, 5, 7);
-    EXPECT_EQ(InvalidParam([&] { base.AddAt(9, wrongKind); }),
+    EXPECT_EQ(log.Of([&] { base.AddAt(9, wrongKind); }),
               "Dates added to this collection must be of type dt_date");
-    EXPECT_EQ(Failure([&] { base.AddAt(9, tooLow); }), "Invalid Value for i [2001-05-04]");
-    EXPECT_EQ(log.Take(), "");
-    for (const int index : {-1, 4}) {
-        EXPECT_EQ(InvalidParam([&] { base.AddAt(index, good); }), "Index out of range");
-        EXPECT_EQ(log.Take(), "add(2001-05-07) ");
-    }
+    EXPECT_EQ(log.Of<CKzException>([&] { base.AddAt(9, tooLow); }), "Invalid Value for i [2001-05-04]");
+    for (const int index : {-1, 4})
+        EXPECT_EQ(log.Of([&] { base.AddAt(index, good); }), "add(2001-05-07) Index out of range");
     EXPECT_EQ(base.GetCount(), 3);
 }
 

@@ -1,13 +1,9 @@
-#include <KzXmlLib10/conversions/CConversions.h>
-
 #include "support/Test.h"
 
 #include <bit>
 #include <charconv>
 #include <cmath>
 
-using namespace KzXmlLib10;
-using namespace KzXmlLib10::support;
 using namespace std::literals;
 
 namespace {

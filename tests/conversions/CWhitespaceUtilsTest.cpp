@@ -1,8 +1,5 @@
-#include <KzXmlLib10/conversions/CWhitespaceUtils.h>
-
 #include "support/Test.h"
 
-using namespace KzXmlLib10;
 using namespace std::literals;
 using W = CWhitespaceUtils;
 

@@ -1,13 +1,4 @@
-#include <KzXmlLib10/conversions/FacetChecks.h>
-
 #include "support/Test.h"
-
-#include <KzXmlLib10/conversions/CConversions.h>
-#include <KzXmlLib10/conversions/CPrimitiveRestrictions.h>
-#include <KzXmlLib10/values/KzVariant.h>
-
-using namespace KzXmlLib10;
-using namespace KzXmlLib10::support;
 
 namespace {
 
@@ -155,12 +146,9 @@ TEST(FacetChecks, LengthsAndPatternsOfTexts) {
 TEST(FacetChecks, KindsWithoutACheckAreRefused) {
     KzVariant value;
     value.SetChar(u'a');
-    const auto check = [&](ItemType type) {
-        return InvalidValue(
-            [&] { CheckPrimitiveRestrictions(u"name", value, type, CPrimitiveRestrictions()); });
-    };
-    EXPECT_EQ(check(ItemType_char), "unknown type [char]");
-    EXPECT_EQ(check(ItemType_xmlObject), "unknown type [char]");
+    for (const ItemType type : {ItemType_char, ItemType_xmlObject})
+        EXPECT_EQ(InvalidValue([&] { CheckPrimitiveRestrictions(u"name", value, type, {}); }),
+                  "unknown type [char]");
 }
 
 TEST(FacetChecks, RestrictionsRefuseNullTexts) {

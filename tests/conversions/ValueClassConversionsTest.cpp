@@ -1,10 +1,6 @@
 #include "support/Test.h"
 
-#include <KzXmlLib10/conversions/CConversions.h>
-
-using namespace KzXmlLib10;
 using namespace std::literals;
-using namespace KzXmlLib10::support;
 
 namespace {
 
@@ -36,17 +32,10 @@ TEST(ValueClassConversions, TheFormOfADateDecidesOnItsKind) {
 }
 
 TEST(ValueClassConversions, FailuresOfTheClassesPassUnchanged) {
-    EXPECT_EQ(Failure([] { C::hexBinaryFromString(u"0", none); }), "Invalid length in hex string");
     EXPECT_EQ(Failure([] { C::hexBinaryFromString(u" 00 ", none); }), "Invalid char in hex string [ ]");
     EXPECT_EQ(C::base64BinaryFromString(u"AQ*=", none).GetLength(), 0u);
-    EXPECT_EQ(InvalidValue([] { C::integerFromString(u"12x", none); }),
-              "The string representing a Decimal, contained an invalid char at position 2 [12x]");
-    EXPECT_EQ(InvalidValue([] { C::decimalFromString(u"1.2.3", none); }),
-              "The string representing a Decimal, contained an invalid char at position 3 [1.2.3]");
     EXPECT_EQ(InvalidValue([] { C::durationFromString(u" P ", collapse); }),
               "Invalid XSD Duration [P] expected [-]P[nY][nM][nD][T[nH][nM][nS.ff]]");
-    EXPECT_EQ(InvalidValue([] { C::datetimeFromString(u"2001-05-06", none); }),
-              "Invalid XSD DateTime [2001-05-06]");
     EXPECT_EQ(InvalidValue([] { C::timeFromString(u"", none); }), "Invalid XSD Time (Empty String)");
 }
 

@@ -1,8 +1,5 @@
-#include <KzXmlLib10/conversions/XsdPattern.h>
-
 #include "support/Test.h"
 
-using namespace KzXmlLib10;
 using namespace std::literals;
 
 namespace {

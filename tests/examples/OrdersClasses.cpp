@@ -4,18 +4,11 @@
 #include "classes/CShipment.h"
 #include "support/Test.h"
 
-#include <KzXmlLib10/edges/Chrono.h>
-#include <KzXmlLib10/edges/FailureFrames.h>
-#include <KzXmlLib10/edges/ReadAndWrite.h>
-#include <KzXmlLib10/edges/Records.h>
-#include <KzXmlLib10/object/CXmlSerializationContext.h>
-
 #include <fstream>
 #include <regex>
 #include <thread>
 
 using namespace orders;
-using namespace KzXmlLib10::support;
 
 namespace {
 

@@ -1,11 +1,4 @@
-#include <KzXmlLib10/fastinfoset/CFastInfosetContext.h>
-
 #include "support/Test.h"
-
-#include <KzXmlLib10/object/CXmlSerializationContext.h>
-
-using namespace KzXmlLib10;
-using namespace KzXmlLib10::support;
 
 namespace {
 

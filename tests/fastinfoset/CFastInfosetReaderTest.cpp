@@ -1,16 +1,8 @@
 #include "fastinfoset/CFastInfosetReader.h"
-
 #include "support/Bytes.h"
 #include "support/DumpTree.h"
-#include "support/Script.h"
 #include "support/Model.h"
-#include "support/Test.h"
-
-#include <KzXmlLib10/xml/CXmlDocument.h>
-#include <KzXmlLib10/xml/Compression.h>
-
-using namespace KzXmlLib10;
-using namespace KzXmlLib10::support;
+#include "support/Script.h"
 
 namespace {
 

@@ -3,13 +3,8 @@
 #include "fastinfoset/IntegerRules.h"
 #include "fastinfoset/RestrictedAlphabet.h"
 #include "support/Script.h"
-#include "support/Test.h"
 
-#include <KzXmlLib10/fastinfoset/CFastInfosetBinaryData.h>
-
-using namespace KzXmlLib10;
 using namespace KzXmlLib10::fastinfoset;
-using namespace KzXmlLib10::support;
 
 namespace {
 

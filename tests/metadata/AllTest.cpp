@@ -1,7 +1,6 @@
 /// All groups: children in any order, each at most once.
 
 #include "support/Roundtrip.h"
-#include "support/Test.h"
 
 using namespace kit;
 

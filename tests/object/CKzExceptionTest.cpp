@@ -1,11 +1,7 @@
-#include <KzXmlLib10/object/CKzException.h>
-
 #include "object/Throw.h"
 #include "support/Test.h"
 
 #include <exception>
-
-using namespace KzXmlLib10;
 
 namespace {
 

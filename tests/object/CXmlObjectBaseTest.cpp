@@ -1,11 +1,5 @@
-#include <KzXmlLib10/object/CXmlObjectBase.h>
-
-#include "support/Script.h"
 #include "support/Model.h"
-#include "support/Test.h"
-
-using namespace KzXmlLib10;
-using namespace KzXmlLib10::support;
+#include "support/Script.h"
 
 namespace {
 

@@ -1,21 +1,6 @@
-#include <KzXmlLib10/object/CXmlSerializationContext.h>
-
 #include "support/Test.h"
 
-using namespace KzXmlLib10;
-using namespace KzXmlLib10::support;
-
 namespace {
-
-TEST(CXmlSerializationContext, Defaults) {
-    const CXmlSerializationContext context;
-    EXPECT_TRUE(context.GetWriteTypeAttribute());
-    EXPECT_TRUE(context.GetStripCDATA());
-    EXPECT_FALSE(context.GetIgnoreInvalidCollectionCounts() || context.GetIgnoreMissingChoice() ||
-                 context.GetIgnoreMissingMandatoryElements() || context.GetIgnoreUnknownElements() ||
-                 context.GetIgnoreUnknownAttributes() || context.GetIgnoreNamespaces() ||
-                 context.GetNoOptionalAttributeDefaultOutput());
-}
 
 TEST(CXmlSerializationContext, SchemaTypeWithoutNamespacesIgnoresThemWhateverTheFlag) {
     CXmlSerializationContext context;

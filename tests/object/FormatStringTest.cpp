@@ -1,8 +1,4 @@
-#include <KzXmlLib10/object/FormatString.h>
-
 #include "support/Test.h"
-
-using namespace KzXmlLib10;
 
 namespace {
 

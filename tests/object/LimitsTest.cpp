@@ -1,25 +1,7 @@
-#include <KzXmlLib10/object/Limits.h>
-
 #include "object/RecursionLevel.h"
 #include "support/Bytes.h"
-#include "support/Failure.h"
 #include "support/LimitsScope.h"
 #include "support/Threads.h"
-
-#include <KzXmlLib10/collections/CElement.h>
-#include <KzXmlLib10/conversions/XsdPattern.h>
-#include <KzXmlLib10/object/CXmlSerializationContext.h>
-#include <KzXmlLib10/values/CDecimal.h>
-#include <KzXmlLib10/xml/CXmlDocument.h>
-
-#include <gtest/gtest.h>
-
-#include <functional>
-#include <limits>
-#include <string>
-
-using namespace KzXmlLib10;
-using namespace KzXmlLib10::support;
 
 namespace {
 

@@ -1,7 +1,5 @@
 #include "support/Test.h"
 
-using namespace KzXmlLib10;
-
 namespace {
 
 TEST(Text, EveryLengthOfUtf8GoesBothWays) {

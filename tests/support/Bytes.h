@@ -1,9 +1,6 @@
 #pragma once
 
-#include <KzXmlLib10/values/CBinaryData.h>
-#include <KzXmlLib10/xml/Compression.h>
-
-#include <string>
+#include "support/Test.h"
 
 namespace KzXmlLib10::support {
 

@@ -1,7 +1,5 @@
 #include "support/DumpTree.h"
 
-#include <KzXmlLib10/object/Text.h>
-
 namespace KzXmlLib10::support {
 
 namespace {

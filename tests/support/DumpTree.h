@@ -1,8 +1,6 @@
 #pragma once
 
-#include <KzXmlLib10/xml/CXmlElement.h>
-
-#include <string>
+#include "support/Test.h"
 
 namespace KzXmlLib10::support {
 

@@ -1,10 +1,6 @@
 #pragma once
 
-#include <KzXmlLib10/collections/CXmlCollectionBase.h>
-
-#include <functional>
-#include <string>
-#include <utility>
+#include "support/Test.h"
 
 namespace KzXmlLib10::support {
 
@@ -40,6 +36,14 @@ public:
 
     /// The events since the last call.
     std::string Take() { return std::exchange(m_events, std::string()); }
+
+    /// The events of the action alone, and behind them the message of its failure, if it fails.
+    template <class E = CKzInvalidParamException, class Action>
+    std::string Of(Action action) {
+        m_events.clear();
+        const std::string failure = Failure<E>(action);
+        return Take() + (failure == "no failure" ? "" : failure);
+    }
 
     /// What the listener does besides, if anything: it may throw, or change the collection.
     std::function<void(MsgType)> during;

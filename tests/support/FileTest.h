@@ -1,11 +1,8 @@
 #pragma once
 
 #include "support/TempDir.h"
+#include "support/Test.h"
 #include "xml/AsyncFiles.h"
-
-#include <KzXmlLib10/xml/AsyncFiles.h>
-
-#include <gtest/gtest.h>
 
 namespace KzXmlLib10::support {
 

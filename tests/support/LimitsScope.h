@@ -1,6 +1,6 @@
 #pragma once
 
-#include <KzXmlLib10/object/Limits.h>
+#include "support/Test.h"
 
 #include <cstdint>
 

@@ -1,11 +1,5 @@
 #include "support/Model.h"
 
-#include <KzXmlLib10/metadata/CElementInfoAll.h>
-#include <KzXmlLib10/metadata/CElementInfoChoice.h>
-#include <KzXmlLib10/metadata/CElementInfoSeq.h>
-#include <KzXmlLib10/xml/CXmlElement.h>
-
-#include <stdexcept>
 #include <string_view>
 
 namespace kit {
@@ -49,9 +43,9 @@ std::u16string CModelObject::GetNamespace() const { return m_model.m_namespace; 
 CParentElementInfo* CModelObject::GetClassInfo() const {
     if (!m_model.m_info)
         m_model.m_info = std::make_unique<CParentElementInfo>(
-            m_model.m_group, m_model.m_type, m_model.m_name.c_str(), m_model.m_namespace.c_str(),
-            m_model.m_failIfAttributeUnknown, m_model.m_hasBaseClasses, m_model.m_contentProperty,
-            m_model.m_contentType, m_model.m_contentFormat.c_str(), m_model.m_contentAsText);
+            m_model.m_group, m_model.m_type, m_model.m_name.c_str(), m_model.m_namespace.c_str(), true,
+            m_model.m_hasBaseClasses, m_model.m_contentProperty, m_model.m_contentType,
+            m_model.m_contentFormat.c_str(), m_model.m_contentAsText);
     return m_model.m_info.get();
 }
 CElementInfo** CModelObject::GetClassElementInfo() const { return m_model.m_elements.data(); }
@@ -142,10 +136,6 @@ Model::~Model() {
         delete attribute;
 }
 
-Model& Model::AllowUnknownAttributes() {
-    m_failIfAttributeUnknown = false;
-    return *this;
-}
 Model& Model::HasBaseClasses() {
     m_hasBaseClasses = true;
     return *this;
@@ -241,16 +231,14 @@ Model& Model::Class(const char16_t* name, Cardinality cardinality, const Model& 
     const char16_t* ns = m_namespace.c_str();
     const int property = NextProperty();
     if (cardinality == Mnd && m_group != XmlElementGroupType_Choice) {
-        const std::u16string childName = name;
-        m_held.push_back(
-            {property,
-             [&child, childName] { return static_cast<CXmlObjectBase*>(child.NewRaw(childName.c_str())); },
-             false});
-        if (m_group == XmlElementGroupType_All)
-            return Element(new CElementInfoAllClsMnd(name, ns, property, child.m_type, Create,
-                                                     child.m_classId, consumeRequired));
-        return Element(new CElementInfoSeqClsMnd(name, ns, property, child.m_type, Create, child.m_classId,
-                                                 consumeRequired));
+        const auto make = [&child, childName = std::u16string(name)]() -> CXmlObjectBase* {
+            return child.NewRaw(childName.c_str());
+        };
+        m_held.push_back({property, make, false});
+        using MandatoryLeaves = Leaf<CElementInfoSeqClsMnd, CElementInfoSeqClsMnd, CElementInfoSeqClsMnd,
+                                     CElementInfoAllClsMnd, CElementInfoAllClsMnd>;
+        return Element(MandatoryLeaves::Make(m_group, Mnd, name, ns, property, child.m_type, Create,
+                                             child.m_classId, consumeRequired));
     }
     using Leaves = Leaf<CElementInfoSeqClsOpt, CElementInfoSeqClsOpt, CElementInfoChoiceClsOpt,
                         CElementInfoAllClsOpt, CElementInfoAllClsOpt>;

@@ -1,12 +1,5 @@
 #include "support/Roundtrip.h"
 
-#include "support/Test.h"
-
-#include <KzXmlLib10/collections/CAttribute.h>
-#include <KzXmlLib10/collections/CAttributeCol.h>
-#include <KzXmlLib10/collections/CElement.h>
-#include <KzXmlLib10/collections/CElementCol.h>
-
 namespace kit {
 
 namespace {

@@ -1,9 +1,5 @@
 #include "support/Script.h"
 
-#include <KzXmlLib10/object/Text.h>
-
-#include <sstream>
-
 namespace KzXmlLib10::support {
 
 namespace {

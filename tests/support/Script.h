@@ -1,12 +1,6 @@
 #pragma once
 
-#include <KzXmlLib10/object/CXmlObjectBase.h>
-#include <KzXmlLib10/object/CXmlSerializationContext.h>
-#include <KzXmlLib10/values/CBinaryData.h>
-#include <KzXmlLib10/xml/CXmlWriter.h>
-
-#include <functional>
-#include <string>
+#include "support/Test.h"
 
 namespace KzXmlLib10::support {
 

@@ -1,15 +1,10 @@
 #pragma once
 
-#include <KzXmlLib10/object/Text.h>
+#include "support/Test.h"
 
 #include <filesystem>
 #include <fstream>
-#include <iterator>
-#include <sstream>
-#include <stdexcept>
 #include <stdlib.h>
-#include <string>
-#include <utility>
 
 namespace KzXmlLib10::support {
 

@@ -1,7 +1,12 @@
 #pragma once
 
+/// What every test may use: GoogleTest, the standard library, the whole library under test, tables of rows
+/// and the messages of failures, by names that stand alone.
+
 #include "support/Failure.h"
 #include "support/Row.h"
+
+#include <KzXmlLib10/KzXmlLib10.h>
 
 #include <gtest/gtest.h>
 
@@ -21,7 +26,6 @@
 #include <utility>
 #include <vector>
 
-/// What every test may use: GoogleTest, the standard library, tables of rows and the messages of failures.
 namespace KzXmlLib10::support {
 
 inline constexpr auto InvalidValue = [](auto action) { return Failure<CKzInvalidValueException>(action); };
@@ -36,3 +40,6 @@ void ExpectRows(std::initializer_list<Row> rows, Actual actual) {
 }
 
 } // namespace KzXmlLib10::support
+
+using namespace KzXmlLib10;
+using namespace KzXmlLib10::support;

@@ -2,13 +2,6 @@
 
 #include "support/Script.h"
 
-#include <KzXmlLib10/collections/CXmlTypeCollection.h>
-#include <KzXmlLib10/object/CXmlSerializationContext.h>
-#include <KzXmlLib10/object/Text.h>
-#include <KzXmlLib10/xml/CXmlWriter.h>
-
-#include <string>
-
 namespace KzXmlLib10::support {
 
 /// The arguments of a typed collection, as a generator would give them for a field without facets.

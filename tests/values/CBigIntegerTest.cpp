@@ -1,11 +1,4 @@
-#include <KzXmlLib10/values/CBigInteger.h>
-
 #include "values/Numbers.h"
-
-#include <KzXmlLib10/values/CDecimal.h>
-
-using namespace KzXmlLib10;
-using namespace KzXmlLib10::support;
 
 namespace {
 

@@ -1,12 +1,6 @@
-#include <KzXmlLib10/values/CBinaryData.h>
-
 #include "support/Bytes.h"
-#include "support/Test.h"
 
 #include <thread>
-
-using namespace KzXmlLib10;
-using namespace KzXmlLib10::support;
 
 namespace {
 

@@ -2,9 +2,6 @@
 
 #include <random>
 
-using namespace KzXmlLib10;
-using namespace KzXmlLib10::support;
-
 namespace {
 
 /// Compares the sum of each value and duration, or the message of the failure.

@@ -5,9 +5,6 @@
 #include <cstring>
 #include <ctime>
 
-using namespace KzXmlLib10;
-using namespace KzXmlLib10::support;
-
 namespace {
 
 /// The time zone of the process, until the end of a scope.

@@ -1,8 +1,5 @@
 #include "values/Dates.h"
 
-using namespace KzXmlLib10;
-using namespace KzXmlLib10::support;
-
 namespace {
 
 void ExpectAnswers(std::initializer_list<std::string> rows) { support::ExpectAnswers(Moment, rows); }

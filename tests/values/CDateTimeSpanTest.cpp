@@ -1,8 +1,5 @@
 #include "values/Dates.h"
 
-using namespace KzXmlLib10;
-using namespace KzXmlLib10::support;
-
 namespace {
 
 /// The text of what is read, or the message of the failure.

@@ -1,8 +1,5 @@
 #include "values/Dates.h"
 
-using namespace KzXmlLib10;
-using namespace KzXmlLib10::support;
-
 namespace {
 
 using Parser = void (CDateTime::*)(const char16_t*);

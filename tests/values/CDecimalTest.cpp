@@ -1,9 +1,4 @@
-#include <KzXmlLib10/values/CDecimal.h>
-
 #include "values/Numbers.h"
-
-using namespace KzXmlLib10;
-using namespace KzXmlLib10::support;
 
 namespace {
 

@@ -2,8 +2,6 @@
 
 #include "support/Test.h"
 
-#include <KzXmlLib10/values/CDateTimeSpan.h>
-
 namespace KzXmlLib10::support {
 
 /// A dateTime if there is a T in the text, a time if it begins like one, otherwise a date.

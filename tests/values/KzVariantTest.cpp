@@ -1,10 +1,4 @@
-#include <KzXmlLib10/values/KzVariant.h>
-
 #include "support/Script.h"
-#include "support/Test.h"
-
-using namespace KzXmlLib10;
-using namespace KzXmlLib10::support;
 
 namespace {
 

@@ -1,15 +1,10 @@
 #include "xml/AsyncFiles.h"
-
 #include "support/FileTest.h"
-#include "support/Test.h"
 
 #include <cerrno>
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
-
-using namespace KzXmlLib10;
-using namespace KzXmlLib10::support;
 
 namespace {
 
@@ -34,27 +29,6 @@ std::string ReadBlock(AsyncFile& file, std::uint64_t offset, std::size_t length)
     if (started != 0)
         return '[' + std::to_string(started) + (finished == started ? " twice]" : "]");
     return buffer.substr(0, count);
-}
-
-TEST_F(AsyncFileTest, ReadsBlocksAndAsksForTheNextBlock) {
-    static std::vector<off_t> advised;
-    advised.clear();
-    systemCalls.advise = [](int, off_t offset, off_t length, int advice) {
-        if (advice == POSIX_FADV_WILLNEED)
-            advised.insert(advised.end(), {offset, length});
-        return 0;
-    };
-    m_dir.Write("f", "0123456789");
-    AsyncFile file;
-    ASSERT_EQ(file.OpenForReading(m_dir.Path16("f")), 0);
-    std::string blocks;
-    for (const std::uint64_t offset : {0, 5, 10, 8})
-        blocks += ReadBlock(file, offset, 5) + ' ';
-    EXPECT_EQ(blocks, "01234 56789 [38 twice] 89 ");
-    EXPECT_EQ(advised, (std::vector<off_t>{5, 5, 10, 5}));
-    std::vector<unsigned char> whole(11);
-    EXPECT_EQ(file.ReadAll(whole.data(), 10), 0);
-    EXPECT_EQ(file.ReadAll(whole.data(), 11), AsyncFile::EndOfFile);
 }
 
 TEST_F(AsyncFileTest, WritesAtOffsetsBeyond32Bits) {

@@ -1,10 +1,4 @@
-#include <KzXmlLib10/xml/CStringBuffer.h>
-
 #include "support/Test.h"
-
-#include <KzXmlLib10/xml/CTextStream.h>
-
-using namespace KzXmlLib10;
 
 namespace {
 

@@ -1,18 +1,12 @@
 #include "support/Bytes.h"
 #include "support/DumpTree.h"
 #include "support/FileTest.h"
-#include "support/Test.h"
-
-#include <KzXmlLib10/xml/CXmlDocument.h>
 
 #include <cerrno>
 #include <sys/stat.h>
 #include <unistd.h>
 
-namespace KzXmlLib10 {
 namespace {
-
-using namespace support;
 
 constexpr std::size_t blockSize = 131072;
 const std::string malformed = "not well-formed (invalid token) at line 1";
@@ -183,4 +177,3 @@ TEST_F(CXmlDocumentLoad, GoesOnWhereTheLastLoadInBlocksEnded) {
 }
 
 } // namespace
-} // namespace KzXmlLib10

@@ -1,10 +1,5 @@
-#include <KzXmlLib10/xml/CXmlTextWriter.h>
-
 #include "support/Script.h"
-#include "support/Test.h"
 
-using namespace KzXmlLib10;
-using namespace KzXmlLib10::support;
 using namespace std::literals;
 
 namespace {

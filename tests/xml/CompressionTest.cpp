@@ -1,11 +1,5 @@
-#include <KzXmlLib10/xml/Compression.h>
-
 #include "support/Bytes.h"
 #include "support/LimitsScope.h"
-#include "support/Test.h"
-
-using namespace KzXmlLib10;
-using namespace KzXmlLib10::support;
 
 namespace {
 

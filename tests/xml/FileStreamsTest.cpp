@@ -1,16 +1,9 @@
 // The two roads of text into a file: whole, by CFileBinaryStream, and block by block, by CFileTextStream.
 
 #include "support/FileTest.h"
-#include "support/Test.h"
-
-#include <KzXmlLib10/xml/CFileBinaryStream.h>
-#include <KzXmlLib10/xml/CFileTextStream.h>
 
 #include <cerrno>
 #include <unistd.h>
-
-using namespace KzXmlLib10;
-using namespace KzXmlLib10::support;
 
 namespace {
 
