@@ -1,4 +1,5 @@
 #include "support/Model.h"
+#include "support/Test.h"
 
 namespace {
 

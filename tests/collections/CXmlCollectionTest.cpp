@@ -1,5 +1,6 @@
 #include "support/EventLog.h"
 #include "support/Script.h"
+#include "support/Test.h"
 
 namespace {
 

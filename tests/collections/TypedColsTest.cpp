@@ -1,5 +1,6 @@
 #include "support/EventLog.h"
 #include "support/Model.h"
+#include "support/Test.h"
 #include "support/TypedCollection.h"
 
 #include <numeric>

@@ -1,18 +1,8 @@
-#include <KzXmlLib10/edges/FailureFrames.h>
-
 #include "support/Bytes.h"
 #include "support/FileTest.h"
 #include "support/LimitsScope.h"
 #include "support/Model.h"
 
-#include <KzXmlLib10/collections/CAttributeCol.h>
-#include <KzXmlLib10/collections/CstringCol.h>
-#include <KzXmlLib10/edges/ReadAndWrite.h>
-#include <KzXmlLib10/values/CDecimal.h>
-
-#include <gtest/gtest.h>
-
-namespace KzXmlLib10 {
 namespace {
 
 using kit::Mnd;
@@ -135,4 +125,3 @@ TEST_F(FailureFramesTest, WhatIsNoFailureOfADocumentHasTheKindOfItsClass) {
 }
 
 } // namespace
-} // namespace KzXmlLib10

@@ -1,26 +1,11 @@
-#include <KzXmlLib10/edges/ReadAndWrite.h>
-
-#include "support/Failure.h"
 #include "support/FileTest.h"
 #include "support/Model.h"
 
-#include <KzXmlLib10/collections/CElement.h>
-#include <KzXmlLib10/collections/CKzIterator.h>
-#include <KzXmlLib10/collections/CbooleanCol.h>
-#include <KzXmlLib10/collections/CstringCol.h>
-#include <KzXmlLib10/edges/Ranges.h>
-#include <KzXmlLib10/xml/CXmlDocument.h>
-
-#include <gtest/gtest.h>
-
-#include <algorithm>
 #include <ranges>
 
-namespace KzXmlLib10 {
 namespace {
 
 using kit::Mnd;
-using support::Failure;
 
 class ReadAndWriteTest : public support::FileTest {
 protected:
@@ -75,10 +60,10 @@ TEST_F(ReadAndWriteTest, TextHasTheStyleAndTheContextAskedFor) {
 }
 
 TEST_F(ReadAndWriteTest, FailuresAreThoseOfTheLibraryAndLoseNothing) {
-    EXPECT_EQ(Failure<CKzInvalidValueException>([&] { WriteText(*Note(u"a\xD800")); }),
+    EXPECT_EQ(InvalidValue([&] { WriteText(*Note(u"a\xD800")); }),
               "Malformed UTF-16: surrogate without its partner at position 37");
     m_dir.Write("kept", "as it was");
-    EXPECT_EQ(Failure<CKzInvalidValueException>([&] { WriteFile(*Note(u"\xDC00"), m_dir.Path("kept")); }),
+    EXPECT_EQ(InvalidValue([&] { WriteFile(*Note(u"\xDC00"), m_dir.Path("kept")); }),
               "Malformed UTF-16: surrogate without its partner at position 36");
     EXPECT_EQ(m_dir.Read("kept"), "as it was");
     const CSmartPtr<kit::CModelObject> note = m_note.New();
@@ -86,9 +71,8 @@ TEST_F(ReadAndWriteTest, FailuresAreThoseOfTheLibraryAndLoseNothing) {
     EXPECT_EQ(Failure([&] { Read(*note, "<note>\n<"); }), "unclosed token at line 2");
     EXPECT_EQ(Failure([&] { ReadFile(*note, "/none"); }),
               "Failed to open the file [/none] Error [0x00000002]");
-    EXPECT_EQ(Failure<CKzInvalidValueException>([&] { ReadFile(*note, "\xFF"); }),
-              "Malformed UTF-8 at byte 0");
-    EXPECT_EQ(Failure<CKzInvalidValueException>([&] { ReadFile(*note, std::string("kept\0x", 6)); }),
+    EXPECT_EQ(InvalidValue([&] { ReadFile(*note, "\xFF"); }), "Malformed UTF-8 at byte 0");
+    EXPECT_EQ(InvalidValue([&] { ReadFile(*note, std::string("kept\0x", 6)); }),
               "A file name cannot hold a zero");
 }
 
@@ -120,4 +104,3 @@ TEST(Ranges, CollectionsAndDocumentsAreWalked) {
 }
 
 } // namespace
-} // namespace KzXmlLib10

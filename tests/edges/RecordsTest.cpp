@@ -1,28 +1,16 @@
-#include <KzXmlLib10/edges/Records.h>
-
 #include "support/Bytes.h"
-#include "support/Failure.h"
-#include "support/FastInfoset.h"
 #include "support/FileTest.h"
 #include "support/LimitsScope.h"
 #include "support/Model.h"
+#include "support/Script.h"
 
-#include <KzXmlLib10/edges/ReadAndWrite.h>
-
-#include <gtest/gtest.h>
-
-#include <algorithm>
 #include <fstream>
 #include <malloc.h>
 #include <ranges>
-#include <sstream>
 #include <streambuf>
 
-namespace KzXmlLib10 {
 namespace {
 
-using support::Compressed;
-using support::Failure;
 using namespace std::literals;
 
 /// `<r xmlns="urn:r"><n>7</n></r>`, as the class of a global element.
@@ -127,7 +115,7 @@ TEST_F(RecordsTest, NamesComeFromTheClassTheOptionsOrTheContext) {
     EXPECT_EQ(Seen<CTypeRecord>(document, {}, {.name = u"s"}), "1:2 ");
     EXPECT_EQ(Seen<CTypeRecord>(document, ignoring, {.name = u"s"}), "1:2 2:3 ");
     EXPECT_EQ(Seen(document, {}, {.name = u"s", .namespaceUri = u"urn:other"}), "1:3 ");
-    EXPECT_EQ(Failure<CKzInvalidParamException>([&] { records<CTypeRecord>(document); }),
+    EXPECT_EQ(InvalidParam([&] { records<CTypeRecord>(document); }),
               "The class stands for a type; the records need the name of their element");
 }
 
@@ -286,4 +274,3 @@ TEST_F(RecordsTest, TheSizeOfOneRecordIsBoundedNotThatOfTheStream) {
 }
 
 } // namespace
-} // namespace KzXmlLib10

@@ -3,6 +3,7 @@
 #include "support/DumpTree.h"
 #include "support/Model.h"
 #include "support/Script.h"
+#include "support/Test.h"
 
 namespace {
 

@@ -1,6 +1,7 @@
 #include "support/Bytes.h"
 #include "support/Script.h"
 #include "support/TempDir.h"
+#include "support/Test.h"
 
 #include <filesystem>
 

@@ -3,6 +3,7 @@
 #include "fastinfoset/IntegerRules.h"
 #include "fastinfoset/RestrictedAlphabet.h"
 #include "support/Script.h"
+#include "support/Test.h"
 
 using namespace KzXmlLib10::fastinfoset;
 

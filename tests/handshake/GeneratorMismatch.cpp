@@ -2,6 +2,7 @@
 /// new.
 
 #include "support/Script.h"
+#include "support/Test.h"
 
 namespace {
 
@@ -12,13 +13,7 @@ constexpr char shown[] =
 template <class Call>
 void ExpectRefusal(Call call) {
     testing::internal::CaptureStderr();
-    std::string message = "no failure";
-    try {
-        call();
-    } catch (const CKzException& failure) {
-        message = ToUtf8(failure.GetFullMessage());
-    }
-    EXPECT_EQ(message, "Wrong Version (Quillon Runtime: v10.1, Generator: v10.2)");
+    EXPECT_EQ(Failure(call), "Wrong Version (Quillon Runtime: v10.1, Generator: v10.2)");
     EXPECT_EQ(testing::internal::GetCapturedStderr(), shown);
 }
 

@@ -1,5 +1,7 @@
 #include "support/Model.h"
 
+#include "support/Test.h"
+
 #include <string_view>
 
 namespace kit {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "support/Model.h"
+#include "support/Test.h"
 
 /// Whole documents in, one line of text out: what tests of content models compare.
 namespace kit {

@@ -1,5 +1,7 @@
 #include "support/Script.h"
 
+#include "support/Test.h"
+
 namespace KzXmlLib10::support {
 
 namespace {

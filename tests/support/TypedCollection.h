@@ -1,6 +1,7 @@
 #pragma once
 
 #include "support/Script.h"
+#include "support/Test.h"
 
 namespace KzXmlLib10::support {
 

@@ -1,4 +1,5 @@
 #include "support/Bytes.h"
+#include "support/Test.h"
 
 #include <thread>
 

@@ -1,4 +1,5 @@
 #include "support/Script.h"
+#include "support/Test.h"
 
 namespace {
 

@@ -1,6 +1,7 @@
 #include "support/Bytes.h"
 #include "support/DumpTree.h"
 #include "support/FileTest.h"
+#include "support/Test.h"
 
 #include <cerrno>
 #include <sys/stat.h>

@@ -1,4 +1,5 @@
 #include "support/DumpTree.h"
+#include "support/Test.h"
 
 namespace {
 

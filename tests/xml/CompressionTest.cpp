@@ -1,5 +1,6 @@
 #include "support/Bytes.h"
 #include "support/LimitsScope.h"
+#include "support/Test.h"
 
 namespace {
 

@@ -1,6 +1,7 @@
 // The two roads of text into a file: whole, by CFileBinaryStream, and block by block, by CFileTextStream.
 
 #include "support/FileTest.h"
+#include "support/Test.h"
 
 #include <cerrno>
 #include <unistd.h>
