@@ -1,6 +1,11 @@
 #pragma once
 
-#include "support/Test.h"
+#include <KzXmlLib10/KzXmlLib10.h>
+
+#include <functional>
+#include <memory>
+#include <string>
+#include <vector>
 
 /// Classes as a generator would write them, but described by the test that needs them:
 ///
@@ -99,6 +104,7 @@ public:
     Model(const Model&) = delete;
     Model& operator=(const Model&) = delete;
 
+    Model& AllowUnknownAttributes();
     Model& HasBaseClasses();
     Model& Nillable();
     /// The class has a text of its own.
@@ -141,6 +147,7 @@ private:
     XmlElementGroupType m_group;
     XmlElementType m_type;
     std::u16string m_namespace;
+    bool m_failIfAttributeUnknown = true;
     bool m_hasBaseClasses = false;
     bool m_nillable = false;
     int m_contentProperty = -1;
