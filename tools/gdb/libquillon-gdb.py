@@ -33,9 +33,9 @@ def u16string(value):
 
 def digits(value):
     """The digits of a CBigInteger, the most significant one first."""
-    data = value["m_digits"]["_M_impl"]
-    begin, end = data["_M_start"], data["_M_finish"]
-    return "".join(str(int(begin[i])) for i in reversed(range(int(end - begin))))
+    data = value["m_digits"]
+    first, count = data["_M_dataplus"]["_M_p"], int(data["_M_string_length"])
+    return "".join(str(int(first[i])) for i in reversed(range(count)))
 
 
 def big_integer(value):
