@@ -7,7 +7,7 @@ import sys
 
 from programs import document, instructions_per_byte, run
 
-ROUNDS = 5
+ROUNDS = 4
 QUICK = "--quick" in sys.argv[1:]
 
 
@@ -67,9 +67,9 @@ def sizes():
 
 
 def compression():
-    file = document(1000)
+    file = document(200)
     library = "orders_without_patterns"
-    rows = [("1,000 orders, no patterns", "instructions per byte", "text and zlib alone", "beyond")]
+    rows = [("200 orders, no patterns", "instructions per byte", "text and zlib alone", "beyond")]
     cost = {operation: instructions_per_byte(library, operation, file) for operation in
             ("parse", "write", "gzip-read", "gzip-write", "zlib-read", "zlib-write")}
     zlib = {operation: instructions_per_byte("baselines8", operation, file) for operation in ("inflate", "deflate")}

@@ -8,8 +8,8 @@
 //     parse in=1057757 out=0 iterations=20 best=0.021000000 median=0.022000000 allocations=9000 peak=25000
 //
 // `in` are the bytes of the text document and `out` those of what was written, both in all forms; seconds are
-// those of one iteration, allocations those of the last one; the peak is the resident size of the whole
-// process in KB of 1024 bytes.
+// those that the processor gave one iteration, allocations those of the last one; the peak is the resident
+// size of the whole process in KB of 1024 bytes.
 #include "support/Allocations.h"
 #include "support/Measure.h"
 

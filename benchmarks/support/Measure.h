@@ -2,10 +2,10 @@
 #pragma once
 
 #include <sys/resource.h>
+#include <time.h>
 
 #include <algorithm>
 #include <charconv>
-#include <chrono>
 #include <cstddef>
 #include <cstdio>
 #include <filesystem>
@@ -49,19 +49,25 @@ inline long PeakResidentKilobytes() {
     return usage.ru_maxrss;
 }
 
+/// What the process has had of the processor so far: other work on the machine does not count.
+inline double ProcessorSeconds() {
+    timespec time{};
+    clock_gettime(CLOCK_PROCESS_CPUTIME_ID, &time);
+    return static_cast<double>(time.tv_sec) + static_cast<double>(time.tv_nsec) / 1e9;
+}
+
 /// Runs `work`, which returns the number of bytes it made, and prints what it took. `countAllocations` gives
 /// the number of allocations of the process so far.
 template <class Work, class CountAllocations>
 void Run(const Arguments& arguments, Work work, CountAllocations countAllocations) {
-    using Clock = std::chrono::steady_clock;
     std::vector<double> seconds(static_cast<std::size_t>(arguments.iterations));
     std::size_t outputBytes = 0;
     unsigned long allocations = 0;
     for (double& one : seconds) {
         const unsigned long before = countAllocations();
-        const Clock::time_point start = Clock::now();
+        const double start = ProcessorSeconds();
         outputBytes = work();
-        one = std::chrono::duration<double>(Clock::now() - start).count();
+        one = ProcessorSeconds() - start;
         allocations = countAllocations() - before;
     }
     std::sort(seconds.begin(), seconds.end());

@@ -1,6 +1,6 @@
+#include "xml/AsyncFiles.h"
 #include "support/FileTest.h"
 #include "support/Test.h"
-#include "xml/AsyncFiles.h"
 
 #include <cerrno>
 #include <fcntl.h>
