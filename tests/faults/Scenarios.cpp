@@ -248,17 +248,17 @@ std::vector<Scenario> Make() {
              return ToUtf8(object->ToXml(false, false, EOLType_LF, lenient));
          }},
         {"object to UTF-8",
-         [object = w.Order(), &w] {
+         [object = w.Order()] {
              return Bytes(object->ToXmlStream(true, true, XmlEncoding_UTF8, EOLType_LF, w.context,
                                               CompressionType_None));
          }},
         {"object to UTF-16 and zlib",
-         [object = w.Order(), &w] {
+         [object = w.Order()] {
              return Bytes(object->ToXmlStream(true, true, XmlEncoding_UTF16, EOLType_LF, w.context,
                                               CompressionType_ZLib));
          }},
         {"object to Fast Infoset",
-         [object = w.Order(), &w] {
+         [object = w.Order()] {
              return Bytes(object->ToFastInfosetStream(FInfoDecl_10, w.context, CompressionType_GZip));
          }},
 
@@ -303,7 +303,7 @@ std::vector<Scenario> Make() {
              return ToUtf8(element.Clone()->ToXml(false, false, EOLType_LF, w.plain));
          }},
         {"generic copy of an object",
-         [object = w.Order(), &w] {
+         [object = w.Order()] {
              return ToUtf8(CElement(object, nullptr).ToXml(false, true, EOLType_LF, w.plain));
          }},
         {"object from a generic element", w.Object(w.order,
