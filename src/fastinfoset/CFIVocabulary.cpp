@@ -1,8 +1,7 @@
 #include <KzXmlLib10/fastinfoset/CFIVocabulary.h>
 
+#include "object/TextScan.h"
 #include "xml/XmlNamespaces.h"
-
-#include <cstring>
 
 // A new vocabulary, to which <o:order xmlns:o="urn:o"/> has been added:
 //
@@ -18,10 +17,6 @@ namespace KzXmlLib10 {
 namespace {
 
 constexpr char16_t separator = 1;
-
-int CompareBytes(std::u16string_view a, std::u16string_view b) {
-    return std::memcmp(a.data(), b.data(), a.size() * sizeof(char16_t));
-}
 
 } // namespace
 

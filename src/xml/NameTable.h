@@ -2,7 +2,6 @@
 
 #include "object/TextScan.h"
 
-#include <cstring>
 #include <set>
 #include <string>
 #include <string_view>
@@ -44,7 +43,7 @@ private:
         static bool Less(std::u16string_view a, std::u16string_view b) {
             if (a.size() != b.size())
                 return a.size() < b.size();
-            return std::memcmp(a.data(), b.data(), a.size() * sizeof(char16_t)) < 0;
+            return CompareBytes(a, b) < 0;
         }
         bool operator()(const Name& a, const Name& b) const { return Less(a.text, b.text); }
         bool operator()(const Name& a, std::u16string_view b) const { return Less(a.text, b); }

@@ -1,9 +1,9 @@
 #pragma once
 
+#include "object/TextScan.h"
 #include "xml/PersistentMap.h"
 
 #include <cstdint>
-#include <cstring>
 #include <string>
 
 namespace KzXmlLib10 {
@@ -14,7 +14,7 @@ struct ByLengthThenBytes {
     int operator()(const std::u16string& a, const std::u16string& b) const {
         if (a.size() != b.size())
             return a.size() < b.size() ? -1 : 1;
-        return std::memcmp(a.data(), b.data(), a.size() * sizeof(char16_t));
+        return CompareBytes(a, b);
     }
 };
 
