@@ -12,7 +12,6 @@ install(EXPORT QuillonTargets NAMESPACE Quillon:: DESTINATION "${package_dir}")
 if(QUILLON_BUILD_STATIC)
     install(TARGETS quillon_static EXPORT QuillonStaticTargets ARCHIVE DESTINATION "${CMAKE_INSTALL_LIBDIR}")
     install(EXPORT QuillonStaticTargets NAMESPACE Quillon:: DESTINATION "${package_dir}")
-    install(FILES "${CMAKE_CURRENT_LIST_DIR}/FindExpatW.cmake" DESTINATION "${package_dir}")
 endif()
 
 configure_package_config_file(

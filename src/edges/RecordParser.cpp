@@ -71,7 +71,7 @@ void RecordParser::ParseBlock() {
     }
     CheckInflatedSize(m_sinceChild);
     if (!m_document.m_elementStack.empty())
-        m_document.m_elementStack.front()->m_text.clear();
+        m_document.m_elementStack.front()->ClearText();
 }
 
 bool RecordParser::OnElementEnd(CXmlElement* element) { return parserAtWork->TakeChild(*element); }
@@ -80,7 +80,7 @@ bool RecordParser::TakeChild(const CXmlElement& element) {
     if (m_document.m_elementStack.size() != 1)
         return false; // the root, or what is inside a child
     m_showChild(element);
-    m_document.m_elementStack.front()->m_text.clear();
+    m_document.m_elementStack.front()->ClearText();
     m_reader.RenewBudget(m_handedIn, m_document.m_bufferSize); // what was charged goes with the child
     m_sinceChild = 0;
     return true;

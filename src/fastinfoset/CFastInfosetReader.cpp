@@ -6,6 +6,8 @@
 #include "fastinfoset/RestrictedAlphabet.h"
 #include "object/Throw.h"
 #include "object/Utf8.h"
+#include "xml/OpenElement.h"
+#include "xml/TreeMemory.h"
 
 #include <KzXmlLib10/fastinfoset/CFastInfosetBinaryData.h>
 #include <KzXmlLib10/fastinfoset/CFastInfosetContext.h>
@@ -198,12 +200,16 @@ void CFastInfosetReader::ParseElement(Byte first) {
     const bool hasAttributes = (first & HasAttributes) != 0;
     if ((first & ElementNameMask) == NamespaceAttributesFollow)
         first = ParseNamespaceAttributes();
-    ParseName(first, LiteralElementName, ElementNameMask, integerBit3, m_vocabulary->m_elementNames);
-    m_budget.Charge(m_namespaceName.size() + m_localName.size(), sizeof(CXmlElement));
-    if (m_document->m_documentElement)
-        m_document->AddChildElement(m_namespaceName, m_localName);
+    const bool isRoot = !m_document->m_documentElement;
+    if (isRoot)
+        m_document->StartTree();
+    const SharedName name = ParseName(first, LiteralElementName, ElementNameMask, integerBit3,
+                                      m_vocabulary->m_elementNames, m_elementNames);
+    m_budget.Charge(name.Size(), sizeof(CXmlElement));
+    if (isRoot)
+        m_document->AddDocElement(name);
     else
-        m_document->AddDocElement(m_namespaceName, m_localName);
+        m_document->AddChildElement(name);
     if (hasAttributes && ParseAttributes())
         PopElement();
 }
@@ -238,7 +244,7 @@ void CFastInfosetReader::ParseItem(Byte item) {
 void CFastInfosetReader::PopElement() {
     m_document->m_elementStack.pop_back();
     if (m_document->m_elementCallback) // not called here, but an open element is noted for it
-        m_document->m_previousSiblings.pop_back();
+        m_document->m_openElements.pop_back();
 }
 
 /// Returns the byte behind the list, with which the name of the element starts.
@@ -268,10 +274,11 @@ bool CFastInfosetReader::ParseAttributes() {
 }
 
 void CFastInfosetReader::ParseAttribute(Byte first) {
-    ParseName(first, LiteralAttributeName, AttributeNameMask, integerBit2, m_vocabulary->m_attributeNames);
+    const SharedName name = ParseName(first, LiteralAttributeName, AttributeNameMask, integerBit2,
+                                      m_vocabulary->m_attributeNames, m_attributeNames);
     const std::u16string_view value = ParseNonIdentifyingString();
-    m_budget.Charge(m_namespaceName.size() + m_localName.size() + value.size(), sizeof(CXmlAttribute));
-    m_document->AddElementAttribute(m_document->m_elementStack.back(), m_localName, value, m_namespaceName);
+    m_budget.Charge(name.Size() + value.size(), sizeof(CXmlAttribute));
+    m_document->m_elementStack.back()->AddAttribute(name, std::u16string(value));
 }
 
 void CFastInfosetReader::ParseCharacterChunk(Byte first) {
@@ -285,20 +292,36 @@ void CFastInfosetReader::ParseCharacterChunk(Byte first) {
         text = m_value;
     }
     m_budget.Charge(text.size());
-    m_document->AppendTextExcludingCR(m_document->m_elementStack.back(), text.data(), text.size());
+    CXmlDocument::AppendTextExcludingCR(m_document->m_elementStack.back(), text);
 }
 
-/// Reads a qualified name, an index or a literal, into the current one.
-void CFastInfosetReader::ParseName(Byte first, Byte literal, Byte mask, const IntegerRule& rule,
-                                   CFIVocabulary::CFIQNameTable& table) {
-    if ((first & mask) == literal)
-        return ParseQName(first, table);
-    const CFIVocabulary::CQNameParts& parts = EntryAt(table.m_values, ReadInteger(rule, first));
-    if (parts.m_namespaceName == 0)
-        m_namespaceName.clear();
-    else
-        m_namespaceName = EntryAt(m_vocabulary->m_namespaceNames.m_values, parts.m_namespaceName);
-    m_localName = EntryAt(m_vocabulary->m_localNames.m_values, parts.m_localName);
+/// Reads a qualified name, an index or a literal. `shared` are the strings that the tree has for those
+/// entries of the table that were met.
+SharedName CFastInfosetReader::ParseName(Byte first, Byte literal, Byte mask, const IntegerRule& rule,
+                                         CFIVocabulary::CFIQNameTable& table,
+                                         std::vector<SharedName>& shared) {
+    if ((first & mask) == literal) {
+        ParseQName(first, table);
+        return Share(m_namespaceName, m_localName);
+    }
+    const std::uint64_t index = ReadInteger(rule, first);
+    const CFIVocabulary::CQNameParts& parts = EntryAt(table.m_values, index);
+    if (shared.size() < index)
+        shared.resize(table.m_values.size());
+    SharedName& name = shared[index - 1];
+    if (!name.localName) {
+        const std::u16string none;
+        name = Share(parts.m_namespaceName == 0
+                         ? none
+                         : EntryAt(m_vocabulary->m_namespaceNames.m_values, parts.m_namespaceName),
+                     EntryAt(m_vocabulary->m_localNames.m_values, parts.m_localName));
+    }
+    return name;
+}
+
+SharedName CFastInfosetReader::Share(const std::u16string& namespaceUri, const std::u16string& localName) {
+    SharedStrings& names = m_document->m_memory->names;
+    return {&names.Share(namespaceUri), &names.Share(localName)};
 }
 
 void CFastInfosetReader::ParseQName(Byte first, CFIVocabulary::CFIQNameTable& table) {

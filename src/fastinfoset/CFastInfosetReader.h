@@ -2,6 +2,7 @@
 
 #include "fastinfoset/IntegerRules.h"
 #include "fastinfoset/Marks.h"
+#include "xml/SharedName.h"
 #include "xml/TreeBudget.h"
 
 #include <KzXmlLib10/fastinfoset/CFIVocabulary.h>
@@ -13,6 +14,7 @@
 #include <span>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace KzXmlLib10 {
 
@@ -69,8 +71,10 @@ private:
     void ParseCharacterChunk(fastinfoset::Byte first);
     void PopElement();
 
-    void ParseName(fastinfoset::Byte first, fastinfoset::Byte literal, fastinfoset::Byte mask,
-                   const fastinfoset::IntegerRule& rule, CFIVocabulary::CFIQNameTable& table);
+    SharedName ParseName(fastinfoset::Byte first, fastinfoset::Byte literal, fastinfoset::Byte mask,
+                         const fastinfoset::IntegerRule& rule, CFIVocabulary::CFIQNameTable& table,
+                         std::vector<SharedName>& shared);
+    SharedName Share(const std::u16string& namespaceUri, const std::u16string& localName);
     void ParseQName(fastinfoset::Byte first, CFIVocabulary::CFIQNameTable& table);
     std::uint32_t ParseIdentifyingString(CFIVocabulary::CFIStringTable& table, std::u16string& text);
     std::u16string_view ParseNonIdentifyingString();
@@ -91,6 +95,8 @@ private:
     std::u16string m_localName;
     std::u16string m_value;
     std::unique_ptr<CFIVocabulary> m_vocabulary;
+    std::vector<SharedName> m_elementNames;
+    std::vector<SharedName> m_attributeNames;
     TreeBudget m_budget;
 };
 

@@ -177,29 +177,36 @@ std::string ToUtf8WithReplacements(std::u16string_view text) {
     return bytes;
 }
 
-std::size_t AppendUtf16(std::u16string& out, std::string_view text) {
-    const std::size_t start = out.size();
-    out.resize(start + text.size()); // no form of a character has more units than bytes
-    char16_t* to = out.data() + start;
+Utf16Extent WriteUtf16(char16_t* to, std::string_view text) {
+    const char16_t* const start = to;
     std::size_t at = 0;
     for (;;) {
         const std::size_t ascii = CopyLeadingAscii(to, text.substr(at));
         to += ascii;
         at += ascii;
         char32_t point;
-        const std::size_t bytes = at < text.size() ? ReadUtf8(text, at, point) : 0;
-        if (bytes == 0)
-            break;
-        if (point < 0x10000) {
-            *to++ = static_cast<char16_t>(point);
-        } else {
-            *to++ = static_cast<char16_t>(0xD7C0 + (point >> 10));
-            *to++ = static_cast<char16_t>(0xDC00 + (point & 0x3FF));
+        std::size_t bytes;
+        // Letters beyond ASCII mostly come together.
+        while ((bytes = at < text.size() ? ReadUtf8(text, at, point) : 0) > 1) {
+            if (point < 0x10000) {
+                *to++ = static_cast<char16_t>(point);
+            } else {
+                *to++ = static_cast<char16_t>(0xD7C0 + (point >> 10));
+                *to++ = static_cast<char16_t>(0xDC00 + (point & 0x3FF));
+            }
+            at += bytes;
         }
-        at += bytes;
+        if (bytes == 0)
+            return {at, static_cast<std::size_t>(to - start)};
     }
-    out.resize(static_cast<std::size_t>(to - out.data()));
-    return at;
+}
+
+std::size_t AppendUtf16(std::u16string& out, std::string_view text) {
+    const std::size_t start = out.size();
+    out.resize(start + text.size()); // no form of a character has more units than bytes
+    const Utf16Extent extent = WriteUtf16(out.data() + start, text);
+    out.resize(start + extent.units);
+    return extent.bytes;
 }
 
 std::string ConvertToUtf8(std::u16string_view text) {

@@ -1,6 +1,8 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
+#include <cstring>
 #include <string>
 #include <string_view>
 
@@ -27,5 +29,60 @@ std::string ToUtf8WithReplacements(std::u16string_view text);
 /// Appends the 16-bit form of `text` up to the first malformed sequence. Returns the number of bytes
 /// converted.
 std::size_t AppendUtf16(std::u16string& out, std::string_view text);
+
+/// Writes eight bytes as code units. Returns the bytes.
+inline std::uint64_t Widen8(char16_t* to, const char* from) {
+    typedef unsigned char Bytes __attribute__((vector_size(8)));
+    typedef unsigned short Units __attribute__((vector_size(16)));
+    Bytes bytes;
+    std::memcpy(&bytes, from, sizeof bytes);
+    const Units units = __builtin_convertvector(bytes, Units);
+    std::memcpy(to, &units, sizeof units);
+    std::uint64_t word;
+    std::memcpy(&word, from, sizeof word);
+    return word;
+}
+
+/// The same of four, for which there is no vector.
+inline std::uint64_t Widen4(char16_t* to, const char* from) {
+    std::uint32_t word;
+    std::memcpy(&word, from, sizeof word);
+    std::uint64_t units = (word | std::uint64_t{word} << 16) & 0x0000'FFFF'0000'FFFF;
+    units = (units | units << 8) & 0x00FF'00FF'00FF'00FF;
+    std::memcpy(to, &units, sizeof units);
+    return word;
+}
+
+/// What WriteUtf16 has taken and made.
+struct Utf16Extent {
+    std::size_t bytes; ///< of the UTF-8 text
+    std::size_t units; ///< code units written
+};
+
+/// Writes the 16-bit form of `text` up to the first malformed sequence, where there is room for as many code
+/// units as the text has bytes.
+Utf16Extent WriteUtf16(char16_t* to, std::string_view text);
+
+/// Writes the 16-bit form of a text that is ASCII, by blocks that overlap at the end. False for any other
+/// text, and what was written is of no use then. Inline, since the texts of documents are short.
+inline bool WriteAscii(char16_t* to, std::string_view text) {
+    const char* from = text.data();
+    const std::size_t size = text.size();
+    std::uint64_t found = 0;
+    if (size >= 8) {
+        for (std::size_t at = 0; at + 8 < size; at += 8)
+            found |= Widen8(to + at, from + at);
+        found |= Widen8(to + size - 8, from + size - 8);
+    } else if (size >= 4) {
+        found = Widen4(to, from) | Widen4(to + size - 4, from + size - 4);
+    } else {
+        for (std::size_t at = 0; at < size; ++at) {
+            const auto byte = static_cast<unsigned char>(from[at]);
+            to[at] = byte;
+            found |= byte;
+        }
+    }
+    return (found & 0x8080'8080'8080'8080) == 0;
+}
 
 } // namespace KzXmlLib10

@@ -1,12 +1,13 @@
 #pragma once
 
 #include "xml/Expat.h"
+#include "xml/ParserNames.h"
+#include "xml/SurrogateCheck.h"
 #include "xml/TreeBudget.h"
 
 #include <KzXmlLib10/object/CInstanceMonitor.h>
 #include <KzXmlLib10/object/Fwd.h>
 
-#include <cstddef>
 #include <cstdint>
 #include <exception>
 #include <memory>
@@ -34,7 +35,7 @@ public:
     ~CExpatReader() override;
 
     /// Creates the parser. A protocol encoding overrules what the document declares; null leaves it to expat.
-    void Initialize(const char16_t* protocolEncoding = nullptr);
+    void Initialize(const char* protocolEncoding = nullptr);
 
     /// Parses the document's buffer; `isFinal` says that nothing follows. `handedIn` is the size that it had
     /// before decompression.
@@ -57,20 +58,17 @@ private:
     template <class Action>
     static void Handle(void* reader, Action action) noexcept;
 
-    void StartElement(const char16_t* name, const XML_Char** attributes);
+    void StartElement(const XML_Char* name, const XML_Char** attributes);
     void AddAttributes(CXmlElement& element, const XML_Char** attributes);
-    std::u16string_view LikelyNamespace() const;
-    void AppendText(std::u16string_view text);
-    void PassTextOn();
-    void PassOn(std::u16string_view text);
+    void AppendText(std::string_view text);
+    void AppendLongText(std::string_view text);
     [[noreturn]] void Fail();
 
     CXmlDocument* m_document;
-    std::unique_ptr<unsigned char[]> m_buffer; ///< text that is being gathered
-    std::uint32_t m_bufferSize = 1024;
     expat::Parser m_parser;
+    SurrogateCheck m_surrogates;
     std::exception_ptr m_failure;
-    std::size_t m_textSize = 0; ///< the code units in m_buffer
+    ParserNames m_names;
     TreeBudget m_budget;
 };
 

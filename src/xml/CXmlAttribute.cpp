@@ -1,6 +1,7 @@
 #include <KzXmlLib10/xml/CXmlAttribute.h>
 
 #include "object/TextScan.h"
+#include "xml/SharedName.h"
 #include "xml/XmlNamespaces.h"
 
 #include <string_view>
@@ -18,10 +19,9 @@ bool IsReservedNamespace(std::u16string_view uri) {
 
 } // namespace
 
-CXmlAttribute::CXmlAttribute(const std::u16string& localName, std::u16string value,
-                             const std::u16string& namespaceUri) noexcept
-    : CInstanceMonitor(u"CXmlAttribute"), m_localName(&localName), m_value(std::move(value)),
-      m_namespaceUri(&namespaceUri) {}
+CXmlAttribute::CXmlAttribute(const SharedName& name, std::u16string value) noexcept
+    : CInstanceMonitor(u"CXmlAttribute"), m_localName(name.localName), m_value(std::move(value)),
+      m_namespaceUri(name.namespaceUri) {}
 
 CXmlAttribute::~CXmlAttribute() = default;
 

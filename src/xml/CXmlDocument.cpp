@@ -6,12 +6,13 @@
 #include "xml/AsyncFiles.h"
 #include "xml/CExpatReader.h"
 #include "xml/Messages.h"
+#include "xml/OpenElement.h"
+#include "xml/SharedName.h"
 #include "xml/TreeMemory.h"
 
 #include <KzXmlLib10/object/CXmlSerializationContext.h>
 
 #include <cstring>
-#include <limits>
 #include <utility>
 
 namespace KzXmlLib10 {
@@ -34,7 +35,7 @@ void CXmlDocument::Cleanup() {
     m_buffer.reset();
     m_bufferSize = 0;
     m_elementStack.clear();
-    m_previousSiblings.clear();
+    m_openElements.clear();
     m_namespaceAliases.clear();
 }
 
@@ -67,7 +68,7 @@ void CXmlDocument::LoadXml(const char16_t* text) {
     Cleanup(); // not earlier, since the text may stand in the tree
     SetBuffer(std::move(buffer), size);
     // The parser would refuse a declaration of another encoding, had it only the mark to go by.
-    ParseText(size, u"UTF-16");
+    ParseText(size, "UTF-16");
 }
 
 /// An array for an input of `size` bytes.
@@ -83,7 +84,7 @@ unsigned char* CXmlDocument::SetBuffer(std::unique_ptr<unsigned char[]> buffer, 
     return m_buffer.get();
 }
 
-void CXmlDocument::ParseText(std::uint64_t handedIn, const char16_t* protocolEncoding) {
+void CXmlDocument::ParseText(std::uint64_t handedIn, const char* protocolEncoding) {
     CExpatReader reader(this);
     reader.Initialize(protocolEncoding);
     reader.ParseChunk(true, handedIn);
@@ -103,29 +104,23 @@ void CXmlDocument::DropTree() {
     m_memory.reset(); // last, since the tree stands in it
 }
 
-void CXmlDocument::OpenElement(CXmlElement* element, CXmlElement* previous) {
-    if (m_elementCallback)
-        m_previousSiblings.push_back(previous);
-    m_elementStack.push_back(element);
-}
+void CXmlDocument::StartTree() { m_memory = std::make_unique<TreeMemory>(); }
 
-CXmlElement* CXmlDocument::AddDocElement(std::u16string_view namespaceUri, std::u16string_view localName) {
-    m_memory = std::make_unique<TreeMemory>();
-    m_documentElement.reset(CXmlElement::Create(this));
+CXmlElement* CXmlDocument::AddDocElement(const SharedName& name) {
+    m_documentElement.reset(CXmlElement::Create(this, name));
     CXmlElement* root = m_documentElement.get();
-    root->SetNamespace(namespaceUri);
-    root->SetElementName(localName);
-    OpenElement(root, nullptr);
+    if (m_elementCallback)
+        m_openElements.push_back({nullptr, m_memory->texts.GetMark()});
+    m_elementStack.push_back(root);
     return root;
 }
 
-CXmlElement* CXmlDocument::AddChildElement(std::u16string_view namespaceUri, std::u16string_view localName) {
+CXmlElement* CXmlDocument::AddChildElement(const SharedName& name) {
     CXmlElement* parent = m_elementStack.back();
-    CXmlElement* previous = parent->m_lastChild;
-    CXmlElement* child = parent->CreateNewChildElement();
-    child->SetNamespace(namespaceUri);
-    child->SetElementName(localName);
-    OpenElement(child, previous);
+    if (m_elementCallback)
+        m_openElements.push_back({parent->m_lastChild, m_memory->texts.GetMark()});
+    CXmlElement* child = parent->CreateNewChildElement(name);
+    m_elementStack.push_back(child);
     return child;
 }
 
@@ -134,33 +129,24 @@ void CXmlDocument::EndElement() {
     m_elementStack.pop_back();
     if (!m_elementCallback)
         return;
-    CXmlElement* previous = m_previousSiblings.back();
-    m_previousSiblings.pop_back();
-    if (m_elementCallback(element) && !m_elementStack.empty())
-        m_elementStack.back()->RemoveLastChildElement(previous);
+    const OpenElement open = m_openElements.back();
+    m_openElements.pop_back();
+    if (!m_elementCallback(element) || m_elementStack.empty())
+        return;
+    m_elementStack.back()->RemoveLastChildElement(open.previous);
+    m_memory->texts.Rewind(open.texts);
 }
 
-void CXmlDocument::AddElementAttribute(CXmlElement* element, std::u16string_view localName,
-                                       std::u16string_view value, std::u16string_view namespaceUri) {
-    element->AddAttribute(localName, value, namespaceUri);
-}
-
-void CXmlDocument::AppendTextExcludingCR(CXmlElement* element, const char16_t* text) {
-    AppendTextExcludingCR(element, text, std::numeric_limits<unsigned long>::max());
-}
-
-/// Appends up to `length` code units, or up to the first zero; the greatest length stands for zero-terminated
-/// text.
+/// Appends a text up to its first zero.
 ///
-/// Deliberate: all carriage returns are left out. The parser has normalised line ends already, so what goes
-/// here came from character references.
-void CXmlDocument::AppendTextExcludingCR(CXmlElement* element, const char16_t* text, unsigned long length) {
-    for (unsigned long start = 0, at = 0;; start = ++at) {
-        while (at < length && text[at] != u'\0' && text[at] != u'\r')
+/// Deliberate: all carriage returns are left out.
+void CXmlDocument::AppendTextExcludingCR(CXmlElement* element, std::u16string_view text) {
+    for (std::size_t start = 0, at = 0;; start = ++at) {
+        while (at < text.size() && text[at] != u'\0' && text[at] != u'\r')
             ++at;
         if (at > start)
-            element->AppendText(text + start, at - start);
-        if (at == length || text[at] == u'\0')
+            element->AppendText(text.substr(start, at - start));
+        if (at == text.size() || text[at] == u'\0')
             return;
     }
 }

@@ -1,11 +1,12 @@
 #include <KzXmlLib10/xml/CXmlElement.h>
 
 #include "object/TextScan.h"
+#include "xml/SharedName.h"
 #include "xml/TreeMemory.h"
 
 #include <KzXmlLib10/xml/CXmlDocument.h>
 
-#include <algorithm>
+#include <memory>
 #include <utility>
 
 namespace KzXmlLib10 {
@@ -16,19 +17,29 @@ const std::u16string none;
 
 } // namespace
 
-CXmlElement::CXmlElement(const CXmlDocument* document) noexcept
-    : CInstanceMonitor(u"CXmlElement"), m_document(document), m_localName(&none), m_namespaceUri(&none) {}
+CXmlElement::CXmlElement(const CXmlDocument* document, const SharedName& name) noexcept
+    : CInstanceMonitor(u"CXmlElement"), m_document(document), m_localName(name.localName),
+      m_namespaceUri(name.namespaceUri) {}
 
-CXmlElement* CXmlElement::Create(const CXmlDocument* document) {
-    return ::new (document->m_memory->elements.Take()) CXmlElement(document);
+CXmlElement* CXmlElement::Create(const CXmlDocument* document, const SharedName& name) {
+    return ::new (document->m_memory->elements.Take()) CXmlElement(document, name);
 }
 
 CXmlElement::~CXmlElement() {
-    DestroyChain(m_firstChild);
-    for (CXmlAttribute* attribute : m_attributes) {
+    if (m_firstChild)
+        DestroyChain(m_firstChild);
+    if (m_attributes)
+        DestroyAttributes();
+}
+
+void CXmlElement::DestroyAttributes() noexcept {
+    TreeMemory& memory = *m_document->m_memory;
+    for (CXmlAttribute* attribute : *m_attributes) {
         attribute->~CXmlAttribute();
-        m_document->m_memory->attributes.GiveBack(attribute);
+        memory.attributes.GiveBack(attribute);
     }
+    std::destroy_at(m_attributes);
+    memory.attributeLists.GiveBack(m_attributes);
 }
 
 void CXmlElement::operator delete(CXmlElement* element, std::destroying_delete_t) {
@@ -52,9 +63,34 @@ void CXmlElement::DestroyChain(CXmlElement* list) noexcept {
     }
 }
 
+std::u16string CXmlElement::GetText() const {
+    if (m_text && m_text->next == m_text)
+        return std::u16string(m_text->View());
+    std::u16string text;
+    ViewText(text);
+    return text;
+}
+
+std::u16string_view CXmlElement::ViewText(std::u16string& room) const {
+    if (!m_text)
+        return none;
+    TextPiece* piece = m_text->next;
+    if (piece == m_text)
+        return piece->View();
+    room.clear();
+    for (; piece != m_text; piece = piece->next)
+        room += piece->View();
+    return room += m_text->View();
+}
+
+const std::vector<CXmlAttribute*>& CXmlElement::GetAttributes() const {
+    static const std::vector<CXmlAttribute*> noAttributes;
+    return m_attributes ? *m_attributes : noAttributes;
+}
+
 const std::u16string& CXmlElement::GetAttribute(const std::u16string& localName,
                                                 const std::u16string& namespaceUri) const {
-    for (const CXmlAttribute* attribute : m_attributes) {
+    for (const CXmlAttribute* attribute : GetAttributes()) {
         if (SameText(attribute->GetLocalName(), localName) &&
             SameText(attribute->GetNamespaceURI(), namespaceUri))
             return attribute->GetValue();
@@ -62,40 +98,26 @@ const std::u16string& CXmlElement::GetAttribute(const std::u16string& localName,
     return none;
 }
 
-void CXmlElement::AddAttribute(std::u16string_view localName, std::u16string_view value,
-                               std::u16string_view namespaceUri) {
-    TreeMemory& memory = *m_document->m_memory;
-    const std::u16string& sharedName = memory.localNames.Share(localName);
-    const std::u16string& sharedNamespace = memory.namespaces.Share(namespaceUri);
-    std::u16string ownValue(value);
-    if (m_attributes.size() == m_attributes.capacity())
-        m_attributes.reserve(2 * m_attributes.size() + 1);
+void CXmlElement::ReserveAttributes(std::size_t count) {
+    if (!m_attributes)
+        m_attributes = ::new (m_document->m_memory->attributeLists.Take()) std::vector<CXmlAttribute*>;
+    m_attributes->reserve(count);
+}
+
+void CXmlElement::AddAttribute(const SharedName& name, std::u16string value) {
+    if (!m_attributes || m_attributes->size() == m_attributes->capacity())
+        ReserveAttributes(m_attributes ? 2 * m_attributes->size() : 1);
     // Nothing fails from here on, once there is room.
-    void* room = memory.attributes.Take();
-    m_attributes.push_back(::new (room) CXmlAttribute(sharedName, std::move(ownValue), sharedNamespace));
+    void* room = m_document->m_memory->attributes.Take();
+    m_attributes->push_back(::new (room) CXmlAttribute(name, std::move(value)));
 }
 
-void CXmlElement::SetElementName(std::u16string_view localName) {
-    m_localName = &m_document->m_memory->localNames.Share(localName);
-}
+void CXmlElement::AppendText(std::u16string_view text) { m_document->m_memory->texts.Append(m_text, text); }
 
-void CXmlElement::SetNamespace(std::u16string_view namespaceUri) {
-    m_namespaceUri = &m_document->m_memory->namespaces.Share(namespaceUri);
-}
+void CXmlElement::ClearText() { TextArena::Clear(m_text); }
 
-void CXmlElement::AppendText(const char16_t* text) {
-    AppendText(text, std::char_traits<char16_t>::length(text));
-}
-
-void CXmlElement::AppendText(const char16_t* text, std::size_t count) {
-    const std::size_t length = m_text.size() + count;
-    if (!m_text.empty() && length > m_text.capacity())
-        m_text.reserve(std::max(length, 2 * m_text.capacity()));
-    m_text.append(text, count);
-}
-
-CXmlElement* CXmlElement::CreateNewChildElement() {
-    CXmlElement* child = Create(m_document);
+CXmlElement* CXmlElement::CreateNewChildElement(const SharedName& name) {
+    CXmlElement* child = Create(m_document, name);
     (m_lastChild ? m_lastChild->m_nextSibling : m_firstChild) = child;
     m_lastChild = child;
     return child;

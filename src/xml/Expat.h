@@ -1,7 +1,9 @@
 #pragma once
 
-/// The bridge to expat in its 16-bit form: its characters, its parser as an owning pointer, its error texts.
+/// The bridge to expat in its usual form, which gives out UTF-8: its parser as an owning pointer, its texts.
 /// Nothing else includes <expat.h>.
+
+#include "object/Utf8.h"
 
 #include <expat.h>
 
@@ -13,10 +15,14 @@
 
 namespace KzXmlLib10::expat {
 
-static_assert(sizeof(XML_Char) == sizeof(char16_t), "expat has to be built for, and used with, XML_UNICODE");
+static_assert(sizeof(XML_Char) == sizeof(char), "expat has to be used without XML_UNICODE");
 
-inline const char16_t* Text(const XML_Char* text) { return reinterpret_cast<const char16_t*>(text); }
-inline const XML_Char* Text(const char16_t* text) { return reinterpret_cast<const XML_Char*>(text); }
+/// The 16-bit form of a text that expat gives, which is UTF-8 without a fault.
+inline std::u16string Text(std::string_view text) {
+    std::u16string result;
+    AppendUtf16(result, text);
+    return result;
+}
 
 /// A feature of the library that was linked, or 0 if it has none of the kind.
 inline long Feature(XML_FeatureEnum kind) {
@@ -27,9 +33,9 @@ inline long Feature(XML_FeatureEnum kind) {
     return 0;
 }
 
-/// Whether the library that was linked has the characters of the header; the 8-bit library has the same
-/// symbols.
-inline bool HasWideCharacters() { return Feature(XML_FEATURE_SIZEOF_XML_CHAR) == sizeof(char16_t); }
+/// Whether the library that was linked has the characters of the header; the one with characters of 16 bits
+/// has the same symbols.
+inline bool GivesUtf8() { return Feature(XML_FEATURE_SIZEOF_XML_CHAR) == sizeof(char); }
 
 /// Whether it stops entities that expand to many times the input.
 inline bool BoundsEntities() {

@@ -10,7 +10,7 @@ namespace KzXmlLib10::messages {
 inline constexpr char16_t XmlStringIsEmpty[] = u"XML String is empty!";
 inline constexpr char16_t ParserFailed[] = u"%s at line %d";
 inline constexpr char16_t InputTooLarge[] = u"The XML input has %I64u bytes; the limit is %I64u";
-inline constexpr char16_t ParserCharactersDiffer[] = u"The expat library at hand has no 16-bit characters";
+inline constexpr char16_t ParserCharactersDiffer[] = u"The expat library at hand does not give out UTF-8";
 inline constexpr char16_t XmlStreamIsEmpty[] = u"XML Stream is empty!";
 inline constexpr char16_t EntitiesUnbounded[] =
     u"The expat library at hand does not bound the expansion of entities";

@@ -1,19 +1,24 @@
 #pragma once
 
-#include "xml/NameTable.h"
 #include "xml/NodePool.h"
+#include "xml/SharedStrings.h"
+#include "xml/TextArena.h"
 
 #include <KzXmlLib10/xml/CXmlAttribute.h>
 #include <KzXmlLib10/xml/CXmlElement.h>
 
+#include <vector>
+
 namespace KzXmlLib10 {
 
-/// What the nodes of one tree share: the memory they stand in and the strings of their names.
+/// What the nodes of one tree share: the memory they and their texts stand in and the strings of their
+/// names.
 struct TreeMemory {
     NodePool<CXmlElement> elements;
     NodePool<CXmlAttribute> attributes;
-    NameTable localNames;
-    NameTable namespaces;
+    NodePool<std::vector<CXmlAttribute*>> attributeLists;
+    SharedStrings names;
+    TextArena texts;
 };
 
 } // namespace KzXmlLib10

@@ -3,6 +3,9 @@
 #include "support/FileTest.h"
 #include "support/Test.h"
 
+#include "object/Utf8.h"
+#include "xml/AsyncFiles.h"
+
 #include <cerrno>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -99,6 +102,33 @@ TEST_F(CXmlDocumentLoad, ReadsBlocksWhateverFallsOnTheirEdgesButTheEnd) {
         EXPECT_EQ(TreeOfFile(DocumentOfSize(blocks * blockSize), false), tree);
         EXPECT_EQ(FailureOf("f.xml", true), "Failed to read the contents of the file. Error [0x00000026]");
     }
+}
+
+TEST_F(CXmlDocumentLoad, RefusesUnpairedSurrogatesOnEveryRoad) {
+    const std::pair<std::u16string, std::string> rows[] = {
+        {u"<a b='\U0001F600'>\U0010FFFF</a>", "a[@b=\xF0\x9F\x98\x80 \"\xF4\x8F\xBF\xBF\"]"},
+        {u"<a>\n\xD83Dx</a>", "not well-formed (invalid token) at line 2"},
+        {u"<a>\xD83D\xD83D\xDE00</a>", malformed},
+        {u"<a b='\n\xDBFF'/>", "not well-formed (invalid token) at line 2"},
+        {u"<a><![CDATA[\xD800<]]></a>", malformed},
+        {u"<a>\xDE00</a>", malformed}};
+    const std::uint32_t usual = readBlockSize;
+    for (const auto& [xml, outcome] : rows)
+        for (const bool bigEndian : {false, true})
+            for (const std::uint32_t blocks : {0, 3, 5, 7}) {
+                std::string bytes;
+                for (const char16_t unit : u"\uFEFF" + xml)
+                    for (const int shift : {bigEndian ? 8 : 0, bigEndian ? 0 : 8})
+                        bytes += static_cast<char>(unit >> shift & 0xFF);
+                while (blocks != 0 && bytes.size() % blocks == 0) // or the end would fall on that of a block
+                    bytes.append(bigEndian ? "\0 " : " \0", 2);
+                readBlockSize = blocks ? blocks : usual;
+                std::string tree;
+                const std::string failure = Failure([&] { tree = TreeOfFile(bytes, blocks != 0); });
+                EXPECT_EQ(tree.empty() ? failure : tree, outcome) << ToUtf8WithReplacements(xml) << blocks;
+            }
+    readBlockSize = usual;
+    EXPECT_EQ(Failure([] { CXmlDocument().LoadXml(u"<a>\xD800</a>"); }), malformed);
 }
 
 TEST_F(CXmlDocumentLoad, ReportsWhatIsWrongWithAFile) {

@@ -189,6 +189,8 @@ TEST(CXmlDocument, DropsElementsForWhichTheCallbackReturnsTrue) {
         {"<r><k/><d/><k/><d/><d/><k/></r>", "k;d;k;d;d;k;r[k k k];", "r[k k k]"},
         {"<r><d/><k><d/><k/><d/></k><d/></r>", "d;d;k;d;k[k];d;r[k[k]];", "r[k[k]]"},
         {"<r><d><d/><k/></d></r>", "d;k;d[k];r;", "r"},
+        {"<r>1<d>a<k>b</k>c<d/></d>2<k>3</k>4<d>d</d>5</r>",
+         R"(k["b"];d;d["ac" k["b"]];k["3"];d["d"];r["1245" k["3"]];)", R"(r["1245" k["3"]])"},
     };
     for (const auto& [xml, seen, tree] : rows) {
         g_seen.clear();

@@ -24,7 +24,7 @@ Survey::Survey(const CXmlElement& root) {
 void Survey::Count(const CXmlElement& element) {
     ++m_elements;
     Note(element.GetNamespaceURI(), m_elementNamespaces, m_lastOfElements);
-    const std::u16string_view text = SignificantText(element);
+    const std::u16string text = SignificantText(element);
     m_textLength += text.size();
     if (!text.empty() && element.GetFirstElement())
         ++m_mixedElements;
@@ -44,8 +44,8 @@ void Survey::Note(const std::u16string& uri, std::set<std::u16string>& namespace
         last = &*namespaces.insert(uri).first;
 }
 
-std::u16string_view SignificantText(const CXmlElement& element) {
-    const std::u16string& text = element.GetText();
+std::u16string SignificantText(const CXmlElement& element) {
+    std::u16string text = element.GetText();
     if (element.GetFirstElement() && text.find_first_not_of(u" \t\r\n") == std::u16string::npos)
         return {};
     return text;

@@ -5,7 +5,6 @@
 #include <cstdint>
 #include <set>
 #include <string>
-#include <string_view>
 
 namespace quillon {
 
@@ -39,6 +38,6 @@ private:
 };
 
 /// The text of an element as it counts: white space beside child elements is indentation, and left out.
-std::u16string_view SignificantText(const KzXmlLib10::CXmlElement& element);
+std::u16string SignificantText(const KzXmlLib10::CXmlElement& element);
 
 } // namespace quillon

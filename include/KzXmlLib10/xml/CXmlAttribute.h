@@ -8,11 +8,13 @@
 
 namespace KzXmlLib10 {
 
+struct SharedName;
+
 /// An attribute of a CXmlElement: its local name, its namespace and its value, as the parser normalised it.
 ///
 /// Made by the readers only and owned by its element. Prefixes are not kept. An attribute without a prefix
 /// has an empty namespace, also where a default namespace is in scope.
-class QUILLON_EXPORT CXmlAttribute : public CInstanceMonitor {
+class QUILLON_EXPORT CXmlAttribute final : public CInstanceMonitor {
 public:
     ~CXmlAttribute() override;
 
@@ -36,8 +38,7 @@ private:
     friend class CXmlElement;
 
     /// The names stay those of the document.
-    CXmlAttribute(const std::u16string& localName, std::u16string value,
-                  const std::u16string& namespaceUri) noexcept;
+    CXmlAttribute(const SharedName& name, std::u16string value) noexcept;
 
     const std::u16string* m_localName;
     std::u16string m_value;

@@ -18,6 +18,8 @@
 namespace KzXmlLib10 {
 
 class AsyncFile;
+struct OpenElement;
+struct SharedName;
 struct TreeMemory;
 
 /// A small read-only tree of elements: the form in which every input reaches the objects.
@@ -91,7 +93,7 @@ private:
 
     void Init();
     void DropTree();
-    void ParseText(std::uint64_t handedIn, const char16_t* protocolEncoding = nullptr);
+    void ParseText(std::uint64_t handedIn, const char* protocolEncoding = nullptr);
     void Parse();
     void DecompressBuffer();
     void LoadWhole(const std::u16string& fileName);
@@ -101,14 +103,12 @@ private:
     static std::unique_ptr<unsigned char[]> NewBuffer(std::uint64_t size);
     unsigned char* SetBuffer(std::unique_ptr<unsigned char[]> buffer, std::uint64_t size);
 
-    CXmlElement* AddDocElement(std::u16string_view namespaceUri, std::u16string_view localName);
-    CXmlElement* AddChildElement(std::u16string_view namespaceUri, std::u16string_view localName);
-    void OpenElement(CXmlElement* element, CXmlElement* previous);
+    /// Makes the memory of the tree, before the name of its root is shared.
+    void StartTree();
+    CXmlElement* AddDocElement(const SharedName& name);
+    CXmlElement* AddChildElement(const SharedName& name);
     void EndElement();
-    void AddElementAttribute(CXmlElement* element, std::u16string_view localName, std::u16string_view value,
-                             std::u16string_view namespaceUri);
-    void AppendTextExcludingCR(CXmlElement* element, const char16_t* text);
-    void AppendTextExcludingCR(CXmlElement* element, const char16_t* text, unsigned long length);
+    static void AppendTextExcludingCR(CXmlElement* element, std::u16string_view text);
 
     /// Where the next block of a file starts. Outlives the load.
     std::uint64_t m_readOffset = 0;
@@ -122,10 +122,9 @@ private:
     SchemaType m_schemaType;
     bool (*m_elementCallback)(CXmlElement*);
     const CXmlSerializationContext* m_context;
-    /// For each open element the sibling before it, so that dropping a child needs no walk. Kept only where
-    /// the callback can drop.
-    std::vector<CXmlElement*> m_previousSiblings;
-    /// There while there is a root.
+    /// What dropping an open element needs. Kept only where the callback can drop.
+    std::vector<OpenElement> m_openElements;
+    /// There from the first start tag on.
     std::unique_ptr<TreeMemory> m_memory;
 };
 

@@ -13,6 +13,9 @@
 
 namespace KzXmlLib10 {
 
+struct SharedName;
+struct TextPiece;
+
 /// An element of a CXmlDocument: its name, its attributes, its child elements and its text.
 ///
 ///     for (CXmlElement* item = order->GetFirstElement(); item; item = item->GetNextSiblingElement())
@@ -20,7 +23,7 @@ namespace KzXmlLib10 {
 ///
 /// Made by the readers only; belongs to its document and is valid until that is loaded again or destroyed.
 /// Comments, processing instructions, prefixes and the place of text among the children are not kept.
-class QUILLON_EXPORT CXmlElement : public CInstanceMonitor {
+class QUILLON_EXPORT CXmlElement final : public CInstanceMonitor {
 public:
     CXmlElement(const CXmlElement&) = delete;
     CXmlElement& operator=(const CXmlElement&) = delete;
@@ -37,27 +40,16 @@ public:
     const std::u16string& GetLocalName() const { return *m_localName; }
     const std::u16string& GetNamespaceURI() const { return *m_namespaceUri; }
     /// All character data directly in this element, in document order, white space included.
-    const std::u16string& GetText() const { return m_text; }
+    std::u16string GetText() const;
+    /// The same where it stands, or in `room` if it had to be put together. Valid until the element or `room`
+    /// changes; a zero follows the text.
+    std::u16string_view ViewText(std::u16string& room) const;
     /// In document order; the attributes stay the property of the element.
-    const std::vector<CXmlAttribute*>& GetAttributes() const { return m_attributes; }
+    const std::vector<CXmlAttribute*>& GetAttributes() const;
     /// The value of the first attribute of exactly this name and namespace, found by a linear walk.
     /// If there is none, one static empty string, the same object each time.
     const std::u16string& GetAttribute(const std::u16string& localName,
                                        const std::u16string& namespaceUri) const;
-
-protected:
-    void AddAttribute(std::u16string_view localName, std::u16string_view value,
-                      std::u16string_view namespaceUri);
-    /// Appends zero-terminated text.
-    void AppendText(const char16_t* text);
-    /// Appends `count` code units. The capacity at least doubles, so that many small pieces cost linear time.
-    void AppendText(const char16_t* text, std::size_t count);
-    /// Appends a child without a name, and returns it.
-    CXmlElement* CreateNewChildElement();
-    /// Removes and destroys the last child; `previous` is the one before it, or null.
-    void RemoveLastChildElement(CXmlElement* previous);
-    void SetElementName(std::u16string_view localName);
-    void SetNamespace(std::u16string_view namespaceUri);
 
 private:
     friend class CExpatReader;
@@ -65,19 +57,30 @@ private:
     friend class RecordParser;
     friend class CXmlDocument;
 
-    explicit CXmlElement(const CXmlDocument* document) noexcept;
+    CXmlElement(const CXmlDocument* document, const SharedName& name) noexcept;
 
-    /// A new element without a name, in the memory of its document.
-    static CXmlElement* Create(const CXmlDocument* document);
+    /// A new element in the memory of its document.
+    static CXmlElement* Create(const CXmlDocument* document, const SharedName& name);
     static void DestroyChain(CXmlElement* list) noexcept;
+    void DestroyAttributes() noexcept;
+
+    /// Gives room for so many attributes.
+    void ReserveAttributes(std::size_t count);
+    void AddAttribute(const SharedName& name, std::u16string value);
+    void AppendText(std::u16string_view text);
+    void ClearText();
+    /// Appends a child, and returns it.
+    CXmlElement* CreateNewChildElement(const SharedName& name);
+    /// Removes and destroys the last child; `previous` is the one before it, or null.
+    void RemoveLastChildElement(CXmlElement* previous);
 
     const CXmlDocument* m_document;
     CXmlElement* m_nextSibling = nullptr;
     CXmlElement* m_firstChild = nullptr;
     CXmlElement* m_lastChild = nullptr;
-    std::vector<CXmlAttribute*> m_attributes;
-    std::u16string m_text;
-    const std::u16string* m_localName; ///< the document's, as all names
+    std::vector<CXmlAttribute*>* m_attributes = nullptr; ///< null for none
+    TextPiece* m_text = nullptr;                         ///< the last piece, null for none
+    const std::u16string* m_localName;                   ///< the document's, as all names
     const std::u16string* m_namespaceUri;
 };
 

@@ -1,0 +1,75 @@
+#pragma once
+
+#include "xml/Expat.h"
+#include "xml/SharedName.h"
+#include "xml/SharedStrings.h"
+
+#include <cstring>
+#include <set>
+#include <string>
+#include <string_view>
+
+namespace KzXmlLib10 {
+
+/// The names of a document as expat gives them, and what each of them is in the tree.
+///
+/// Names of a document mostly come in an order that they came in before. So each name remembers the one that
+/// followed it last, and the table is searched only where that was another one. The search takes logarithmic
+/// time, so that nobody can choose names that make it slow.
+class ParserNames {
+public:
+    static constexpr char Separator = '|';
+
+    ParserNames() = default;
+    ParserNames(const ParserNames&) = delete;
+    ParserNames& operator=(const ParserNames&) = delete;
+
+    /// The name in the tree that has these strings, for a URI, separator and local name, or a local name
+    /// alone. All calls are given the same strings.
+    const SharedName& Find(const char* name, SharedStrings& strings) {
+        const Entry*& guess = m_last->follower;
+        if (!guess || std::strcmp(guess->text.c_str(), name) != 0)
+            guess = &Search(name, strings);
+        m_last = guess;
+        return m_last->name;
+    }
+
+private:
+    struct Entry {
+        std::string text;
+        SharedName name;
+        mutable const Entry* follower = nullptr;
+    };
+
+    /// By length first, since that tells most names apart.
+    struct Order {
+        using is_transparent = void;
+        static bool Less(std::string_view a, std::string_view b) {
+            return a.size() != b.size() ? a.size() < b.size() : a < b;
+        }
+        bool operator()(const Entry& a, const Entry& b) const { return Less(a.text, b.text); }
+        bool operator()(const Entry& a, std::string_view b) const { return Less(a.text, b); }
+        bool operator()(std::string_view a, const Entry& b) const { return Less(a, b.text); }
+    };
+
+    const Entry& Search(std::string_view text, SharedStrings& strings) {
+        if (const auto found = m_entries.find(text); found != m_entries.end())
+            return *found;
+        return *m_entries.insert({std::string(text), Split(text, strings)}).first;
+    }
+
+    /// Deliberate: at the first separator.
+    static SharedName Split(std::string_view text, SharedStrings& strings) {
+        const std::size_t separator = text.find(Separator);
+        if (separator == text.npos)
+            return {&strings.Share({}), &strings.Share(expat::Text(text))};
+        return {&strings.Share(expat::Text(text.substr(0, separator))),
+                &strings.Share(expat::Text(text.substr(separator + 1)))};
+    }
+
+    std::set<Entry, Order> m_entries;
+    Entry m_start; ///< what the first name follows
+    const Entry* m_last = &m_start;
+};
+
+} // namespace KzXmlLib10
