@@ -1,6 +1,7 @@
 #pragma once
 
-#include <cstring>
+#include "object/TextScan.h"
+
 #include <set>
 #include <string>
 #include <string_view>
@@ -24,7 +25,7 @@ private:
         bool operator()(std::u16string_view a, std::u16string_view b) const {
             if (a.size() != b.size())
                 return a.size() < b.size();
-            return std::memcmp(a.data(), b.data(), a.size() * sizeof(char16_t)) < 0;
+            return CompareBytes(a, b) < 0;
         }
     };
 
