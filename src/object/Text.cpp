@@ -4,6 +4,7 @@
 #include "object/Throw.h"
 #include "object/Utf8.h"
 
+#include <algorithm>
 #include <array>
 #include <cstdint>
 #include <cstring>
@@ -98,14 +99,23 @@ bool IsAscii(Char unit) {
     return static_cast<std::make_unsigned_t<Char>>(unit) < 0x80;
 }
 
-template <class Char>
-std::size_t CountLeadingAscii(std::basic_string_view<Char> text) {
-    std::size_t count = 0;
-    while (text.size() - count >= blockSize && IsAscii(LoadBlock(text.data() + count)))
-        count += blockSize;
-    while (count < text.size() && IsAscii(text[count]))
-        ++count;
-    return count;
+/// Writes a block of ASCII as bytes. False for any other block.
+bool NarrowAscii(char* to, const char16_t* from) {
+    typedef std::uint16_t Units __attribute__((vector_size(blockSize)));
+    typedef std::uint8_t Bytes __attribute__((vector_size(blockSize / 2)));
+    Units low, high;
+    std::memcpy(&low, from, sizeof low);
+    std::memcpy(&high, from + blockSize / 2, sizeof high);
+    std::uint64_t words[2];
+    const Units all = low | high;
+    std::memcpy(words, &all, sizeof words);
+    if (((words[0] | words[1]) & 0xFF80'FF80'FF80'FF80) != 0)
+        return false;
+    const Bytes lowBytes = __builtin_convertvector(low, Bytes);
+    const Bytes highBytes = __builtin_convertvector(high, Bytes);
+    std::memcpy(to, &lowBytes, sizeof lowBytes);
+    std::memcpy(to + sizeof lowBytes, &highBytes, sizeof highBytes);
+    return true;
 }
 
 /// Copies the ASCII at the head of a text to the other form. Returns how much there was.
@@ -129,41 +139,51 @@ std::size_t CopyLeadingAscii(To* to, std::basic_string_view<From> text) {
 } // namespace
 
 Utf8Extent MeasureUtf8(std::u16string_view text) {
-    Utf8Extent extent{0, 0};
-    for (;;) {
-        const std::size_t ascii = CountLeadingAscii(text.substr(extent.units));
-        extent.units += ascii;
-        extent.bytes += ascii;
-        if (extent.units == text.size())
-            return extent;
-        char32_t point;
-        const std::size_t units = ReadUtf16(text, extent.units, point);
-        if (units == 0)
-            return extent;
-        extent.units += units;
-        extent.bytes += point < 0x800 ? 2 : point < 0x10000 ? 3 : 4;
+    std::size_t at = 0;
+    std::size_t more = 0; // bytes than units
+    while (at < text.size()) {
+        if (text.size() - at >= blockSize && IsAscii(LoadBlock(text.data() + at))) {
+            at += blockSize;
+            continue;
+        }
+        for (const std::size_t end = std::min(text.size(), at + blockSize); at < end;) {
+            char32_t point;
+            const std::size_t units = ReadUtf16(text, at, point);
+            if (units == 0)
+                return {at, at + more};
+            at += units;
+            more += point < 0x80 ? 0 : point < 0x800 ? 1 : 2; // a pair has two units already
+        }
     }
+    return {at, at + more};
 }
 
-void WriteUtf8(char* to, std::u16string_view text, Utf8Extent extent) {
-    text = text.substr(0, extent.units);
-    for (;;) {
-        const std::size_t ascii = CopyLeadingAscii(to, text);
-        to += ascii;
-        text.remove_prefix(ascii);
-        if (text.empty())
-            return;
-        char32_t point;
-        text.remove_prefix(ReadUtf16(text, 0, point));
-        to = PutUtf8(to, point);
+Utf8Extent WriteUtf8(char* to, std::u16string_view text) {
+    const char* const start = to;
+    std::size_t at = 0;
+    while (at < text.size()) {
+        if (text.size() - at >= blockSize && NarrowAscii(to, text.data() + at)) {
+            at += blockSize;
+            to += blockSize;
+            continue;
+        }
+        for (const std::size_t end = std::min(text.size(), at + blockSize); at < end;) {
+            char32_t point;
+            const std::size_t units = ReadUtf16(text, at, point);
+            if (units == 0)
+                return {at, static_cast<std::size_t>(to - start)};
+            at += units;
+            to = PutUtf8(to, point);
+        }
     }
+    return {at, static_cast<std::size_t>(to - start)};
 }
 
 std::size_t AppendUtf8(std::string& out, std::u16string_view text) {
     const Utf8Extent extent = MeasureUtf8(text);
     const std::size_t start = out.size();
     out.resize(start + extent.bytes);
-    WriteUtf8(out.data() + start, text, extent);
+    WriteUtf8(out.data() + start, text.substr(0, extent.units));
     return extent.units;
 }
 

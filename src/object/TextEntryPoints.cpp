@@ -38,8 +38,12 @@ std::u16string CXmlObjectBase::ToXml(bool includeDeclaration, bool formatted, EO
     CheckGeneratorVersion();
     CTextStream stream(XmlEncoding_None);
     WriteDocument(stream, includeDeclaration, formatted, eol, context);
-    CStringBuffer& text = stream.GetBuffer();
-    return std::u16string(text.GetString(), text.GetLength());
+    const CStringBuffer& buffer = stream.GetBuffer();
+    std::u16string text;
+    text.reserve(buffer.GetLength());
+    for (std::size_t i = 0; i < buffer.GetChunkCount(); ++i)
+        text += buffer.GetChunk(i);
+    return text;
 }
 
 void CXmlObjectBase::FromXml(const char16_t* xml, const CXmlSerializationContext& context) {

@@ -16,8 +16,9 @@ struct Utf8Extent {
 
 Utf8Extent MeasureUtf8(std::u16string_view text);
 
-/// Writes the UTF-8 form of the part of a text that MeasureUtf8 has measured.
-void WriteUtf8(char* to, std::u16string_view text, Utf8Extent extent);
+/// Writes the UTF-8 form of a text up to its first surrogate without its partner, where there is room for
+/// what MeasureUtf8 would find, or for three bytes a unit.
+Utf8Extent WriteUtf8(char* to, std::u16string_view text);
 
 /// Appends the UTF-8 form of `text` up to the first surrogate without its partner.
 /// Returns the number of code units converted.

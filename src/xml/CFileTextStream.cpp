@@ -84,7 +84,7 @@ void CFileTextStream::WriteBuffer(bool isLast) {
     if (!m_file->IsOpen())
         CheckBlock(EBADF);
     if (!m_textHasEnded) {
-        const EncodedText encoded = EncodeText(text, m_encoding); // while the block before is written
+        const EncodedText encoded = EncodeText({&text, 1}, m_encoding); // while the block before is written
         m_textHasEnded = !encoded.isWhole;
         StartWrite(encoded.bytes);
     }

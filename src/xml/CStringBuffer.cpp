@@ -30,20 +30,23 @@ void CStringBuffer::AppendAcrossChunks(std::u16string_view text) {
     }
 }
 
-void CStringBuffer::AddChunk() {
+void CStringBuffer::AddChunk() { AddChunk(0); }
+
+void CStringBuffer::AddChunk(std::size_t leastCapacity) {
+    const std::uint32_t capacity = std::max(m_chunkSize, static_cast<std::uint32_t>(leastCapacity));
     if (!m_chunkLengths.empty())
         m_chunkLengths.back() = m_used; // the same as its capacity unless the chunk is closed early
-    m_chunkLengths.push_back(m_chunkSize);
+    m_chunkLengths.push_back(capacity);
     try {
         // GetString sets the terminator, so nothing needs to be zero before.
-        m_chunks.push_back(std::make_unique_for_overwrite<char16_t[]>(std::size_t{m_chunkSize} + 1));
+        m_chunks.push_back(std::make_unique_for_overwrite<char16_t[]>(std::size_t{capacity} + 1));
     } catch (...) {
         m_chunkLengths.pop_back();
         throw;
     }
     m_current = m_chunks.back().get();
     m_used = 0;
-    m_capacity = m_chunkSize;
+    m_capacity = capacity;
 }
 
 const char16_t* CStringBuffer::GetString() {

@@ -2,6 +2,10 @@
 
 #include "xml/EncodeText.h"
 
+#include <cstddef>
+#include <string_view>
+#include <vector>
+
 namespace KzXmlLib10 {
 
 CTextStream::CTextStream(XmlEncoding encoding) : CInstanceMonitor(u"CTextStream"), m_encoding(encoding) {}
@@ -15,7 +19,11 @@ void CTextStream::Close() {}
 void CTextStream::Flush() {}
 
 CBinaryData CTextStream::GetBytes() {
-    return EncodeText({m_buffer.GetString(), m_buffer.GetLength()}, m_encoding).bytes;
+    std::vector<std::u16string_view> chunks;
+    chunks.reserve(m_buffer.GetChunkCount());
+    for (std::size_t i = 0; i < m_buffer.GetChunkCount(); ++i)
+        chunks.push_back(m_buffer.GetChunk(i));
+    return EncodeText(chunks, m_encoding).bytes;
 }
 
 } // namespace KzXmlLib10

@@ -18,7 +18,9 @@ TEST(CStringBuffer, GathersTextAcrossChunks) {
             buffer.Append(piece);
             buffer.AppendChar(u'-');
             buffer.Append(u"xy");
-            expected += piece + u"-xy";
+            std::copy(piece.begin(), piece.end(), buffer.Reserve(12)); // more than some chunks, or is needed
+            buffer.Commit(buffer.Reserve(0) + piece.size());
+            expected += piece + u"-xy" + piece;
             if (i % 10 == 3)
                 buffer.AddChunk();                                        // closes a chunk that is not full
             EXPECT_EQ(i % 13 == 5 ? TextOf(buffer) : expected, expected); // joins; appending goes on behind

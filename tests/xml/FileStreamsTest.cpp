@@ -23,8 +23,10 @@ void WriteInBlocks(const Pieces& pieces, XmlEncoding encoding, const std::u16str
 
 void WriteWhole(const Pieces& pieces, XmlEncoding encoding, const std::u16string& name) {
     CTextStream text(encoding);
-    for (const std::u16string& piece : pieces)
+    for (const std::u16string& piece : pieces) {
         text.GetBuffer().Append(piece);
+        text.GetBuffer().AddChunk(); // which may part two surrogates
+    }
     CFileBinaryStream stream(name.c_str(), encoding);
     stream.m_data = text.GetBytes();
     stream.SaveToFile();

@@ -51,12 +51,34 @@ public:
         ++m_length;
     }
 
+    /// Room for `count` characters in one piece behind the text, to be written in place. What was written
+    /// becomes part of the text by Commit, which has to be the next operation.
+    char16_t* Reserve(std::size_t count) {
+        RequireRoom(count);
+        if (count > m_capacity - m_used)
+            AddChunk(count);
+        return m_current + m_used;
+    }
+
+    /// Takes over what was written into the room that Reserve has given, up to `end`.
+    void Commit(const char16_t* end) {
+        const auto used = static_cast<std::uint32_t>(end - m_current);
+        m_length += used - m_used;
+        m_used = used;
+    }
+
     /// Starts a new chunk, whether the current one is full or not.
     void AddChunk();
 
     /// The whole text, terminated by a zero. Joins the chunks into one if there are several. Valid until the
     /// buffer changes.
     const char16_t* GetString();
+
+    /// The number of pieces that the text is held in, and each of them. Valid until the buffer changes.
+    std::size_t GetChunkCount() const { return m_chunks.size(); }
+    std::u16string_view GetChunk(std::size_t index) const {
+        return {m_chunks[index].get(), index + 1 == m_chunks.size() ? m_used : m_chunkLengths[index]};
+    }
 
     /// The number of characters held.
     std::uint32_t GetLength() const { return m_length; }
@@ -78,6 +100,7 @@ private:
         m_length += static_cast<std::uint32_t>(text.size());
     }
     void AppendAcrossChunks(std::u16string_view text);
+    void AddChunk(std::size_t leastCapacity);
     [[noreturn]] static void FailTooLong();
 
     std::vector<std::unique_ptr<char16_t[]>> m_chunks;
