@@ -6,6 +6,7 @@
 #include <KzXmlLib10/xml/CXmlWriter.h>
 
 #include "collections/ItemIndex.h"
+#include "xml/Leaf.h"
 
 #include <type_traits>
 #include <utility>
@@ -105,12 +106,15 @@ void CPrimitiveCol<Collection, T>::ToXml_Int(CXmlWriter* writer, bool, const cha
     constexpr auto toText = primitiveColFacts<Collection>.toText;
     ValidateCount(context);
     for (auto&& item : m_items) {
-        writer->StartElement(ElementName(), m_elementNamespace);
-        if constexpr (std::is_invocable_v<decltype(toText), const T&, const std::u16string&>)
-            writer->WriteText(toText(item, m_formatOverride), m_itemType);
+        if constexpr (std::is_same_v<T, std::u16string>)
+            writer->WriteLeaf(ElementName(), m_elementNamespace, item, m_itemType);
         else
-            writer->WriteText(toText(item), m_itemType);
-        writer->EndElement();
+            WriteLeafOf(*writer, ElementName(), m_elementNamespace, m_itemType, [&] {
+                if constexpr (std::is_invocable_v<decltype(toText), const T&, const std::u16string&>)
+                    return toText(item, m_formatOverride);
+                else
+                    return toText(item);
+            });
     }
 }
 

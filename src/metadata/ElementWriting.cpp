@@ -2,8 +2,8 @@
 
 #include <KzXmlLib10/metadata/CElementInfo.h>
 
-#include "metadata/ValueText.h"
 #include "object/NotNull.h"
+#include "xml/Leaf.h"
 
 #include <KzXmlLib10/collections/CXmlCollectionBase.h>
 #include <KzXmlLib10/object/CXmlGeneratedClass.h>
@@ -39,10 +39,12 @@ bool CElementInfo::ElementToXmlPrim(const CXmlSerializationContext&, const CXmlG
         return false;
     // The facets come before the start tag, so that a bad value leaves no open element behind.
     CheckRestriction(value);
-    writer->StartElement(m_elementName, m_elementNamespace);
-    const ValueText text(value, m_formatOverride);
-    writer->WriteText(text.Get(), value.GetTypeAsEnum());
-    writer->EndElement();
+    const ItemType type = value.GetTypeAsEnum();
+    if (type == ItemType_string)
+        writer->WriteLeaf(m_elementName, m_elementNamespace, value.GetStringRef(), type);
+    else
+        WriteLeafOf(*writer, m_elementName, m_elementNamespace, type,
+                    [&] { return value.ToString(m_formatOverride.c_str()); });
     return true;
 }
 
@@ -56,9 +58,8 @@ bool CElementInfo::ElementToXmlEnum(const CXmlSerializationContext&, const CXmlG
     }
     if (value.GetTypeAsEnum() == ItemType_Invalid)
         return false;
-    writer->StartElement(m_elementName, m_elementNamespace);
-    writer->WriteText(EmptyIfNull(enumToString(value.GetI4())), ItemType_string);
-    writer->EndElement();
+    WriteLeafOf(*writer, m_elementName, m_elementNamespace, ItemType_string,
+                [&] { return std::u16string(EmptyIfNull(enumToString(value.GetI4()))); });
     return true;
 }
 

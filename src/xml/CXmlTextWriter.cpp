@@ -1,12 +1,16 @@
 #include <KzXmlLib10/xml/CXmlTextWriter.h>
 
 #include "object/NotNull.h"
+#include "object/TextScan.h"
 #include "object/Throw.h"
 #include "xml/Messages.h"
+#include "xml/NamespaceMap.h"
+#include "xml/TextCopy.h"
 #include "xml/XmlNamespaces.h"
 
-#include <array>
+#include <algorithm>
 #include <cstring>
+#include <typeinfo>
 
 namespace KzXmlLib10 {
 
@@ -16,32 +20,29 @@ namespace {
 
 constexpr std::uint32_t flushThreshold = 4096;
 
-/// For each unit up to '>', whether the text cannot be copied past it: it needs an escape or ends the text.
-using SpecialUnits = std::array<bool, u'>' + 1>;
+constexpr std::size_t sliceSize = 1024;
+constexpr std::size_t longestEscape = 5; // &amp;
+constexpr std::size_t tabsAtOnce = 16;
 
-constexpr SpecialUnits MakeSpecialUnits(std::u16string_view units) {
-    SpecialUnits special{};
-    special[0] = true;
-    for (const char16_t unit : units)
-        special[unit] = true;
-    return special;
+/// How much room an indentation needs, which is written in blocks.
+std::size_t IndentRoom(std::size_t depth) { return depth + tabsAtOnce; }
+
+char16_t* PutIndent(char16_t* to, std::size_t depth) {
+    static constexpr char16_t tabs[tabsAtOnce + 1] = u"\t\t\t\t\t\t\t\t\t\t\t\t\t\t\t\t";
+    char16_t* const end = to + depth;
+    for (; to < end; to += tabsAtOnce)
+        std::memcpy(to, tabs, tabsAtOnce * sizeof *tabs);
+    return end;
 }
 
-constexpr SpecialUnits specialInText = MakeSpecialUnits(u"\n\r&<>"sv);
-constexpr SpecialUnits specialInAttribute = MakeSpecialUnits(u"\n\r\"&<>"sv);
+char16_t* PutUpToZero(char16_t* to, std::u16string_view text) {
+    return to + CopyUntil<u'\0'>(to, text.data(), text.size());
+}
 
-/// The text up to its first zero. Looks at four units at once.
-std::u16string_view UpToZero(std::u16string_view text) {
-    constexpr std::uint64_t ones = 0x0001'0001'0001'0001;
-    std::size_t count = 0;
-    for (std::uint64_t units; text.size() - count >= 4; count += 4) {
-        std::memcpy(&units, text.data() + count, sizeof units);
-        if ((units - ones) & ~units & (ones << 15)) // one of them may be zero
-            break;
-    }
-    while (count < text.size() && text[count] != u'\0')
-        ++count;
-    return text.substr(0, count);
+/// Copies up to a unit that needs an escape or ends the text.
+std::size_t CopyUnescaped(char16_t* to, std::u16string_view text, bool inAttribute) {
+    return inAttribute ? CopyUntil<u'\0', u'\n', u'\r', u'"', u'&', u'<', u'>'>(to, text.data(), text.size())
+                       : CopyUntil<u'\0', u'\n', u'\r', u'&', u'<', u'>'>(to, text.data(), text.size());
 }
 
 } // namespace
@@ -86,14 +87,14 @@ void CXmlTextWriter::WriteDeclaration() {
 
 void CXmlTextWriter::WriteComment(const std::u16string& text) {
     Buffer().Append(u"<!--"sv);
-    WriteEscaped(text.c_str(), false); // Deliberate: a double hyphen is not looked at.
+    WriteEscaped(text, false); // Deliberate: a double hyphen is not looked at.
     Buffer().Append(u"-->"sv);
     Buffer().Append(m_eol);
     FlushIfFull();
 }
 
 void CXmlTextWriter::WriteProcessingInstruction(const std::u16string& text) {
-    Buffer().Append(UpToZero(text));
+    AppendUpToZero(text);
     Buffer().Append(m_eol);
     Buffer().Append(m_eol);
     FlushIfFull();
@@ -102,40 +103,41 @@ void CXmlTextWriter::WriteProcessingInstruction(const std::u16string& text) {
 void CXmlTextWriter::WriteInlineSchema(const std::u16string& text) {
     Buffer().AppendChar(u' ');
     Buffer().Append(m_eol);
-    Buffer().Append(UpToZero(text));
+    AppendUpToZero(text);
     Buffer().Append(m_eol);
     FlushIfFull();
 }
 
 void CXmlTextWriter::CloseStartTag() {
-    if (!m_context)
-        return;
+    if (m_context)
+        Buffer().Commit(PutStartTagEnd(Buffer().Reserve(1 + m_eol.size())));
+}
+
+/// Counts a child of the current element, and writes the end of its start tag unless that is done.
+char16_t* CXmlTextWriter::PutStartTagEnd(char16_t* to) {
     m_context->CountChild();
     if (!m_context->m_startTagOpen)
-        return;
+        return to;
     m_context->m_startTagOpen = false;
-    Buffer().AppendChar(u'>');
-    if (m_formatted)
-        Buffer().Append(m_eol);
+    *to = u'>';
+    return PutEol(to + 1);
 }
 
 void CXmlTextWriter::StartElement(const std::u16string& name, const std::u16string& namespaceUri) {
     CloseStartTag();
     std::unique_ptr<CXmlWriterContext> context = CreateContext(name, namespaceUri);
-    WriteIndent(*context);
-    Buffer().AppendChar(u'<');
     // Deliberate: an element in no namespace below a default namespace gets no xmlns="".
-    if (!context->NeedsPrefix(namespaceUri)) {
-        Buffer().Append(UpToZero(name));
-    } else {
-        const BoundPrefix bound = BindPrefix(*context, namespaceUri);
-        Buffer().Append(UpToZero(bound.prefix));
-        Buffer().AppendChar(u':');
-        Buffer().Append(UpToZero(name));
-        if (bound.isNew) {
-            Buffer().AppendChar(u' ');
-            WriteNamespace(bound.prefix, namespaceUri);
-        }
+    const NamePrefix prefix = BindName(*context);
+    const std::size_t depth = IndentDepth(*context);
+    char16_t* to = Buffer().Reserve(IndentRoom(depth) + PrefixRoom(prefix.prefix) + name.size() + 1);
+    to = PutIndent(to, depth);
+    *to++ = u'<';
+    to = PutPrefix(to, prefix.prefix);
+    context->m_nameLength = CopyUntil<u'\0'>(to, name.data(), name.size());
+    Buffer().Commit(to + context->m_nameLength);
+    if (prefix.isNew) {
+        Buffer().AppendChar(u' ');
+        WriteNamespace(*prefix.prefix, namespaceUri);
     }
     if (!m_context)
         WriteRootNamespaces();
@@ -153,31 +155,85 @@ void CXmlTextWriter::WriteText(const std::u16string& text, ItemType) {
     }
     // Deliberate: text in CDATA form goes out as it stands, wherever the section ends.
     if (text.starts_with(u"<![CDATA["sv))
-        Buffer().Append(UpToZero(text));
+        AppendUpToZero(text);
     else
-        WriteEscaped(text.c_str(), false);
+        WriteEscaped(text, false);
     FlushIfFull();
 }
 
 void CXmlTextWriter::EndElement() {
     CXmlWriterContext& context = OpenElement();
     if (context.m_startTagOpen) {
-        Buffer().Append(u"/>"sv);
+        char16_t* const to = Buffer().Reserve(2 + m_eol.size());
+        to[0] = u'/';
+        to[1] = u'>';
+        Buffer().Commit(PutEol(to + 2));
     } else {
-        if (context.m_childCount > 0)
-            WriteIndent(context);
-        Buffer().Append(u"</"sv);
-        if (context.NeedsPrefix(context.m_namespaceUri)) {
-            Buffer().Append(UpToZero(context.GetAlias(context.m_namespaceUri)));
-            Buffer().AppendChar(u':');
-        }
-        Buffer().Append(UpToZero(context.m_name));
-        Buffer().AppendChar(u'>');
+        WriteEndTag(context);
     }
-    if (m_formatted)
-        Buffer().Append(m_eol);
     FlushIfFull();
     LeaveContext();
+}
+
+void CXmlTextWriter::WriteEndTag(CXmlWriterContext& context) {
+    if (!context.IsPrefixKnown()) { // the namespace state has changed since the start tag
+        const std::u16string& uri = context.m_namespaceUri;
+        context.m_prefix = context.NeedsPrefix(uri) ? &context.GetAlias(uri) : nullptr;
+    }
+    const std::size_t depth = context.m_childCount > 0 ? IndentDepth(context) : 0;
+    const std::u16string_view name(context.m_name.data(), context.m_nameLength);
+    char16_t* to =
+        Buffer().Reserve(IndentRoom(depth) + PrefixRoom(context.m_prefix) + name.size() + m_eol.size() + 3);
+    to = PutIndent(to, depth);
+    *to++ = u'<';
+    *to++ = u'/';
+    to = PutPrefix(to, context.m_prefix);
+    to += CopyUntil<>(to, name.data(), name.size());
+    *to++ = u'>';
+    Buffer().Commit(PutEol(to));
+}
+
+/// Whether a stream would see a flush on the way to so many more characters. A stream in memory has nothing
+/// to flush.
+bool CXmlTextWriter::WouldFlush(std::size_t count) const {
+    return Buffer().GetLength() + count >= flushThreshold && typeid(*m_stream) != typeid(CTextStream);
+}
+
+/// Writes an element in the namespace of its parent at one go, where nobody could tell the difference. False,
+/// and nothing written, for any other.
+bool CXmlTextWriter::TryWriteLeaf(const std::u16string& name, const std::u16string& namespaceUri,
+                                  const std::u16string& text) {
+    if (!m_context || text.empty() || text.front() == u'<' || text.size() > sliceSize ||
+        !m_context->IsPrefixKnown() || !SameText(namespaceUri, m_context->m_namespaceUri))
+        return false;
+    const std::u16string* const prefix = m_context->m_prefix;
+    const std::size_t depth = m_formatted ? static_cast<std::size_t>(m_context->m_depth) + 1 : 0;
+    const std::size_t endRoom = PrefixRoom(prefix) + name.size() + m_eol.size() + 3;
+    const std::size_t room = IndentRoom(depth) + text.size() + 2 * endRoom;
+    if (WouldFlush(room + (longestEscape - 1) * text.size()))
+        return false;
+
+    char16_t* to = PutStartTagEnd(Buffer().Reserve(room));
+    to = PutIndent(to, depth);
+    *to++ = u'<';
+    const char16_t* const tag = to;
+    to = PutPrefix(to, prefix);
+    to += CopyUntil<u'\0'>(to, name.data(), name.size());
+    const std::u16string_view fullName(tag, to);
+    *to++ = u'>';
+    const std::size_t copied = CopyUnescaped(to, text, false);
+    to += copied;
+    if (copied < text.size()) {
+        Buffer().Commit(to);
+        WriteEscaped(std::u16string_view(text).substr(copied), false);
+        to = Buffer().Reserve(endRoom);
+    }
+    *to++ = u'<';
+    *to++ = u'/';
+    to += CopyUntil<>(to, fullName.data(), fullName.size());
+    *to++ = u'>';
+    Buffer().Commit(PutEol(to));
+    return true;
 }
 
 void CXmlTextWriter::WriteAttribute(const std::u16string& name, const std::u16string& namespaceUri,
@@ -190,12 +246,12 @@ void CXmlTextWriter::WriteAttribute(const std::u16string& name, const std::u16st
             WriteNamespace(bound.prefix, namespaceUri);
             Buffer().AppendChar(u' ');
         }
-        Buffer().Append(UpToZero(bound.prefix));
+        AppendUpToZero(bound.prefix);
         Buffer().AppendChar(u':');
     }
-    Buffer().Append(UpToZero(name));
+    AppendUpToZero(name);
     Buffer().Append(u"=\""sv);
-    WriteEscaped(value.c_str(), true);
+    WriteEscaped(value, true);
     Buffer().AppendChar(u'"');
     FlushIfFull();
 }
@@ -223,18 +279,20 @@ void CXmlTextWriter::WriteXsiNil() {
     WriteAttribute(u"nil", schemaInstanceNamespace, u"true", ItemType_boolean);
 }
 
-/// Copies the runs between the units that need an escape.
-void CXmlTextWriter::WriteEscaped(const char16_t* text, bool inAttribute) {
-    const SpecialUnits& special = inAttribute ? specialInAttribute : specialInText;
-    for (;;) {
-        const char16_t* end = text;
-        while (*end >= special.size() || !special[*end])
-            ++end;
-        Buffer().Append(std::u16string_view(text, end));
-        if (*end == u'\0')
+/// Copies the runs between the units that need an escape, and takes a long text by slices.
+void CXmlTextWriter::WriteEscaped(std::u16string_view text, bool inAttribute) {
+    while (!text.empty()) {
+        const std::u16string_view head = text.substr(0, sliceSize);
+        char16_t* const to = Buffer().Reserve(head.size());
+        const std::size_t copied = CopyUnescaped(to, head, inAttribute);
+        Buffer().Commit(to + copied);
+        text.remove_prefix(copied);
+        if (copied == head.size())
+            continue;
+        if (text.front() == u'\0')
             return;
-        WriteEscape(*end, inAttribute);
-        text = end + 1;
+        WriteEscape(text.front(), inAttribute);
+        text.remove_prefix(1);
     }
 }
 
@@ -269,29 +327,47 @@ void CXmlTextWriter::WriteLineFeed() {
     Buffer().Append(m_eol);
 }
 
-void CXmlTextWriter::WriteIndent(const CXmlWriterContext& context) {
-    if (!m_formatted)
-        return;
-    static constexpr std::u16string_view tabs = u"\t\t\t\t\t\t\t\t\t\t\t\t\t\t\t\t";
-    std::size_t left = static_cast<std::size_t>(context.m_depth);
-    for (; left > tabs.size(); left -= tabs.size())
-        Buffer().Append(tabs);
-    Buffer().Append(tabs.substr(0, left));
+std::size_t CXmlTextWriter::IndentDepth(const CXmlWriterContext& context) const {
+    return m_formatted ? static_cast<std::size_t>(context.m_depth) : 0;
+}
+
+std::size_t CXmlTextWriter::PrefixRoom(const std::u16string* prefix) {
+    return prefix ? prefix->size() + 1 : 0;
+}
+
+char16_t* CXmlTextWriter::PutPrefix(char16_t* to, const std::u16string* prefix) {
+    if (!prefix)
+        return to;
+    to = PutUpToZero(to, *prefix);
+    *to = u':';
+    return to + 1;
+}
+
+/// The line end behind a tag.
+char16_t* CXmlTextWriter::PutEol(char16_t* to) const {
+    if (m_formatted)
+        for (const char16_t unit : m_eol)
+            *to++ = unit;
+    return to;
+}
+
+void CXmlTextWriter::AppendUpToZero(std::u16string_view text) {
+    Buffer().Commit(PutUpToZero(Buffer().Reserve(text.size()), text));
 }
 
 /// Deliberate: the URI is not escaped.
 void CXmlTextWriter::WriteNamespace(const std::u16string& prefix, const std::u16string& uri) {
     Buffer().Append(u"xmlns:"sv);
-    Buffer().Append(UpToZero(prefix));
+    AppendUpToZero(prefix);
     Buffer().Append(u"=\""sv);
-    Buffer().Append(UpToZero(uri));
+    AppendUpToZero(uri);
     Buffer().AppendChar(u'"');
 }
 
 void CXmlTextWriter::WriteRootNamespaces() {
     if (!m_defaultNamespace.empty()) {
         Buffer().Append(u" xmlns=\""sv);
-        Buffer().Append(UpToZero(m_defaultNamespace));
+        AppendUpToZero(m_defaultNamespace);
         Buffer().AppendChar(u'"');
     }
     for (const auto& [uri, prefix] : m_namespaces) {

@@ -1,9 +1,14 @@
 #include <KzXmlLib10/xml/CXmlWriter.h>
 
+#include "object/TextScan.h"
 #include "object/Throw.h"
 #include "xml/Messages.h"
 #include "xml/NamespaceMap.h"
 #include "xml/XmlNamespaces.h"
+
+#include <KzXmlLib10/xml/CXmlTextWriter.h>
+
+#include <typeinfo>
 
 namespace KzXmlLib10 {
 
@@ -32,11 +37,34 @@ void CXmlWriter::AddNamespace(const std::u16string& alias, const std::u16string&
         m_namespaces[uri] = alias;
 }
 
+void CXmlWriter::WriteLeaf(const std::u16string& name, const std::u16string& namespaceUri,
+                           const std::u16string& text, ItemType type) {
+    // A class derived from it may override any of the three.
+    if (typeid(*this) == typeid(CXmlTextWriter) &&
+        static_cast<CXmlTextWriter&>(*this).TryWriteLeaf(name, namespaceUri, text))
+        return;
+    StartElement(name, namespaceUri);
+    WriteText(text, type);
+    EndElement();
+}
+
 CXmlWriter::BoundPrefix CXmlWriter::BindPrefix(CXmlWriterContext& context, const std::u16string& uri) {
     if (const std::u16string* prefix = context.GetNamespaceMap().Find(uri))
         return {*prefix, false};
     context.AddContextNamespace(uri, GenerateAlias(context.GetNamespaceMap()));
     return {context.GetAlias(uri), true};
+}
+
+CXmlWriter::NamePrefix CXmlWriter::BindName(CXmlWriterContext& context) {
+    if (context.IsPrefixKnown())
+        return {context.m_prefix, false};
+    if (!context.NeedsPrefix(context.m_namespaceUri)) {
+        context.SetPrefix(nullptr);
+        return {nullptr, false};
+    }
+    const BoundPrefix bound = BindPrefix(context, context.m_namespaceUri);
+    context.SetPrefix(&bound.prefix);
+    return {&bound.prefix, bound.isNew};
 }
 
 std::u16string CXmlWriter::GenerateAlias(const NamespaceMap& namespaces) {
@@ -51,30 +79,18 @@ std::u16string CXmlWriter::MakeAlias(std::uint32_t n) {
     return {static_cast<char16_t>(first), static_cast<char16_t>(u'A' + n % 26)};
 }
 
-std::unique_ptr<CXmlWriter::CXmlWriterContext> CXmlWriter::CreateContext(const std::u16string& name,
-                                                                         const std::u16string& namespaceUri) {
+std::unique_ptr<CXmlWriter::CXmlWriterContext> CXmlWriter::MakeContext(const std::u16string& name,
+                                                                       const std::u16string& namespaceUri) {
     if (!m_context)
         return std::make_unique<CXmlWriterContext>(name, namespaceUri, m_defaultNamespace, m_namespaces);
-    if (!m_spareContexts)
-        return std::make_unique<CXmlWriterContext>(name, namespaceUri, *m_context);
-    std::unique_ptr<CXmlWriterContext> context = std::move(m_spareContexts);
-    m_spareContexts = std::move(context->m_parent);
-    context->Restart(name, namespaceUri, *m_context);
-    return context;
+    return std::make_unique<CXmlWriterContext>(name, namespaceUri, *m_context);
 }
 
-void CXmlWriter::EnterContext(std::unique_ptr<CXmlWriterContext> context) {
-    context->m_parent = std::move(m_context);
-    m_context = std::move(context);
-}
-
-void CXmlWriter::LeaveContext() {
-    std::unique_ptr<CXmlWriterContext> left = std::move(m_context);
-    m_context = std::move(left->m_parent);
-    if (!left->InheritsNamespaces())
-        return;
-    left->m_parent = std::move(m_spareContexts);
-    m_spareContexts = std::move(left);
+/// One with a namespace state of its own cannot serve again.
+void CXmlWriter::DropSpareContext() {
+    std::unique_ptr<CXmlWriterContext> dropped;
+    dropped.swap(m_spareContexts);
+    dropped->m_parent.swap(m_spareContexts);
 }
 
 CXmlWriter::CXmlWriterContext& CXmlWriter::OpenElement() const {
@@ -112,10 +128,20 @@ void CXmlWriter::CXmlWriterContext::Restart(const std::u16string& name, const st
     m_childCount = 0;
     m_startTagOpen = true;
     m_depth = parent.m_depth + 1;
-    m_namespaceUri = namespaceUri;
+    if (!SameText(m_namespaceUri, namespaceUri)) { // which is rare
+        m_namespaceUri = namespaceUri;
+        m_stateOfPrefix = 0;
+    }
     m_name = name;
     m_hasAttributes = false;
     m_namespaces = parent.m_namespaces;
+}
+
+bool CXmlWriter::CXmlWriterContext::IsPrefixKnown() const { return m_stateOfPrefix == m_namespaces->State(); }
+
+void CXmlWriter::CXmlWriterContext::SetPrefix(const std::u16string* prefix) {
+    m_prefix = prefix;
+    m_stateOfPrefix = m_namespaces->State();
 }
 
 CXmlWriter::CXmlWriterContext::~CXmlWriterContext() {
@@ -144,6 +170,7 @@ void CXmlWriter::CXmlWriterContext::AddContextNamespace(const std::u16string& ur
 
 void CXmlWriter::CXmlWriterContext::SetContextDefaultNamespace(const std::u16string& uri) {
     OwnNamespaces();
+    m_namespaces->BeginState();
     m_defaultNamespace = uri;
 }
 
@@ -158,10 +185,6 @@ void CXmlWriter::CXmlWriterContext::OwnNamespaces() {
 
 bool CXmlWriter::CXmlWriterContext::NeedsPrefix(const std::u16string& uri) const {
     return !uri.empty() && ByLengthThenBytes()(uri, GetDefaultNamespace()) != 0;
-}
-
-void CXmlWriter::CXmlWriterContext::CountChild() {
-    m_childCount = static_cast<std::int32_t>(static_cast<std::uint32_t>(m_childCount) + 1);
 }
 
 } // namespace KzXmlLib10

@@ -1,6 +1,7 @@
 #include "xml/NamespaceMap.h"
 
 #include <algorithm>
+#include <atomic>
 #include <optional>
 
 namespace KzXmlLib10 {
@@ -16,6 +17,11 @@ std::optional<std::uint32_t> GeneratedPrefixNumber(const std::u16string& prefix)
 
 } // namespace
 
+std::uint64_t NamespaceMap::NextState() {
+    static std::atomic<std::uint64_t> last = 0;
+    return last.fetch_add(1, std::memory_order_relaxed) + 1;
+}
+
 void NamespaceMap::Set(const std::u16string& uri, const std::u16string& prefix) {
     if (const std::u16string* old = Find(uri)) {
         if (*old == prefix)
@@ -23,6 +29,7 @@ void NamespaceMap::Set(const std::u16string& uri, const std::u16string& prefix) 
         CountUse(*old, -1);
     }
     CountUse(prefix, +1);
+    BeginState();
     m_prefixes.Set(uri, prefix);
 }
 

@@ -36,6 +36,11 @@ public:
 
     const std::u16string& DefaultNamespace() const { return m_defaultNamespace; }
 
+    /// A number that no other state of any map has, so that what was found in a state can be kept with it.
+    std::uint64_t State() const { return m_state; }
+    /// To be called when the default namespace changes. Setting a prefix does so itself.
+    void BeginState() { m_state = NextState(); }
+
     /// The prefix of a namespace, or null. Valid until the prefix of this namespace changes.
     const std::u16string* Find(const std::u16string& uri) const { return m_prefixes.Find(uri); }
 
@@ -46,12 +51,14 @@ public:
     std::uint32_t FirstFreePrefix() const { return m_firstFree; }
 
 private:
+    static std::uint64_t NextState();
     void CountUse(const std::u16string& prefix, int change);
 
     const std::u16string& m_defaultNamespace;
     PersistentMap<std::u16string, std::u16string, ByLengthThenBytes> m_prefixes;
     PersistentMap<std::uint32_t, std::uint32_t> m_uses; // how many namespaces have the n-th generated prefix
     std::uint32_t m_firstFree = 0;
+    std::uint64_t m_state = NextState();
 };
 
 } // namespace KzXmlLib10

@@ -239,4 +239,55 @@ TEST(CXmlTextWriter, ManyNestedNamespacesStayCheap) {
     EXPECT_TRUE(out.Run("<{urn:new}e").ends_with("<AB:e xmlns:AB=\"urn:new\""));
 }
 
+/// Makes the calls that a leaf stands for, one by one.
+struct ThreeCallsWriter : CXmlTextWriter {
+    using CXmlTextWriter::CXmlTextWriter;
+    void WriteText(const std::u16string& text, ItemType type) override {
+        CXmlTextWriter::WriteText(text, type);
+    }
+};
+
+TEST(CXmlTextWriter, WritesALeafAsThreeOperationsWould) {
+    const std::u16string names[] = {u"e", u"name", u"customer", u"a_rather_long_name", u"cut\0off"s};
+    const std::u16string texts[] = {u"",
+                                    u"x",
+                                    u"a<b",
+                                    u"12345678",
+                                    u"one & two\n\r'\"",
+                                    u"<![CDATA[<]]>",
+                                    u"<",
+                                    u"\0"s,
+                                    u"seven77\0x"s,
+                                    std::u16string(4'000, u'>'),
+                                    std::u16string(300, u'&') + u"\u00e9"};
+    for (const auto* before : {"", "<r ", "<r 'x ", "<r <s <t > ", "<r nil <{urn:x}s ", "+=urn:x <{urn:x}r ",
+                               "+p=urn:x <{urn:x}r <s ", "+p=urn:x <{urn:x}r +p=urn:y +q=urn:x ",
+                               "<a <a <a <a <a <a <a <a <a <a <a <a <a <a <a <a <a <a <{urn:x}a "})
+        for (const auto* uri : {u"", u"urn:x", u"urn:y"})
+            for (const bool formatted : {false, true}) {
+                RecordingStream streams[2];
+                CXmlTextWriter inBlocks(&streams[0]);
+                ThreeCallsWriter callsInBlocks(&streams[1]);
+                Output leaves(formatted, EOLType_CRLF), calls(formatted, EOLType_CRLF);
+                for (CXmlTextWriter* writer : {&inBlocks, static_cast<CXmlTextWriter*>(&callsInBlocks),
+                                               &leaves.writer, &calls.writer}) {
+                    writer->SetFormatted(formatted);
+                    RunScript(*writer, before);
+                    for (const std::u16string& name : names)
+                        for (const std::u16string& text : texts) {
+                            if (writer != &calls.writer) {
+                                writer->WriteLeaf(name, uri, text, ItemType_string);
+                                continue;
+                            }
+                            writer->StartElement(name, uri);
+                            writer->WriteText(text, ItemType_string);
+                            writer->EndElement();
+                        }
+                }
+                EXPECT_EQ(leaves.Text(), calls.Text()) << before;
+                EXPECT_EQ(streams[0].log, streams[1].log) << before;
+                EXPECT_GT(streams[1].log.size(), 25u);
+            }
+}
+
 } // namespace

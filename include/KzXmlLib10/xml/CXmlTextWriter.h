@@ -72,11 +72,22 @@ public:
     void CloseStartTag();
 
 private:
+    friend class CXmlWriter;
+
+    bool TryWriteLeaf(const std::u16string& name, const std::u16string& namespaceUri,
+                      const std::u16string& text);
+    bool WouldFlush(std::size_t count) const;
     CStringBuffer& Buffer() const { return m_stream->GetBuffer(); }
-    void WriteEscaped(const char16_t* text, bool inAttribute);
+    void WriteEscaped(std::u16string_view text, bool inAttribute);
     void WriteEscape(char16_t unit, bool inAttribute);
     void WriteLineFeed();
-    void WriteIndent(const CXmlWriterContext& context);
+    void WriteEndTag(CXmlWriterContext& context);
+    std::size_t IndentDepth(const CXmlWriterContext& context) const;
+    static std::size_t PrefixRoom(const std::u16string* prefix);
+    static char16_t* PutPrefix(char16_t* to, const std::u16string* prefix);
+    char16_t* PutEol(char16_t* to) const;
+    char16_t* PutStartTagEnd(char16_t* to);
+    void AppendUpToZero(std::u16string_view text);
     void WriteNamespace(const std::u16string& prefix, const std::u16string& uri);
     void WriteRootNamespaces();
     void FlushIfFull();

@@ -66,6 +66,11 @@ public:
     /// Writes xsi:nil="true". Fails as WriteAttribute does.
     virtual void WriteXsiNil() = 0;
 
+    /// Writes an element that holds a text, or nothing if that is empty: what StartElement, WriteText and
+    /// EndElement do, which a derived writer sees being called, and quicker for the writers of this library.
+    void WriteLeaf(const std::u16string& name, const std::u16string& namespaceUri, const std::u16string& text,
+                   ItemType type);
+
 protected:
     CXmlWriter();
 
@@ -109,7 +114,9 @@ protected:
         /// Whether names in the namespace are written with a prefix here.
         bool NeedsPrefix(const std::u16string& uri) const;
         /// Counts one more child element.
-        void CountChild();
+        void CountChild() {
+            m_childCount = static_cast<std::int32_t>(static_cast<std::uint32_t>(m_childCount) + 1);
+        }
 
         std::int32_t m_childCount = 0;
         bool m_startTagOpen = true;
@@ -118,6 +125,14 @@ protected:
         std::u16string m_name;
         std::unique_ptr<CXmlWriterContext> m_parent;
         bool m_hasAttributes = false;
+        /// Whether `m_prefix` holds in the namespace state as it is now.
+        bool IsPrefixKnown() const;
+        /// Remembers the prefix in the name of the element, or null for none. Restart with the same namespace
+        /// keeps it.
+        void SetPrefix(const std::u16string* prefix);
+        const std::u16string* m_prefix = nullptr;
+        /// How much of the name goes into text, where a name ends at its first zero.
+        std::size_t m_nameLength = 0;
 
     private:
         void OwnNamespaces();
@@ -126,6 +141,7 @@ protected:
         NamespaceMap* m_namespaces = nullptr;
         bool m_inherits = false;
         bool m_ownsMap = false;
+        std::uint64_t m_stateOfPrefix = 0; ///< the namespace state in which `m_prefix` was found
     };
 
     /// A prefix, and whether it was made just now and so has no declaration yet.
@@ -136,6 +152,14 @@ protected:
 
     /// The prefix of a namespace in a context; generates and adds one if there is none.
     static BoundPrefix BindPrefix(CXmlWriterContext& context, const std::u16string& uri);
+    /// The prefix in the name of an element that starts, or null if it has none.
+    struct NamePrefix {
+        const std::u16string* prefix;
+        bool isNew; ///< made just now, and so without a declaration yet
+    };
+
+    /// Finds the prefix for the name of an element that starts; generates and adds one if it needs one.
+    static NamePrefix BindName(CXmlWriterContext& context);
     /// The first of AA, AB, ... AZ, BA, ... that is no prefix in the map. Throws as MakeAlias does.
     static std::u16string GenerateAlias(const NamespaceMap& namespaces);
     /// The n-th generated prefix, from 0. Deliberate: from 676 on the first character leaves the alphabet.
@@ -144,10 +168,27 @@ protected:
 
     /// A context for an element that starts inside the current one. EnterContext makes it current.
     std::unique_ptr<CXmlWriterContext> CreateContext(const std::u16string& name,
-                                                     const std::u16string& namespaceUri);
-    void EnterContext(std::unique_ptr<CXmlWriterContext> context);
+                                                     const std::u16string& namespaceUri) {
+        if (!m_context || !m_spareContexts)
+            return MakeContext(name, namespaceUri);
+        std::unique_ptr<CXmlWriterContext> context;
+        context.swap(m_spareContexts);
+        context->m_parent.swap(m_spareContexts);
+        context->Restart(name, namespaceUri, *m_context);
+        return context;
+    }
+    void EnterContext(std::unique_ptr<CXmlWriterContext> context) {
+        context->m_parent.swap(m_context);
+        m_context.swap(context);
+    }
     /// Lets the current context go and makes its parent current.
-    void LeaveContext();
+    void LeaveContext() {
+        CXmlWriterContext& left = *m_context;
+        m_context.swap(left.m_parent); // which belongs to itself for a moment
+        left.m_parent.swap(m_spareContexts);
+        if (!left.InheritsNamespaces())
+            DropSpareContext();
+    }
 
     /// The innermost open element. Throws CKzInvalidStateException if there is none.
     CXmlWriterContext& OpenElement() const;
@@ -159,6 +200,10 @@ protected:
     std::map<std::u16string, std::u16string> m_namespaces;
 
 private:
+    std::unique_ptr<CXmlWriterContext> MakeContext(const std::u16string& name,
+                                                   const std::u16string& namespaceUri);
+    void DropSpareContext();
+
     /// Contexts that are done with, chained by their parents: there are few levels and many elements.
     std::unique_ptr<CXmlWriterContext> m_spareContexts;
 };
