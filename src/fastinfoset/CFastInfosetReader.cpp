@@ -27,7 +27,7 @@ namespace {
 /// The entry of a table with an index from a document.
 template <class T>
 const T& EntryAt(const std::vector<T>& values, std::uint64_t index) {
-    if (index == 0 || index > values.size())
+    if (index - 1 >= values.size()) // 0 wraps
         Throw<CKzException>(messages::NoSuchIndex, static_cast<unsigned long long>(index));
     return values[index - 1];
 }

@@ -270,9 +270,10 @@ private:
         return negative ? u"-" : p.plus ? u"+" : p.blank ? u" " : u"";
     }
 
+    /// Appends the text of a number, whose only characters from 'a' on are letters.
     static void AppendAscii(std::u16string& to, std::string_view text, bool upperCase) {
         for (const char c : text)
-            to += static_cast<char16_t>(upperCase && c >= 'a' && c <= 'z' ? c - 'a' + 'A' : c);
+            to += static_cast<char16_t>(upperCase && c >= 'a' ? c - 'a' + 'A' : c);
     }
 
     void WritePadded(const Placeholder& p, std::u16string_view prefix, std::u16string_view body,

@@ -10,8 +10,7 @@ namespace {
 
 /// The order of one field. A kind without the field counts as -1.
 /// Deliberate: values of different sign are indeterminate, so a year before 1 and one after it are, too.
-template <class Number>
-CDateTime::DTCompareResult CompareNumbers(Number left, Number right) {
+CDateTime::DTCompareResult CompareNumbers(double left, double right) {
     if (left * right < 0)
         return CDateTime::DTCompareResult_Indeterminate;
     if (left < right)
@@ -23,14 +22,13 @@ CDateTime::DTCompareResult CompareNumbers(Number left, Number right) {
 
 CDateTime::DTCompareResult CDateTime::CompareFields(const CDateTime& other) const {
     const auto compare = [&](bool (*has)(DTType), auto CDateTime::*field) {
-        return CompareNumbers<int>(has(m_dtType) ? this->*field : -1,
-                                   has(other.m_dtType) ? other.*field : -1);
+        return CompareNumbers(has(m_dtType) ? this->*field : -1, has(other.m_dtType) ? other.*field : -1);
     };
     DTCompareResult result = compare(HasYear, &CDateTime::m_year);
     if (result == DTCompareResult_Equal)
         // Deliberate: the month of the right-hand side is not read, so months are equal if both have one.
-        result = CompareNumbers<int>(HasMonth(m_dtType) ? m_month : -1,
-                                     HasMonth(other.m_dtType) ? GetMonth() : -1);
+        result =
+            CompareNumbers(HasMonth(m_dtType) ? m_month : -1, HasMonth(other.m_dtType) ? GetMonth() : -1);
     if (result == DTCompareResult_Equal)
         result = compare(HasDay, &CDateTime::m_day);
     if (result == DTCompareResult_Equal)

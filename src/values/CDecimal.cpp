@@ -49,8 +49,6 @@ bool IsAboveHalf(const Digits& low, std::size_t places) {
 }
 
 void AppendDigits(std::u16string& text, const Digits& digits) {
-    if (digits.empty())
-        text += u'0';
     std::transform(digits.rbegin(), digits.rend(), std::back_inserter(text),
                    [](std::uint16_t digit) { return static_cast<char16_t>(u'0' + digit); });
 }
@@ -226,8 +224,7 @@ void CDecimal::AppendFraction(std::u16string& text) const {
 
 /// Whether nothing stands behind so many places and nothing wants a carry.
 bool CDecimal::IsExactWithin(int places) const {
-    return m_divider <= places && m_fractional.m_digits.size() <= static_cast<std::size_t>(m_divider) &&
-           (m_fractional.IsZero() || m_fractional.m_sign == m_integral.m_sign);
+    return m_divider <= places && m_fractional.m_digits.size() <= static_cast<std::size_t>(m_divider);
 }
 
 bool CDecimal::HasMinusSign() const { return m_integral.m_sign == -1; }

@@ -2,6 +2,8 @@
 
 #include <KzXmlLib10/values/CDateTime.h>
 
+#include <iterator>
+
 namespace KzXmlLib10 {
 
 /// The fields that belong to a kind:
@@ -38,7 +40,7 @@ constexpr bool HasTimeOfDay(CDateTime::DTType kind) {
 constexpr const char16_t* KindText(CDateTime::DTType kind) {
     constexpr const char16_t* texts[] = {u"yearZero", u"dateTime", u"date",   u"gYearMonth", u"gYear",
                                          u"time",     u"gDay",     u"gMonth", u"gMonthDay"};
-    return kind >= CDateTime::DTType_yearZero && kind <= CDateTime::DTType_gMonthDay ? texts[kind] : u"";
+    return static_cast<unsigned>(kind) < std::size(texts) ? texts[kind] : u"";
 }
 
 } // namespace KzXmlLib10

@@ -76,6 +76,13 @@ TEST(CDecimal, MaximumOfPlacesIsStoredAsGivenAndClampedInUse) {
         EXPECT_EQ(Texts({Dec(u"7") / Dec(u"4"), Dec(u"1.5") * 0}), "2 0");
         EXPECT_EQ(Dec(u"7.2").ToString(3), u"7.0");
     }
+    {
+        const MaxPlaces two(2);
+        const Dec unit(u"0.999"); // a fraction of a whole unit
+        const MaxPlaces more(4);
+        EXPECT_EQ(Texts({unit, unit + unit, unit + 1}) + ToUtf8(u' ' + unit.ToString(3)),
+                  "0.100 1.10 2 1.000");
+    }
     const MaxPlaces huge(std::numeric_limits<std::int32_t>::max());
     EXPECT_EQ(Dec(u"-1e-4096").ToString().size(), 1024u); // cut
     EXPECT_EQ(Dec(u"-1e-4096").GetNegative().ToString(5000).size(), 4098u);
@@ -87,6 +94,11 @@ TEST(CDecimal, MachineNumbers) {
     EXPECT_EQ(Texts<Dec>({std::numeric_limits<int>::min(), std::numeric_limits<long>::min(),
                           CBigInteger(u"123456789012345678901234567890")}),
               "-2147483648 -9223372036854775808 123456789012345678901234567890");
+    Dec copy;
+    EXPECT_EQ(copy.ToString(1), u"0.0");
+    const Dec number(-5LL);
+    copy = number;
+    EXPECT_EQ(Texts({copy, Dec(0)}) + ToUtf8(u' ' + Dec(0).ToString(1)), "-5 0 0.0");
     EXPECT_EQ(Texts<Dec>({0.1, -2.5, 1e-14, 1.0 / 3, 1e22}),
               "0.1 -2.5 0 0.3333333333333 10000000000000000000000");
     EXPECT_EQ(Text(std::numeric_limits<double>::max()).size(), 309u);
