@@ -85,6 +85,10 @@ void Facets(Input input) {
     std::u16string texts[5];
     for (std::u16string& text : texts)
         text = input.Line().c_str();
+    if (!takesLongPatterns) {
+        value.resize(std::min<std::size_t>(value.size(), 10));
+        texts[0].resize(std::min<std::size_t>(texts[0].size(), 40));
+    }
     const CPrimitiveRestrictions facets(texts[0].c_str(), lengths[0], lengths[1], texts[1].c_str(),
                                         texts[2].c_str(), texts[3].c_str(), texts[4].c_str(), lengths[2]);
     const std::clock_t start = std::clock();

@@ -16,6 +16,7 @@ int main(int argc, char** argv) {
         std::cerr << "usage: Replay TARGET FOLDER\n";
         return 2;
     }
+    fuzz::takesLongPatterns = true;
     int count = 0;
     for (const auto& entry : std::filesystem::directory_iterator(argv[2])) {
         std::ifstream file(entry.path(), std::ios::binary);

@@ -25,7 +25,7 @@ done
     targets+=("$(basename "$source" Fuzz.cpp)")
 done
 
-build fuzz
+build fuzz "${targets[@]/%/Fuzz}"
 
 run_target() {
     local target=$1 folder=build/fuzz limit=(-max_total_time="$seconds")

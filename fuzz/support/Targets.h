@@ -56,6 +56,10 @@ inline constexpr std::uint64_t inflatedBytes = 1 << 18;
 /// Of the texts that it may bring into a tree, apart from its own size.
 inline constexpr std::uint64_t treeTextBytes = 4 << 20;
 
+/// Whether Facets takes values and patterns at any length. One of them can keep PCRE2 busy for a quarter of a
+/// second, which is too long for a fuzzer and just right for a replay.
+inline bool takesLongPatterns = false;
+
 /// Runs a target under these limits, and takes what may pass through it.
 void Run(Target target, const std::uint8_t* data, std::size_t size);
 

@@ -1,5 +1,6 @@
 #include "object/Throw.h"
 #include "support/Test.h"
+#include "support/Threads.h"
 
 #include <exception>
 
@@ -24,29 +25,33 @@ TEST(CKzException, ChainsAreJoinedByLineFeedsConvertedAndCloned) {
 }
 
 TEST(CKzException, LongChainsAreWrappedCopiedPrintedAndDestroyedWithoutRecursion) {
-    std::exception_ptr held = std::make_exception_ptr(CKzInvalidValueException(u"0"));
-    for (int i = 1; i <= 100000; ++i) {
-        try {
+    // Two calls a link would take more than this stack.
+    RunOnStack(256 << 10, [] {
+        constexpr int links = 10'000;
+        std::exception_ptr held = std::make_exception_ptr(CKzInvalidValueException(u"0"));
+        for (int i = 1; i <= links; ++i) {
             try {
-                std::rethrow_exception(held);
-            } catch (CKzException& e) {
-                ThrowAround<CKzValidationException>(e, wrapperMessage, u"x", i);
+                try {
+                    std::rethrow_exception(held);
+                } catch (CKzException& e) {
+                    ThrowAround<CKzValidationException>(e, wrapperMessage, u"x", i);
+                }
+            } catch (...) {
+                held = std::current_exception();
             }
-        } catch (...) {
-            held = std::current_exception();
         }
-    }
-    try {
-        std::rethrow_exception(held);
-    } catch (const CKzValidationException& e) {
-        const CKzValidationException copy(e);
-        EXPECT_EQ(copy.GetFullMessage(), e.GetFullMessage());
-        EXPECT_TRUE(copy.GetFullMessage().starts_with(u"around [x] 100000\naround [x] 99999\n"));
-        const CKzException* cause = &e;
-        while (cause->GetInnerException())
-            cause = cause->GetInnerException();
-        EXPECT_NE(dynamic_cast<const CKzInvalidValueException*>(cause), nullptr);
-    }
+        try {
+            std::rethrow_exception(held);
+        } catch (const CKzValidationException& e) {
+            const CKzValidationException copy(e);
+            EXPECT_EQ(copy.GetFullMessage(), e.GetFullMessage());
+            EXPECT_TRUE(copy.GetFullMessage().starts_with(u"around [x] 10000\naround [x] 9999\n"));
+            const CKzException* cause = &e;
+            while (cause->GetInnerException())
+                cause = cause->GetInnerException();
+            EXPECT_NE(dynamic_cast<const CKzInvalidValueException*>(cause), nullptr);
+        }
+    });
 }
 
 TEST(CKzException, StreamsAsUtf8WithReplacementForLoneSurrogates) {
