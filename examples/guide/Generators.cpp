@@ -14,10 +14,13 @@ void Generators() {
         // [library]
         CLibrary shelf;
         Read(shelf, "<library xmlns='urn:example:library'>"
-                    "<book isbn='9780306406157'><title>Hairy dogs</title><author>A. Poodle</author></book>"
-                    "</library>");
-        shelf.GetBooks()->Item(0)->SetPrice(u"19.90");
-        shelf.GetBooks()->Item(0)->SetBinding(Binding_hardcover);
+                    "<book isbn='9780306406157'><title>Hairy dogs</title><author>A. Poodle</author>"
+                    "<lentOn>2024-05-17</lentOn></book></library>");
+        CBook& book = *shelf.GetBooks()->Item(0);
+        book.SetPrice(u"19.90");
+        book.SetBinding(Binding_hardcover);
+        book.GetPlace()->SetLentOn({}); // it is back
+        book.GetPlace()->SetShelf(u"A 12");
 
         CXmlSerializationContext context;
         context.SetDefaultNamespaceURI(libraryNamespace);
@@ -29,12 +32,16 @@ void Generators() {
         CLibrary shelf;
         ShowFailure([&] {
             Read(shelf, "<library xmlns='urn:example:library'>"
-                        "<book isbn='0306'><title>Hairy dogs</title><author>A. Poodle</author></book>"
-                        "</library>");
+                        "<book isbn='0306'><title>Hairy dogs</title><author>A. Poodle</author>"
+                        "<shelf>A 12</shelf></book></library>");
         });
         ShowFailure([&] {
-            Read(shelf, "<library xmlns='urn:example:library'>"
-                        "<book isbn='9780306406157'><title>Hairy dogs</title></book></library>");
+            Read(shelf, "<library xmlns='urn:example:library'><book isbn='9780306406157'>"
+                        "<title>Hairy dogs</title><shelf>A 12</shelf></book></library>");
+        });
+        ShowFailure([&] {
+            Read(shelf, "<library xmlns='urn:example:library'><book isbn='9780306406157'>"
+                        "<title>Hairy dogs</title><author>A. Poodle</author></book></library>");
         });
     }
 }

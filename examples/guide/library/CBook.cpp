@@ -36,6 +36,9 @@ const CBook::Tables& CBook::GetTables() {
             new CElementInfoSeqPrimCol(u"author", ns, Property_author),
             new CElementInfoSeqPrimOpt(u"price", ns, Property_price, false, ItemType_decimal, nullptr,
                                        collapse, CPrimitiveRestrictions()),
+            new CElementInfoSeqClsMnd(u"place", ns, Property_place, XmlElementType_Pseudo, // a nested group
+                                      nullptr, 0, // no factory: the constructor creates the object
+                                      true),      // at least one of its elements is required
         }),
         MakeTable<CAttributeInfo>({
             new CAttributeInfoPrimitive(
@@ -53,7 +56,8 @@ const CBook::Tables& CBook::GetTables() {
 CBook::CBook(const char16_t* elementName)
     : m_authors(new CstringCol(u"author", libraryNamespace, 1, -1, // one to unbounded
                                u"", -1, -1, u"", u"", u"", u"", -1, CWhitespaceUtils::WhitespaceRule_Preserve,
-                               nullptr)) {
+                               nullptr)),
+      m_place(new CPlace) {
     SetElementName(elementName);
 }
 
@@ -77,6 +81,8 @@ void CBook::AccessProperty(int propertyIndex, bool read, KzVariant& value) {
         if (read)
             return m_price ? value.SetDecimal(*m_price) : value.SetInvalid();
         return SetPrice(value.GetDecimal());
+    case Property_place:
+        return value.SetXmlObject(m_place); // only read, as it is never exchanged either
     case Property_isbn:
         return read ? value.SetString(m_isbn) : SetIsbn(value.GetString());
     case Property_binding:

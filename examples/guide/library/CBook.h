@@ -1,28 +1,12 @@
 #pragma once
 
-#include <KzXmlLib10/KzXmlLib10.h>
+#include "library/CPlace.h"
+#include "library/Tables.h"
 
-#include <algorithm>
-#include <initializer_list>
 #include <optional>
 #include <string>
 
 namespace library {
-
-using namespace KzXmlLib10;
-using namespace KzXmlLib10Data;
-
-inline constexpr char16_t libraryNamespace[] = u"urn:example:library";
-
-// [make-table]
-/// A table of descriptors: the entries, and the null that ends it.
-template <class Info>
-Info** MakeTable(std::initializer_list<Info*> entries) {
-    Info** table = new Info*[entries.size() + 1];
-    *std::copy(entries.begin(), entries.end(), table) = nullptr;
-    return table;
-}
-// [/make-table]
 
 // [class]
 enum Binding { Binding_paperback, Binding_hardcover };
@@ -39,6 +23,7 @@ public:
     CstringCol* GetAuthors() const { return m_authors; }
     const std::optional<CDecimal>& GetPrice() const { return m_price; }
     void SetPrice(std::optional<CDecimal> value) { m_price = std::move(value); }
+    CPlace* GetPlace() const { return m_place; }
     const std::u16string& GetIsbn() const { return m_isbn; }
     void SetIsbn(std::u16string value);
     Binding GetBinding() const { return m_binding; }
@@ -59,7 +44,14 @@ protected:
     std::u16string GetTargetNamespace() const override { return libraryNamespace; }
 
 private:
-    enum Property { Property_title, Property_author, Property_price, Property_isbn, Property_binding };
+    enum Property {
+        Property_title,
+        Property_author,
+        Property_price,
+        Property_place,
+        Property_isbn,
+        Property_binding,
+    };
 
     struct Tables {
         CParentElementInfo* info;
@@ -72,6 +64,7 @@ private:
     std::u16string m_title;
     CSmartPtr<CstringCol> m_authors;
     std::optional<CDecimal> m_price;
+    CSmartPtr<CPlace> m_place;
     std::u16string m_isbn;
     Binding m_binding = Binding_paperback;
 };
