@@ -45,7 +45,9 @@ public:
 
 static_assert(std::ranges::input_range<Records<CRecord>> && !std::ranges::forward_range<Records<CRecord>>);
 static_assert(!std::constructible_from<RecordSource, const char*> &&
-              !std::constructible_from<RecordSource, std::string>);
+              !std::constructible_from<RecordSource, std::string> &&
+              !std::constructible_from<RecordSource, std::vector<std::byte>> &&
+              std::convertible_to<const std::vector<std::byte>&, RecordSource>); // what WriteBytes gives
 
 const std::string prefix = "<all xmlns='urn:r' xmlns:o='urn:other'>";
 

@@ -21,6 +21,7 @@
 #include <type_traits>
 #include <utility>
 #include <variant>
+#include <vector>
 
 namespace KzXmlLib10 {
 
@@ -37,8 +38,10 @@ public:
     RecordSource(std::span<const std::byte> document) : m_source(document) {}
     RecordSource(std::istream& document) : m_source(&document) {}
     RecordSource(const std::string& document) : RecordSource(std::string_view(document)) {}
+    RecordSource(const std::vector<std::byte>& document) : m_source(std::span(document)) {}
     /// A temporary would be gone before the first record.
     RecordSource(std::string&&) = delete;
+    RecordSource(std::vector<std::byte>&&) = delete;
     /// Neither a document nor, as it may seem, the name of a file.
     RecordSource(const char*) = delete;
 
