@@ -87,7 +87,7 @@ void Content() {
         Section("generic");
         // [generic]
         CElement anything(u"anything");
-        anything.FromXml(u"<list xmlns='urn:l'><entry n='1'>first</entry><entry n='2'>second</entry></list>");
+        Read(anything, "<list xmlns='urn:l'><entry n='1'>first</entry><entry n='2'>second</entry></list>");
         std::cout << ToUtf8(anything.GetName()) << " has " << anything.GetChildElements()->GetCount()
                   << " children\n";
         // [/generic]

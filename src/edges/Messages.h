@@ -5,6 +5,8 @@
 namespace KzXmlLib10::messages {
 
 inline constexpr char16_t ZeroInFileName[] = u"A file name cannot hold a zero";
+inline constexpr char16_t RootNamespaceRefused[] =
+    u"The root of the document is in the namespace [%s], which the element does not admit";
 
 // Records
 inline constexpr char16_t RecordFailed[] = u"Failed to process the record %I64u";

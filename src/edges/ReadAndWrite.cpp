@@ -2,9 +2,13 @@
 
 #include "edges/Deflate.h"
 #include "edges/FileName.h"
+#include "edges/Messages.h"
+#include "object/Throw.h"
 
+#include <KzXmlLib10/collections/CElement.h>
 #include <KzXmlLib10/values/CBinaryData.h>
 #include <KzXmlLib10/xml/CFileBinaryStream.h>
+#include <KzXmlLib10/xml/CXmlElement.h>
 
 namespace KzXmlLib10 {
 
@@ -31,6 +35,46 @@ CBinaryData Write(const CXmlObjectBase& object, const ByteStyle& style,
     return isPlain ? ToData(text) : Deflate(text, style.compression);
 }
 
+/// Puts the root of a document into a generic element, which by itself would take the root's first child.
+class GenericRoot : public CXmlObjectBase {
+public:
+    explicit GenericRoot(CElement& element) : m_element(element) {}
+
+    using CXmlObjectBase::GetBase;
+    CXmlObjectBase* GetBase() override { return this; }
+    std::u16string GetNamespace() const override { return m_element.GetNamespace(); }
+
+protected:
+    std::u16string GetTargetNamespace() const override { return GetNamespace(); }
+
+    using CXmlObjectBase::FromXml_Int;
+    using CXmlObjectBase::ToXml_Int;
+    void ToXml_Int(CXmlWriter*, bool, const char16_t*, const CXmlSerializationContext&, bool) const override {
+    } // nobody writes it
+    CXmlElement* FromXml_Int(CXmlElement* root, CXmlElement*, const CXmlSerializationContext& context,
+                             bool) override {
+        m_element.GetAttributes()->Clear();
+        m_element.GetChildElements()->Clear();
+        if (CXmlObjectBase::FromXml_Int(&m_element, root, root, context) == root)
+            Throw<CKzInvalidNamespaceException>(messages::RootNamespaceRefused, root->GetNamespaceURI());
+        return nullptr;
+    }
+
+private:
+    CElement& m_element;
+};
+
+/// Hands an action what reads a document into an object.
+template <class Action>
+void WithReader(CXmlObjectBase& object, Action action) {
+    if (auto* const element = dynamic_cast<CElement*>(&object)) {
+        GenericRoot root(*element);
+        action(root);
+    } else {
+        action(object);
+    }
+}
+
 } // namespace
 
 void Read(CXmlObjectBase& object, std::string_view document, const CXmlSerializationContext& context) {
@@ -41,12 +85,13 @@ void Read(CXmlObjectBase& object, std::span<const std::byte> document,
           const CXmlSerializationContext& context) {
     // Loading copies the bytes and changes none of them.
     auto* bytes = reinterpret_cast<unsigned char*>(const_cast<std::byte*>(document.data()));
-    object.FromXmlStream(bytes, document.size(), context);
+    WithReader(object,
+               [&](CXmlObjectBase& reader) { reader.FromXmlStream(bytes, document.size(), context); });
 }
 
 void ReadFile(CXmlObjectBase& object, const std::filesystem::path& file,
               const CXmlSerializationContext& context) {
-    object.FromXmlFile(FileName(file).c_str(), context);
+    WithReader(object, [&](CXmlObjectBase& reader) { reader.FromXmlFile(FileName(file).c_str(), context); });
 }
 
 std::string WriteText(const CXmlObjectBase& object, const TextStyle& style,

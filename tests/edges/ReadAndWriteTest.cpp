@@ -59,6 +59,22 @@ TEST_F(ReadAndWriteTest, TextHasTheStyleAndTheContextAskedFor) {
     EXPECT_EQ(TextOf([&](auto& o) { Read(o, "<note><other/><text>x</text></note>", context); }), "x");
 }
 
+TEST_F(ReadAndWriteTest, AGenericElementBecomesTheRootAndKeepsNothing) {
+    CElement element(u"any");
+    const std::string root = "<AA:r xmlns:AA=\"u\" a=\"1\"><AA:c>x</AA:c></AA:r>";
+    m_dir.Write("root", root);
+    for (const auto& read : {std::function([&] { Read(element, root); }),
+                             std::function([&] { ReadFile(element, m_dir.Path("root")); })}) {
+        Read(element, "<e b='2'>text<f/></e>");
+        EXPECT_EQ(WriteText(element, {.declaration = false, .formatted = false}), "<e b=\"2\"><f/>text</e>");
+        read();
+        EXPECT_EQ(WriteText(element, {.declaration = false, .formatted = false}), root);
+    }
+    CElement restricted(u"any", u"v");
+    EXPECT_EQ(Failure<CKzInvalidNamespaceException>([&] { Read(restricted, root); }),
+              "The root of the document is in the namespace [u], which the element does not admit");
+}
+
 TEST_F(ReadAndWriteTest, FailuresAreThoseOfTheLibraryAndLoseNothing) {
     EXPECT_EQ(InvalidValue([&] { WriteText(*Note(u"a\xD800")); }),
               "Malformed UTF-16: surrogate without its partner at position 37");

@@ -20,7 +20,8 @@
 ///     WriteFile(orders, "orders.finf", {.format = DocumentFormat::FastInfoset});
 ///
 /// These are the operations of CXmlObjectBase by other names: what they read, what they write and how they
-/// fail is told there. The context is the process's default one unless another is given.
+/// fail is told there. The context is the process's default one unless another is given. A CElement becomes
+/// the root of the document; one that its restriction refuses throws CKzInvalidNamespaceException.
 namespace KzXmlLib10 {
 
 /// Fills an object from a document in memory: XML text in any encoding that expat reads or Fast Infoset,
