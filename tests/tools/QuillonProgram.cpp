@@ -157,6 +157,7 @@ TEST_F(QuillonProgram, ShowsAndCounts) {
 }
 
 TEST_F(QuillonProgram, TellsWhatFailedByMessageAndExitCode) {
+    Write("cut.gz", Quillon("convert -c gzip -", text).out.substr(0, 60));
     const struct {
         std::string command;
         std::string input;
@@ -177,11 +178,16 @@ TEST_F(QuillonProgram, TellsWhatFailedByMessageAndExitCode) {
         {"quillon show .", "", 3, "quillon: .: Is a directory\n"},
         {"quillon convert - none/out.xml", "<a/>", 3, "quillon: none/out.xml: No such file or directory\n"},
         {"quillon show - >/dev/full", "<a/>", 3, "quillon: standard output: No space left on device\n"},
-        {"quillon", "", 2, "A subcommand is required\nRun with --help for more information.\n"},
+        {"quillon --help >/dev/full", "", 3, "quillon: standard output: No space left on device\n"},
+        {"quillon stat -", Read("cut.gz"), 1,
+         "quillon: standard input: The compressed stream is damaged or ends too early\n"},
+        {"quillon", "", 2, "quillon: A subcommand is required\nRun with --help for more information.\n"},
+        {"quillon list", "", 2,
+         "quillon: The following argument was not expected: list\nRun with --help for more information.\n"},
         {"quillon convert - --to finf", "<a/>", 2,
-         "--to: there is no finf\nRun with --help for more information.\n"},
+         "quillon: --to: there is no finf\nRun with --help for more information.\n"},
         {"quillon convert - out.finf -f", "<a/>", 2,
-         "--formatted and --encoding are for text only\nRun with --help for more information.\n"},
+         "quillon: --formatted and --encoding are for text only\nRun with --help for more information.\n"},
     };
     for (const auto& row : rows) {
         const Result result = Shell(row.command, row.input);

@@ -1,5 +1,6 @@
 #include "Format.h"
 
+#include <KzXmlLib10/object/CKzException.h>
 #include <KzXmlLib10/xml/Compression.h>
 
 #include <zlib.h>
@@ -78,9 +79,11 @@ Format Recognize(CBinaryData& bytes) {
         delete[] original;
         throw;
     }
+    bytes = CBinaryData(content, size, true);
     if (content != original)
         format.compression = first == firstOfGzip ? CompressionType_GZip : CompressionType_ZLib;
-    bytes = CBinaryData(content, size, true);
+    else if (first == firstOfGzip) // which no document begins with
+        throw CKzException(u"The compressed stream is damaged or ends too early");
     if (IsFastInfoset(AsText(bytes)))
         format.syntax = Syntax::FastInfoset;
     return format;

@@ -24,7 +24,7 @@ Format FormatOfName(std::string_view file);
 std::string Describe(Format format);
 
 /// Finds out the format of a document by its bytes, and replaces these by what is under the compression.
-/// Throws what Decompress throws.
+/// Throws CKzException for damaged gzip data, and what Decompress throws.
 Format Recognize(KzXmlLib10::CBinaryData& bytes);
 
 /// The bytes under gzip or zlib, or as they are. Unlike Compress it takes what does not shrink as well.

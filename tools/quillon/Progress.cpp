@@ -3,6 +3,7 @@
 #include <chrono>
 #include <condition_variable>
 #include <cstdio>
+#include <system_error>
 #include <utility>
 
 #include <unistd.h>
@@ -10,8 +11,13 @@
 namespace quillon {
 
 Progress::Progress() {
-    if (isatty(STDERR_FILENO))
+    if (!isatty(STDERR_FILENO))
+        return;
+    try {
         m_clock = std::jthread([this](const std::stop_token& stop) { Show(stop); });
+    } catch (const std::system_error&) {
+        // No thread is to be had: the work goes on without.
+    }
 }
 
 Progress::~Progress() = default;

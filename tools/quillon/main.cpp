@@ -12,6 +12,7 @@
 #include <map>
 #include <new>
 #include <optional>
+#include <sstream>
 #include <string>
 
 namespace quillon {
@@ -105,12 +106,22 @@ ExitCode Run(const std::string& input, Command command) {
     }
 }
 
+/// Tells of a bad command line or, on standard output, what --help and --version ask for.
+ExitCode Explain(const CLI::App& app, const CLI::ParseError& answer) {
+    std::ostringstream text;
+    if (app.exit(answer, text, text) != 0) {
+        std::cerr << "quillon: " << text.str();
+        return BadUsage;
+    }
+    return Run("", [&] { WriteFile("-", text.str()); });
+}
+
 int Main(int argc, char** argv) {
     Register(10, 1);
     CLI::App app(description, "quillon");
     app.set_version_flag("--version", "quillon " QUILLON_VERSION);
     app.footer(footer);
-    app.require_subcommand(1);
+    app.require_subcommand(0, 1); // so that an unknown one is told by its name
     ConvertOptions convert;
     ShowOptions show;
     std::string stat;
@@ -119,8 +130,10 @@ int Main(int argc, char** argv) {
     AddStat(app, stat);
     try {
         app.parse(argc, argv);
-    } catch (const CLI::ParseError& failure) {
-        return app.exit(failure) == 0 ? Done : BadUsage;
+        if (app.get_subcommands().empty())
+            throw CLI::RequiredError("A subcommand");
+    } catch (const CLI::ParseError& answer) {
+        return Explain(app, answer);
     }
     if (converts->parsed())
         return Run(convert.m_input, [&] { Convert(convert); });
