@@ -63,9 +63,10 @@ void CheckRange(const char16_t* name, const T& value, const CPrimitiveRestrictio
             Compare(value, FromText(bound, CWhitespaceUtils::WhitespaceRule_Collapse));
         if (order == std::partial_ordering::unordered)
             return !std::is_floating_point_v<T>;
-        return order == side || (inclusive && order == 0);
+        return order == side || (inclusive && std::is_eq(order));
     };
-    constexpr auto above = std::partial_ordering::greater, below = std::partial_ordering::less;
+    constexpr auto above = std::partial_ordering::greater;
+    constexpr auto below = std::partial_ordering::less;
     if (!holds(above, true, restrictions.m_minInclusive) ||
         !holds(below, true, restrictions.m_maxInclusive) ||
         !holds(above, false, restrictions.m_minExclusive) ||

@@ -87,7 +87,9 @@ bool MayNeedRewriting(std::string_view pattern) {
 } // namespace
 
 std::string MakeLenientPattern(std::string pattern) {
-    return MayNeedRewriting(pattern) ? Rewrite(pattern) : pattern;
+    if (MayNeedRewriting(pattern))
+        return Rewrite(pattern);
+    return pattern;
 }
 
 } // namespace KzXmlLib10
