@@ -53,6 +53,7 @@
 #include <KzXmlLib10/xml/CXmlTextWriter.h>
 #include <KzXmlLib10/xml/CXmlWriter.h>
 #include <KzXmlLib10/xml/Compression.h>
+#include <KzXmlLib10/xml/SharedName.h>
 
 #include <KzXmlLib10/collections/BinaryCols.h>
 #include <KzXmlLib10/collections/CAttribute.h>

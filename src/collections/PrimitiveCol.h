@@ -6,6 +6,7 @@
 #include <KzXmlLib10/xml/CXmlWriter.h>
 
 #include "collections/ItemIndex.h"
+#include "conversions/WorkingText.h"
 #include "xml/Leaf.h"
 
 #include <type_traits>
@@ -97,7 +98,10 @@ void CPrimitiveCol<Collection, T>::Remove(int index) {
 
 template <class Collection, class T>
 void CPrimitiveCol<Collection, T>::AddFromString(std::u16string text) {
-    Add(primitiveColFacts<Collection>.fromText(text, m_whitespaceRule));
+    if constexpr (std::is_same_v<T, std::u16string>)
+        Add(ApplyRuleTo(std::move(text), m_whitespaceRule));
+    else
+        Add(primitiveColFacts<Collection>.fromText(text, m_whitespaceRule));
 }
 
 template <class Collection, class T>

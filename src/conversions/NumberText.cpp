@@ -128,18 +128,17 @@ ScannedInteger ScanInteger(std::u16string_view text) {
     Cursor cursor(text);
     cursor.SkipWhile(IsSpace);
     result.negative = cursor.SkipSign();
-    std::u16string_view digits = cursor.SkipWhile(IsDigit);
+    const std::u16string_view digits = cursor.SkipWhile(IsDigit);
     if (digits.empty())
         cursor.GoTo(0);
-    digits.remove_prefix(std::min(digits.find_first_not_of(u'0'), digits.size()));
     result.complete = cursor.Peek() == u'\0';
-    char narrow[std::numeric_limits<std::uint64_t>::digits10 + 1];
-    if (digits.size() > sizeof narrow) {
-        result.tooLarge = true;
-        return result;
-    }
-    const char* end = CopyAscii(digits, narrow);
-    result.tooLarge = std::from_chars(narrow, end, result.magnitude).ec == std::errc::result_out_of_range;
+    for (const char16_t digit : digits)
+        if (__builtin_mul_overflow(result.magnitude, 10u, &result.magnitude) ||
+            __builtin_add_overflow(result.magnitude, static_cast<unsigned>(digit - u'0'),
+                                   &result.magnitude)) {
+            result.tooLarge = true;
+            break;
+        }
     return result;
 }
 

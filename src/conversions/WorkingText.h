@@ -2,6 +2,8 @@
 
 #include <KzXmlLib10/conversions/CWhitespaceUtils.h>
 
+#include "object/TextScan.h"
+
 #include <algorithm>
 #include <string>
 
@@ -29,5 +31,13 @@ private:
     std::u16string m_made;
     const std::u16string& m_given;
 };
+
+/// The text after its whitespace rule, without a copy where the rule has nothing to change.
+inline std::u16string ApplyRuleTo(std::u16string text, CWhitespaceUtils::WhitespaceRule rule) {
+    if (rule == CWhitespaceUtils::WhitespaceRule_None ||
+        (rule == CWhitespaceUtils::WhitespaceRule_Preserve && !MayHold(text, '\r')))
+        return text;
+    return CWhitespaceUtils::ApplyRule(rule, text);
+}
 
 } // namespace KzXmlLib10

@@ -6,8 +6,7 @@
 #include "fastinfoset/RestrictedAlphabet.h"
 #include "object/Throw.h"
 #include "object/Utf8.h"
-#include "xml/OpenElement.h"
-#include "xml/TreeMemory.h"
+#include "xml/TreeBuilding.h"
 
 #include <KzXmlLib10/fastinfoset/CFastInfosetBinaryData.h>
 #include <KzXmlLib10/fastinfoset/CFastInfosetContext.h>
@@ -203,8 +202,8 @@ void CFastInfosetReader::ParseElement(Byte first) {
     const bool isRoot = !m_document->m_documentElement;
     if (isRoot)
         m_document->StartTree();
-    const SharedName name = ParseName(first, LiteralElementName, ElementNameMask, integerBit3,
-                                      m_vocabulary->m_elementNames, m_elementNames);
+    const SharedName& name = ParseName(first, LiteralElementName, ElementNameMask, integerBit3,
+                                       m_vocabulary->m_elementNames, m_elementNames);
     m_budget.Charge(name.Size(), sizeof(CXmlElement));
     if (isRoot)
         m_document->AddDocElement(name);
@@ -274,8 +273,8 @@ bool CFastInfosetReader::ParseAttributes() {
 }
 
 void CFastInfosetReader::ParseAttribute(Byte first) {
-    const SharedName name = ParseName(first, LiteralAttributeName, AttributeNameMask, integerBit2,
-                                      m_vocabulary->m_attributeNames, m_attributeNames);
+    const SharedName& name = ParseName(first, LiteralAttributeName, AttributeNameMask, integerBit2,
+                                       m_vocabulary->m_attributeNames, m_attributeNames);
     const std::u16string_view value = ParseNonIdentifyingString();
     m_budget.Charge(name.Size() + value.size(), sizeof(CXmlAttribute));
     m_document->m_elementStack.back()->AddAttribute(name, std::u16string(value));
@@ -295,33 +294,28 @@ void CFastInfosetReader::ParseCharacterChunk(Byte first) {
     CXmlDocument::AppendTextExcludingCR(m_document->m_elementStack.back(), text);
 }
 
-/// Reads a qualified name, an index or a literal. `shared` are the strings that the tree has for those
-/// entries of the table that were met.
-SharedName CFastInfosetReader::ParseName(Byte first, Byte literal, Byte mask, const IntegerRule& rule,
-                                         CFIVocabulary::CFIQNameTable& table,
-                                         std::vector<SharedName>& shared) {
+/// Reads a qualified name, an index or a literal. `shared` are the names in the tree for those entries of the
+/// table that were met.
+const SharedName& CFastInfosetReader::ParseName(Byte first, Byte literal, Byte mask, const IntegerRule& rule,
+                                                CFIVocabulary::CFIQNameTable& table,
+                                                std::vector<const SharedName*>& shared) {
+    SharedNames& names = m_document->m_memory->names;
     if ((first & mask) == literal) {
         ParseQName(first, table);
-        return Share(m_namespaceName, m_localName);
+        return names.Share(m_namespaceName, m_localName);
     }
     const std::uint64_t index = ReadInteger(rule, first);
     const CFIVocabulary::CQNameParts& parts = EntryAt(table.m_values, index);
     if (shared.size() < index)
         shared.resize(table.m_values.size());
-    SharedName& name = shared[index - 1];
-    if (!name.localName) {
+    const SharedName*& name = shared[index - 1];
+    if (!name) {
+        const std::vector<std::u16string>& namespaces = m_vocabulary->m_namespaceNames.m_values;
         const std::u16string none;
-        name = Share(parts.m_namespaceName == 0
-                         ? none
-                         : EntryAt(m_vocabulary->m_namespaceNames.m_values, parts.m_namespaceName),
-                     EntryAt(m_vocabulary->m_localNames.m_values, parts.m_localName));
+        name = &names.Share(parts.m_namespaceName == 0 ? none : EntryAt(namespaces, parts.m_namespaceName),
+                            EntryAt(m_vocabulary->m_localNames.m_values, parts.m_localName));
     }
-    return name;
-}
-
-SharedName CFastInfosetReader::Share(const std::u16string& namespaceUri, const std::u16string& localName) {
-    SharedStrings& names = m_document->m_memory->names;
-    return {&names.Share(namespaceUri), &names.Share(localName)};
+    return *name;
 }
 
 void CFastInfosetReader::ParseQName(Byte first, CFIVocabulary::CFIQNameTable& table) {

@@ -2,12 +2,12 @@
 
 #include "fastinfoset/IntegerRules.h"
 #include "fastinfoset/Marks.h"
-#include "xml/SharedName.h"
 #include "xml/TreeBudget.h"
 
 #include <KzXmlLib10/fastinfoset/CFIVocabulary.h>
 #include <KzXmlLib10/object/CInstanceMonitor.h>
 #include <KzXmlLib10/object/Fwd.h>
+#include <KzXmlLib10/xml/SharedName.h>
 
 #include <cstdint>
 #include <memory>
@@ -71,10 +71,9 @@ private:
     void ParseCharacterChunk(fastinfoset::Byte first);
     void PopElement();
 
-    SharedName ParseName(fastinfoset::Byte first, fastinfoset::Byte literal, fastinfoset::Byte mask,
-                         const fastinfoset::IntegerRule& rule, CFIVocabulary::CFIQNameTable& table,
-                         std::vector<SharedName>& shared);
-    SharedName Share(const std::u16string& namespaceUri, const std::u16string& localName);
+    const SharedName& ParseName(fastinfoset::Byte first, fastinfoset::Byte literal, fastinfoset::Byte mask,
+                                const fastinfoset::IntegerRule& rule, CFIVocabulary::CFIQNameTable& table,
+                                std::vector<const SharedName*>& shared);
     void ParseQName(fastinfoset::Byte first, CFIVocabulary::CFIQNameTable& table);
     std::uint32_t ParseIdentifyingString(CFIVocabulary::CFIStringTable& table, std::u16string& text);
     std::u16string_view ParseNonIdentifyingString();
@@ -95,8 +94,8 @@ private:
     std::u16string m_localName;
     std::u16string m_value;
     std::unique_ptr<CFIVocabulary> m_vocabulary;
-    std::vector<SharedName> m_elementNames;
-    std::vector<SharedName> m_attributeNames;
+    std::vector<const SharedName*> m_elementNames;
+    std::vector<const SharedName*> m_attributeNames;
     TreeBudget m_budget;
 };
 

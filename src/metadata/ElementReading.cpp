@@ -2,6 +2,7 @@
 
 #include <KzXmlLib10/metadata/CElementInfo.h>
 
+#include "conversions/WorkingText.h"
 #include "metadata/Messages.h"
 #include "object/SchemaInstance.h"
 #include "object/Throw.h"
@@ -30,6 +31,8 @@ bool CElementInfo::SeekElement(const CXmlSerializationContext& context, CXmlElem
 }
 
 bool CElementInfo::IsNil(const CXmlElement& element) const {
+    if (!element.HasAttributes())
+        return false;
     const std::u16string& value = element.GetAttribute(nilAttribute, schemaInstanceNamespace);
     if (value.empty() || IsFalseWord(value))
         return false;
@@ -44,6 +47,8 @@ bool CElementInfo::TakePrimitive(CXmlGeneratedClass* object, CXmlElement** curre
     KzVariant value;
     if (IsNil(**current))
         value.SetNil();
+    else if (m_itemType == ItemType_string)
+        value.SetString(ApplyRuleTo((*current)->GetText(), m_whitespaceRule));
     else
         value.FromString((*current)->GetText(), m_itemType, m_whitespaceRule);
     return StoreAndAdvance(object, value, current);
@@ -51,10 +56,11 @@ bool CElementInfo::TakePrimitive(CXmlGeneratedClass* object, CXmlElement** curre
 
 bool CElementInfo::TakeEnum(CXmlGeneratedClass* object, CXmlElement** current, StringToEnum stringToEnum) {
     KzVariant value;
+    std::u16string room;
     if (IsNil(**current))
         value.SetNil();
     else
-        value.SetI4(stringToEnum((*current)->GetText().c_str()));
+        value.SetI4(stringToEnum((*current)->ViewText(room).data()));
     return StoreAndAdvance(object, value, current);
 }
 

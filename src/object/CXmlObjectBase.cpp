@@ -3,6 +3,7 @@
 #include "object/Deletion.h"
 #include "object/GeneratorVersion.h"
 #include "object/NotNull.h"
+#include "object/TextScan.h"
 
 namespace KzXmlLib10 {
 
@@ -35,6 +36,11 @@ long CXmlObjectBase::Release() {
 std::u16string CXmlObjectBase::GetElementName() const { return m_elementName; }
 
 void CXmlObjectBase::SetElementName(const char16_t* name) { m_elementName = NotNull(name, u"name"); }
+
+void CXmlObjectBase::TakeElementName(const std::u16string& name) {
+    if (!SameText(m_elementName, name))
+        m_elementName = name;
+}
 
 void CXmlObjectBase::SetElementName(CXmlObjectBase* object, const char16_t* name) {
     object->SetElementName(name);

@@ -18,7 +18,7 @@ struct Deletions {
 };
 
 /// Without a destructor of its own, so that objects may still be released while the thread ends.
-constinit thread_local Deletions* running = nullptr;
+[[gnu::tls_model("initial-exec")]] constinit thread_local Deletions* running = nullptr;
 
 void DeleteWithAllBelow(CXmlObjectBase* object) {
     Deletions deletions;

@@ -15,6 +15,9 @@
 #include <KzXmlLib10/values/KzVariant.h>
 #include <KzXmlLib10/xml/CXmlElement.h>
 
+#include <atomic>
+#include <typeinfo>
+
 namespace KzXmlLib10 {
 
 using namespace KzXmlLib10Data;
@@ -34,14 +37,25 @@ CXmlElement* CXmlGeneratedClass::ReadObject(CXmlElement* element, CXmlElement* c
     Init();
     const CParentElementInfo* info = GetClassInfo();
     if (info->GetElementType() == XmlElementType_Element)
-        SetElementName(element->GetLocalName().c_str());
+        TakeElementName(element->GetLocalName());
     ProcessAttributesFromXml(context, element, info->GetFromXmlFailIfAttributeUnknown());
-    const auto* nillable = dynamic_cast<const INillable*>(this);
+    const INillable* nillable = AsNillable(*info);
     if (nillable && nillable->IsNil())
         return current;
     CXmlElement* rest = ReadChildren(element, current, context, isOptional);
     ReadPrimitiveValue(*element);
     return rest;
+}
+
+/// Null for most classes, which it takes long to find out, so it is noted with the tables of the class.
+const INillable* CXmlGeneratedClass::AsNillable(const CParentElementInfo& info) const {
+    const std::atomic_ref noted(info.m_notNillable);
+    if (noted.load(std::memory_order_relaxed) == &typeid(*this))
+        return nullptr;
+    const auto* nillable = dynamic_cast<const INillable*>(this);
+    if (!nillable)
+        noted.store(&typeid(*this), std::memory_order_relaxed);
+    return nillable;
 }
 
 CXmlElement* CXmlGeneratedClass::ReadChildren(CXmlElement* element, CXmlElement* current,
@@ -117,8 +131,9 @@ bool CXmlGeneratedClass::OfferElement(const CXmlSerializationContext& context, s
                                       CXmlElement* element, CXmlElement*& current, XmlElementType type) {
     CElementInfo* entry = GetClassElementInfo()[index];
     // Fetched for each call, but not for a descriptor that does not look at it.
-    const std::u16string ns = entry->HeedsOwnerNamespace() ? GetNamespace() : std::u16string();
-    return entry->ElementFromXml(context, this, element, &current, ns.c_str(), type);
+    return entry->HeedsOwnerNamespace()
+               ? entry->ElementFromXml(context, this, element, &current, GetNamespace().c_str(), type)
+               : entry->ElementFromXml(context, this, element, &current, u"", type);
 }
 
 CXmlElement* CXmlGeneratedClass::ProcessElementSeqFromXml(const CXmlSerializationContext& context,

@@ -1,8 +1,10 @@
 #pragma once
 
+#include "values/PayloadMemory.h"
+
 namespace KzXmlLib10 {
 
-/// Counts one level of nested objects while it lives.
+/// Counts one level of nested objects while it lives, and keeps memory of payloads for their values.
 ///
 /// Generated classes recurse by nature. The constructor throws CKzException at Limits::nestedObjects, or when
 /// no more than Limits::stackReserve of the thread's stack is left, so that a deep document ends in a clear
@@ -19,6 +21,7 @@ private:
     static Thread& CurrentThread();
 
     Thread& m_thread;
+    PayloadMemory m_payloads;
 };
 
 } // namespace KzXmlLib10

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <bit>
 #include <cstddef>
 #include <cstdint>
 #include <cstring>
@@ -31,26 +32,21 @@ std::string ToUtf8WithReplacements(std::u16string_view text);
 /// converted.
 std::size_t AppendUtf16(std::u16string& out, std::string_view text);
 
-/// Writes eight bytes as code units. Returns the bytes.
-inline std::uint64_t Widen8(char16_t* to, const char* from) {
-    typedef unsigned char Bytes __attribute__((vector_size(8)));
-    typedef unsigned short Units __attribute__((vector_size(16)));
-    Bytes bytes;
-    std::memcpy(&bytes, from, sizeof bytes);
-    const Units units = __builtin_convertvector(bytes, Units);
-    std::memcpy(to, &units, sizeof units);
-    std::uint64_t word;
+/// Writes the bytes of a word of four or eight as code units. Returns the word.
+template <class Word>
+inline Word WidenBytes(char16_t* to, const char* from) {
+    typedef unsigned char Bytes __attribute__((vector_size(16)));
+    typedef std::uint64_t Words __attribute__((vector_size(16)));
+    Word word;
     std::memcpy(&word, from, sizeof word);
-    return word;
-}
-
-/// The same of four, for which there is no vector.
-inline std::uint64_t Widen4(char16_t* to, const char* from) {
-    std::uint32_t word;
-    std::memcpy(&word, from, sizeof word);
-    std::uint64_t units = (word | std::uint64_t{word} << 16) & 0x0000'FFFF'0000'FFFF;
-    units = (units | units << 8) & 0x00FF'00FF'00FF'00FF;
-    std::memcpy(to, &units, sizeof units);
+    constexpr bool littleEndian = std::endian::native == std::endian::little;
+    constexpr int shift = littleEndian || sizeof word == 8 ? 0 : 32;
+    const Bytes bytes = reinterpret_cast<Bytes>(Words{std::uint64_t{word} << shift, 0}), zeros = {};
+    const Bytes units =
+        littleEndian
+            ? __builtin_shufflevector(bytes, zeros, 0, 16, 1, 17, 2, 18, 3, 19, 4, 20, 5, 21, 6, 22, 7, 23)
+            : __builtin_shufflevector(zeros, bytes, 0, 16, 1, 17, 2, 18, 3, 19, 4, 20, 5, 21, 6, 22, 7, 23);
+    std::memcpy(to, &units, 2 * sizeof word);
     return word;
 }
 
@@ -72,10 +68,11 @@ inline bool WriteAscii(char16_t* to, std::string_view text) {
     std::uint64_t found = 0;
     if (size >= 8) {
         for (std::size_t at = 0; at + 8 < size; at += 8)
-            found |= Widen8(to + at, from + at);
-        found |= Widen8(to + size - 8, from + size - 8);
+            found |= WidenBytes<std::uint64_t>(to + at, from + at);
+        found |= WidenBytes<std::uint64_t>(to + size - 8, from + size - 8);
     } else if (size >= 4) {
-        found = Widen4(to, from) | Widen4(to + size - 4, from + size - 4);
+        found =
+            WidenBytes<std::uint32_t>(to, from) | WidenBytes<std::uint32_t>(to + size - 4, from + size - 4);
     } else {
         for (std::size_t at = 0; at < size; ++at) {
             const auto byte = static_cast<unsigned char>(from[at]);

@@ -3,6 +3,7 @@
 #include <KzXmlLib10/object/FormatString.h>
 
 #include "object/CurrentLimit.h"
+#include "object/Digit.h"
 #include "object/NotNull.h"
 #include "object/Throw.h"
 #include "values/DecimalReader.h"
@@ -30,6 +31,7 @@ using Digits = CBigInteger::Digits;
 constexpr int largestPlaces = 4'096;
 constexpr int guardPlaces = 2;
 constexpr std::size_t longestText = 1024;
+constexpr std::ptrdiff_t longestPlainText = 1024;
 
 /// Takes the low digits out and leaves the others.
 Digits TakeLow(Digits& digits, std::size_t places) {
@@ -98,8 +100,32 @@ CBigInteger CDecimal::Scaled() const {
     return scaled += m_fractional;
 }
 
+/// Takes the text if it is digits with at most one point among them, as most are. False, and nothing is
+/// changed, for any other.
+bool CDecimal::ParsePlain(const char16_t* text) {
+    const auto skipDigits = [](const char16_t* at) {
+        while (IsDigit(*at))
+            ++at;
+        return at;
+    };
+    const char16_t* const point = skipDigits(text);
+    const char16_t* const fraction = *point == u'.' ? point + 1 : point;
+    const char16_t* const end = skipDigits(fraction);
+    if (*end || end - text > longestPlainText)
+        return false;
+    CBigInteger::Build({text, point}, m_integral.m_digits);
+    CBigInteger::Build({fraction, end}, m_fractional.m_digits);
+    m_divider = std::max(1, static_cast<int>(end - fraction));
+    return true;
+}
+
 void CDecimal::Parse(const char16_t* text) {
-    DecimalReader reader(NotNull(text, u"text"));
+    if (ParsePlain(NotNull(text, u"text"))) {
+        Rationalise();
+        LimitPlaces();
+        return;
+    }
+    DecimalReader reader(text);
     const DecimalText& parts = reader.Read();
     CBigInteger::Build(parts.integerDigits, m_integral.m_digits);
     CBigInteger::Build(parts.fractionDigits, m_fractional.m_digits);

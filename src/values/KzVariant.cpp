@@ -253,7 +253,7 @@ template <class T>
 void KzVariant::SetValue(ItemType type, T&& value) {
     Clear();
     m_type = type;
-    m_value.payload = new T(std::move(value));
+    m_value.payload = MakePayload<T>(std::move(value));
 }
 
 /// `type` is what the caller hoped for. Any kind with a payload of its class will do.

@@ -1,5 +1,11 @@
 #pragma once
 
+#include "values/PayloadMemory.h"
+
+#include <memory>
+#include <new>
+#include <utility>
+
 namespace KzXmlLib10 {
 
 /// How a variant owns what its cell points to. Neither operation is called with null.
@@ -8,11 +14,26 @@ struct PayloadKind {
     void (*letGo)(void* payload);
 };
 
+/// A new value on the heap.
+template <class T, class... Arguments>
+void* MakePayload(Arguments&&... arguments) {
+    static_assert(sizeof(T) <= payloadSize);
+    struct GiveBack {
+        void operator()(void* memory) const noexcept { GiveBackPayloadMemory(memory); }
+    };
+    std::unique_ptr<void, GiveBack> memory(TakePayloadMemory());
+    ::new (memory.get()) T(std::forward<Arguments>(arguments)...);
+    return memory.release();
+}
+
 /// A value on the heap, copied with the variant.
 template <class T>
 inline constexpr PayloadKind HeapValue = {
-    [](void* payload) -> void* { return new T(*static_cast<const T*>(payload)); },
-    [](void* payload) { delete static_cast<T*>(payload); },
+    [](void* payload) { return MakePayload<T>(*static_cast<const T*>(payload)); },
+    [](void* payload) {
+        static_cast<T*>(payload)->~T();
+        GiveBackPayloadMemory(payload);
+    },
 };
 
 /// A counted object, shared by the copies of the variant.

@@ -2,8 +2,7 @@
 
 #include "object/Throw.h"
 #include "xml/Messages.h"
-#include "xml/SharedName.h"
-#include "xml/TreeMemory.h"
+#include "xml/TreeBuilding.h"
 
 #include <KzXmlLib10/object/CXmlSerializationContext.h>
 #include <KzXmlLib10/xml/CXmlDocument.h>
@@ -72,10 +71,12 @@ void CExpatReader::ParseChunk(bool isFinal, std::uint64_t handedIn) {
         const std::span<unsigned char> slice = left.first(std::min(left.size(), SliceSize));
         left = left.subspan(slice.size());
         const bool isLast = isFinal && left.empty();
-        if (XML_Parse(m_parser.get(), reinterpret_cast<const char*>(slice.data()),
-                      static_cast<int>(slice.size()), isLast) != XML_STATUS_OK ||
-            m_failure)
+        const XML_Status status = XML_Parse(m_parser.get(), reinterpret_cast<const char*>(slice.data()),
+                                            static_cast<int>(slice.size()), isLast);
+        const std::size_t units = CloseText();
+        if (status != XML_STATUS_OK || m_failure)
             Fail();
+        m_budget.Charge(units);
     } while (!left.empty());
     if (isFinal)
         m_parser.reset();
@@ -113,6 +114,7 @@ void CExpatReader::Handle(void* userData, Action action) noexcept {
 }
 
 void CExpatReader::StartElement(const XML_Char* name, const XML_Char** attributes) {
+    ChargeText();
     const bool isRoot = !m_document->m_documentElement;
     if (isRoot)
         m_document->StartTree();
@@ -138,16 +140,13 @@ void CExpatReader::AddAttributes(CXmlElement& element, const XML_Char** attribut
     }
 }
 
-/// Appends to the innermost element.
-///
-/// Deliberate: all carriage returns are left out. Expat has normalised line ends already, so one that comes
-/// here came from a character reference, each of which is a text of its own.
-inline void CExpatReader::AppendText(std::string_view text) {
+/// Appends to the innermost element, to whose text no run is open that has the room.
+void CExpatReader::AppendText(std::string_view text) {
     if (text.size() > TextSliceSize)
         return AppendLongText(text);
-    if (text != "\r")
-        m_budget.Charge(
-            m_document->m_memory->texts.AppendUtf8(m_document->m_elementStack.back()->m_text, text));
+    ChargeText();
+    m_text = m_document->m_memory->texts.Open(m_document->m_elementStack.back()->m_text, text.size());
+    m_text.AppendUtf8(text);
 }
 
 void CExpatReader::AppendLongText(std::string_view text) {
@@ -161,13 +160,30 @@ void CExpatReader::AppendLongText(std::string_view text) {
     AppendText(text);
 }
 
+/// Returns the number of code units that have become part of the tree.
+inline std::size_t CExpatReader::CloseText() {
+    if (!m_text.piece)
+        return 0;
+    const std::size_t units = m_document->m_memory->texts.Close(m_text);
+    m_text = TextRun();
+    return units;
+}
+
+inline void CExpatReader::ChargeText() {
+    if (const std::size_t units = CloseText())
+        m_budget.Charge(units);
+}
+
 void XMLCALL CExpatReader::StartElementHandler(void* reader, const XML_Char* name,
                                                const XML_Char** attributes) {
     Handle(reader, [=](CExpatReader& self) { self.StartElement(name, attributes); });
 }
 
 void XMLCALL CExpatReader::EndElementHandler(void* reader, const XML_Char*) {
-    Handle(reader, [](CExpatReader& self) { self.m_document->EndElement(); });
+    Handle(reader, [](CExpatReader& self) {
+        self.ChargeText();
+        self.m_document->EndElement();
+    });
 }
 
 void XMLCALL CExpatReader::StartNamespaceDeclHandler(void* reader, const XML_Char* prefix,
@@ -182,11 +198,17 @@ void XMLCALL CExpatReader::StartNamespaceDeclHandler(void* reader, const XML_Cha
 
 void XMLCALL CExpatReader::EndNamespaceDeclHandler(void*, const XML_Char*) {}
 
+/// Deliberate: all carriage returns are left out. Expat has normalised line ends already, so one that comes
+/// here came from a character reference, each of which is a text of its own.
 void XMLCALL CExpatReader::CharacterDataHandler(void* reader, const XML_Char* text, int length) {
-    if (length != 0)
-        Handle(reader, [=](CExpatReader& self) {
-            self.AppendText({text, static_cast<std::size_t>(length)});
-        });
+    auto& self = *static_cast<CExpatReader*>(reader);
+    const std::string_view piece(text, static_cast<std::size_t>(length));
+    if (length == 1 && *text == '\r')
+        return;
+    if (self.m_text.HasRoom(piece.size()))
+        self.m_text.AppendUtf8(piece);
+    else
+        Handle(reader, [piece](CExpatReader& reading) { reading.AppendText(piece); });
 }
 
 void XMLCALL CExpatReader::StartCdataHandler(void* reader) {

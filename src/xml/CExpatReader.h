@@ -3,11 +3,13 @@
 #include "xml/Expat.h"
 #include "xml/ParserNames.h"
 #include "xml/SurrogateCheck.h"
+#include "xml/TextArena.h"
 #include "xml/TreeBudget.h"
 
 #include <KzXmlLib10/object/CInstanceMonitor.h>
 #include <KzXmlLib10/object/Fwd.h>
 
+#include <cstddef>
 #include <cstdint>
 #include <exception>
 #include <memory>
@@ -62,6 +64,8 @@ private:
     void AddAttributes(CXmlElement& element, const XML_Char** attributes);
     void AppendText(std::string_view text);
     void AppendLongText(std::string_view text);
+    std::size_t CloseText();
+    void ChargeText();
     [[noreturn]] void Fail();
 
     CXmlDocument* m_document;
@@ -70,6 +74,7 @@ private:
     std::exception_ptr m_failure;
     ParserNames m_names;
     TreeBudget m_budget;
+    TextRun m_text; ///< of the innermost element, if it is open
 };
 
 } // namespace KzXmlLib10

@@ -1,7 +1,6 @@
 #include <KzXmlLib10/xml/CXmlAttribute.h>
 
 #include "object/TextScan.h"
-#include "xml/SharedName.h"
 #include "xml/XmlNamespaces.h"
 
 #include <string_view>
@@ -20,19 +19,18 @@ bool IsReservedNamespace(std::u16string_view uri) {
 } // namespace
 
 CXmlAttribute::CXmlAttribute(const SharedName& name, std::u16string value) noexcept
-    : CInstanceMonitor(u"CXmlAttribute"), m_localName(name.localName), m_value(std::move(value)),
-      m_namespaceUri(name.namespaceUri) {}
+    : CInstanceMonitor(u"CXmlAttribute"), m_name(&name), m_value(std::move(value)) {}
 
 CXmlAttribute::~CXmlAttribute() = default;
 
 bool CXmlAttribute::IsNamespaceAttribute() const {
-    return IsReservedNamespace(*m_namespaceUri) &&
-           (*m_localName == u"xmlns" || *m_localName == u"type" || *m_localName == u"schemaLocation" ||
-            *m_localName == u"noNamespaceSchemaLocation");
+    return IsReservedNamespace(GetNamespaceURI()) &&
+           (GetLocalName() == u"xmlns" || GetLocalName() == u"type" || GetLocalName() == u"schemaLocation" ||
+            GetLocalName() == u"noNamespaceSchemaLocation");
 }
 
 bool CXmlAttribute::IsNilAttribute() const {
-    return *m_localName == u"nil" && IsReservedNamespace(*m_namespaceUri);
+    return GetLocalName() == u"nil" && IsReservedNamespace(GetNamespaceURI());
 }
 
 } // namespace KzXmlLib10

@@ -6,9 +6,7 @@
 #include "xml/AsyncFiles.h"
 #include "xml/CExpatReader.h"
 #include "xml/Messages.h"
-#include "xml/OpenElement.h"
-#include "xml/SharedName.h"
-#include "xml/TreeMemory.h"
+#include "xml/TreeBuilding.h"
 
 #include <KzXmlLib10/object/CXmlSerializationContext.h>
 
@@ -32,8 +30,7 @@ CXmlDocument::~CXmlDocument() { DropTree(); }
 
 void CXmlDocument::Cleanup() {
     DropTree();
-    m_buffer.reset();
-    m_bufferSize = 0;
+    ReleaseBuffer();
     m_elementStack.clear();
     m_openElements.clear();
     m_namespaceAliases.clear();
@@ -42,8 +39,7 @@ void CXmlDocument::Cleanup() {
 void CXmlDocument::Init() {
     m_readOffset = 0;
     DropTree();
-    m_buffer.reset();
-    m_bufferSize = 0;
+    ReleaseBuffer();
     m_schemaType = m_context->GetSchemaType();
 }
 
@@ -84,10 +80,17 @@ unsigned char* CXmlDocument::SetBuffer(std::unique_ptr<unsigned char[]> buffer, 
     return m_buffer.get();
 }
 
+/// The tree does not refer to the input.
+void CXmlDocument::ReleaseBuffer() {
+    m_buffer.reset();
+    m_bufferSize = 0;
+}
+
 void CXmlDocument::ParseText(std::uint64_t handedIn, const char* protocolEncoding) {
     CExpatReader reader(this);
     reader.Initialize(protocolEncoding);
     reader.ParseChunk(true, handedIn);
+    ReleaseBuffer();
 }
 
 std::u16string CXmlDocument::LookupNamespaceFromAlias(const char16_t* alias) const {
@@ -115,20 +118,8 @@ CXmlElement* CXmlDocument::AddDocElement(const SharedName& name) {
     return root;
 }
 
-CXmlElement* CXmlDocument::AddChildElement(const SharedName& name) {
-    CXmlElement* parent = m_elementStack.back();
-    if (m_elementCallback)
-        m_openElements.push_back({parent->m_lastChild, m_memory->texts.GetMark()});
-    CXmlElement* child = parent->CreateNewChildElement(name);
-    m_elementStack.push_back(child);
-    return child;
-}
-
-void CXmlDocument::EndElement() {
-    CXmlElement* element = m_elementStack.back();
-    m_elementStack.pop_back();
-    if (!m_elementCallback)
-        return;
+/// Lets the callback decide on an element that has ended.
+void CXmlDocument::OfferElement(CXmlElement* element) {
     const OpenElement open = m_openElements.back();
     m_openElements.pop_back();
     if (!m_elementCallback(element) || m_elementStack.empty())

@@ -99,6 +99,7 @@ void CXmlDocument::Parse() {
         return ParseText(handedIn);
     reader.ReadHeader();
     reader.ParseDocument();
+    ReleaseBuffer();
 }
 
 /// Replaces the buffer by its content if it is a complete gzip or zlib stream.
@@ -160,8 +161,7 @@ void CXmlDocument::AsyncParse(bool isLast) {
         Cleanup();
         throw;
     }
-    m_buffer.reset();
-    m_bufferSize = 0;
+    ReleaseBuffer();
 }
 
 } // namespace KzXmlLib10

@@ -1,10 +1,7 @@
 #include <KzXmlLib10/xml/CXmlElement.h>
 
 #include "object/TextScan.h"
-#include "xml/SharedName.h"
-#include "xml/TreeMemory.h"
-
-#include <KzXmlLib10/xml/CXmlDocument.h>
+#include "xml/TreeBuilding.h"
 
 #include <memory>
 #include <utility>
@@ -16,14 +13,6 @@ namespace {
 const std::u16string none;
 
 } // namespace
-
-CXmlElement::CXmlElement(const CXmlDocument* document, const SharedName& name) noexcept
-    : CInstanceMonitor(u"CXmlElement"), m_document(document), m_localName(name.localName),
-      m_namespaceUri(name.namespaceUri) {}
-
-CXmlElement* CXmlElement::Create(const CXmlDocument* document, const SharedName& name) {
-    return ::new (document->m_memory->elements.Take()) CXmlElement(document, name);
-}
 
 CXmlElement::~CXmlElement() {
     if (m_firstChild)
@@ -64,7 +53,7 @@ void CXmlElement::DestroyChain(CXmlElement* list) noexcept {
 }
 
 std::u16string CXmlElement::GetText() const {
-    if (m_text && m_text->next == m_text)
+    if (m_text && m_text->IsAlone())
         return std::u16string(m_text->View());
     std::u16string text;
     ViewText(text);
@@ -74,13 +63,15 @@ std::u16string CXmlElement::GetText() const {
 std::u16string_view CXmlElement::ViewText(std::u16string& room) const {
     if (!m_text)
         return none;
-    TextPiece* piece = m_text->next;
-    if (piece == m_text)
-        return piece->View();
+    if (m_text->IsAlone())
+        return m_text->View();
     room.clear();
-    for (; piece != m_text; piece = piece->next)
-        room += piece->View();
-    return room += m_text->View();
+    for (TextPiece* piece = m_text->next;; piece = piece->next) {
+        for (unsigned left = piece->times; left > 0; --left)
+            room += piece->View();
+        if (piece == m_text)
+            return room;
+    }
 }
 
 const std::vector<CXmlAttribute*>& CXmlElement::GetAttributes() const {
@@ -115,13 +106,6 @@ void CXmlElement::AddAttribute(const SharedName& name, std::u16string value) {
 void CXmlElement::AppendText(std::u16string_view text) { m_document->m_memory->texts.Append(m_text, text); }
 
 void CXmlElement::ClearText() { TextArena::Clear(m_text); }
-
-CXmlElement* CXmlElement::CreateNewChildElement(const SharedName& name) {
-    CXmlElement* child = Create(m_document, name);
-    (m_lastChild ? m_lastChild->m_nextSibling : m_firstChild) = child;
-    m_lastChild = child;
-    return child;
-}
 
 void CXmlElement::RemoveLastChildElement(CXmlElement* previous) {
     delete m_lastChild;

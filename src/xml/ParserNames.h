@@ -1,20 +1,20 @@
 #pragma once
 
 #include "xml/Expat.h"
-#include "xml/SharedName.h"
-#include "xml/SharedStrings.h"
+#include "xml/SharedNames.h"
 
 #include <cstring>
 #include <set>
 #include <string>
 #include <string_view>
+#include <utility>
 
 namespace KzXmlLib10 {
 
 /// The names of a document as expat gives them, and what each of them is in the tree.
 ///
-/// Names of a document mostly come in an order that they came in before. So each name remembers the one that
-/// followed it last, and the table is searched only where that was another one. The search takes logarithmic
+/// Names of a document mostly come in an order that they came in before. So each name remembers the two that
+/// followed it last, and the table is searched only where it is another one. The search takes logarithmic
 /// time, so that nobody can choose names that make it slow.
 class ParserNames {
 public:
@@ -24,21 +24,27 @@ public:
     ParserNames(const ParserNames&) = delete;
     ParserNames& operator=(const ParserNames&) = delete;
 
-    /// The name in the tree that has these strings, for a URI, separator and local name, or a local name
-    /// alone. All calls are given the same strings.
-    const SharedName& Find(const char* name, SharedStrings& strings) {
-        const Entry*& guess = m_last->follower;
-        if (!guess || std::strcmp(guess->text.c_str(), name) != 0)
-            guess = &Search(name, strings);
+    /// The name in the tree for a URI, separator and local name, or a local name
+    /// alone. All calls are given the same table.
+    const SharedName& Find(const char* name, SharedNames& names) {
+        const auto isAt = [name](const Entry* guess) {
+            return guess && std::strcmp(guess->text.c_str(), name) == 0;
+        };
+        auto& [guess, other] = m_last->followers;
+        if (!isAt(guess)) {
+            std::swap(guess, other);
+            if (!isAt(guess))
+                guess = &Search(name, names);
+        }
         m_last = guess;
-        return m_last->name;
+        return *m_last->name;
     }
 
 private:
     struct Entry {
         std::string text;
-        SharedName name;
-        mutable const Entry* follower = nullptr;
+        const SharedName* name = nullptr;
+        mutable const Entry* followers[2] = {};
     };
 
     /// By length first, since that tells most names apart.
@@ -52,19 +58,18 @@ private:
         bool operator()(std::string_view a, const Entry& b) const { return Less(a, b.text); }
     };
 
-    const Entry& Search(std::string_view text, SharedStrings& strings) {
+    const Entry& Search(std::string_view text, SharedNames& names) {
         if (const auto found = m_entries.find(text); found != m_entries.end())
             return *found;
-        return *m_entries.insert({std::string(text), Split(text, strings)}).first;
+        return *m_entries.insert({std::string(text), &Split(text, names)}).first;
     }
 
     /// Deliberate: at the first separator.
-    static SharedName Split(std::string_view text, SharedStrings& strings) {
+    static const SharedName& Split(std::string_view text, SharedNames& names) {
         const std::size_t separator = text.find(Separator);
         if (separator == text.npos)
-            return {&strings.Share({}), &strings.Share(expat::Text(text))};
-        return {&strings.Share(expat::Text(text.substr(0, separator))),
-                &strings.Share(expat::Text(text.substr(separator + 1)))};
+            return names.Share({}, expat::Text(text));
+        return names.Share(expat::Text(text.substr(0, separator)), expat::Text(text.substr(separator + 1)));
     }
 
     std::set<Entry, Order> m_entries;

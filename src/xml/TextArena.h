@@ -5,25 +5,52 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <cstring>
 #include <memory>
-#include <string>
+#include <new>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 namespace KzXmlLib10 {
 
-/// A run of the text of an element, followed by a zero. An element refers to its last piece, which refers to
-/// the first, so that both are at hand; a text that has no child in its midst mostly is one piece.
+/// A run of the text of an element: what stands in front of the code units, which a zero follows. An element
+/// refers to its last piece, which refers to the first, so that both are at hand; a text that has no child in
+/// its midst mostly is one piece.
+///
+/// The texts between children mostly are alike, since they are indentation. Such a row is one piece, with the
+/// number of times.
 struct TextPiece {
-    TextPiece* next;
-    std::uint32_t size;
+    static constexpr std::uint32_t mostUnits = (1u << 20) - 1, mostTimes = (1u << 12) - 1;
 
-    /// The code units follow the size.
-    char16_t* Units() {
-        return reinterpret_cast<char16_t*>(reinterpret_cast<std::byte*>(&size) + sizeof size);
-    }
+    TextPiece* next;
+    std::uint32_t size : 20; ///< in code units
+    std::uint32_t times : 12;
+
+    static constexpr std::size_t headerSize = sizeof next + sizeof(std::uint32_t);
+
+    char16_t* Units() { return reinterpret_cast<char16_t*>(reinterpret_cast<std::byte*>(this) + headerSize); }
     char16_t* End() { return Units() + size; }
     std::u16string_view View() { return {Units(), size}; }
+    /// Whether it is all of its text.
+    bool IsAlone() const { return next == this && times == 1; }
+};
+
+/// What is being written behind the end of a text.
+struct TextRun {
+    TextPiece* piece = nullptr;
+    char16_t* to = nullptr;
+    char16_t* limit = nullptr;
+    TextPiece** last = nullptr;  ///< where the text refers to the piece
+    TextPiece* before = nullptr; ///< the piece before, if this one is new
+
+    /// Whether there is room for so many code units and the zero behind them.
+    bool HasRoom(std::size_t units) const { return limit - to > static_cast<std::ptrdiff_t>(units); }
+
+    /// Appends UTF-8 without a fault, where there is room for a code unit for each byte.
+    void AppendUtf8(std::string_view text) {
+        to += WriteAscii(to, text) ? text.size() : WriteUtf16(to, text).units;
+    }
 };
 
 /// The texts of a tree: pieces behind each other in chunks of memory. The newest piece grows in place, any
@@ -36,32 +63,49 @@ public:
     TextArena(const TextArena&) = delete;
     TextArena& operator=(const TextArena&) = delete;
 
-    /// Appends to the text of which `last` is the last piece, null if it is empty.
-    void Append(TextPiece*& last, std::u16string_view text);
-    /// Appends less than 2^30 bytes of UTF-8 without a fault. Returns the number of its code units.
-    std::size_t AppendUtf8(TextPiece*& last, std::string_view text) {
-        char16_t* to = Room(last, text.size());
-        std::size_t units = text.size();
-        if (!WriteAscii(to, text))
-            units = WriteUtf16(to, text).units;
-        Grow(*last, units);
+    /// Starts a run at the end of the text of which `last` is the last piece, null if it is empty. It has
+    /// room for so many code units at least. Nothing else may happen to the texts until it is closed.
+    TextRun Open(TextPiece*& last, std::size_t units) {
+        if (last && last == m_newest) {
+            const TextRun run{last, last->End(), m_limit, &last, nullptr};
+            if (run.HasRoom(units))
+                return run;
+        }
+        TextRun run{nullptr, m_next, m_limit, &last, last};
+        if (!run.HasRoom(units))
+            AddChunk(run, units);
+        run.piece = ::new (reinterpret_cast<std::byte*>(run.to) - TextPiece::headerSize) TextPiece;
+        run.piece->size = 0;
+        run.piece->times = 1;
+        run.piece->next = last ? std::exchange(last->next, run.piece) : run.piece;
+        m_newest = last = run.piece;
+        return run;
+    }
+    /// Makes a run part of its text. Returns the number of its code units.
+    std::size_t Close(const TextRun& run) {
+        const auto size = static_cast<std::uint32_t>(run.to - run.piece->Units());
+        const std::size_t units = size - run.piece->size;
+        run.piece->size = size & TextPiece::mostUnits;
+        *run.to = u'\0';
+        if (run.before && run.before->size == size && IsOneMore(run))
+            Drop(run);
+        else
+            m_next = Behind(run.to);
         return units;
     }
+    /// Appends to a text.
+    void Append(TextPiece*& last, std::u16string_view text);
+
     /// Empties a text. Its memory serves again once its last piece is the newest.
-    static void Clear(TextPiece* last) {
-        if (!last)
-            return;
-        last->next = last;
-        last->size = 0;
-        *last->End() = u'\0';
-    }
+    static void Clear(TextPiece* last);
 
     /// What has been appended so far.
     struct Mark {
         TextPiece* newest;
+        char16_t* next;
         std::size_t chunks;
     };
-    Mark GetMark() const { return {m_newest, m_chunks.size()}; }
+    Mark GetMark() const { return {m_newest, m_next, m_chunks.size()}; }
     /// Gives the memory of all pieces behind a mark back, no text of which is in use any more.
     void Rewind(const Mark& mark);
 
@@ -71,21 +115,30 @@ private:
         char16_t* limit;
     };
 
-    /// The place behind a text, where there is room for so many code units and a zero.
-    char16_t* Room(TextPiece*& last, std::size_t units) {
-        if (!last || last != m_newest || static_cast<std::size_t>(m_limit - last->End()) <= units)
-            AddPiece(last, units);
-        return last->End();
+    /// Where the code units of a piece go that follows a text with this end.
+    static char16_t* Behind(char16_t* end) {
+        constexpr std::uintptr_t unit = alignof(TextPiece);
+        const auto free = reinterpret_cast<std::uintptr_t>(end + 1);
+        return reinterpret_cast<char16_t*>((free + unit - 1) / unit * unit + TextPiece::headerSize);
     }
-    static void Grow(TextPiece& piece, std::size_t units) {
-        piece.size += static_cast<std::uint32_t>(units);
-        *piece.End() = u'\0';
+    void AddChunk(TextRun& run, std::size_t units);
+
+    /// Whether the piece of a run is like the one before it, which is as long.
+    static bool IsOneMore(const TextRun& run) {
+        return run.before->times < TextPiece::mostTimes &&
+               std::memcmp(run.before->Units(), run.piece->Units(), run.piece->size * sizeof(char16_t)) == 0;
     }
-    void AddPiece(TextPiece*& last, std::size_t units);
-    std::byte* AddChunk(std::size_t size);
+    void Drop(const TextRun& run) {
+        ++run.before->times;
+        run.before->next = run.piece->next;
+        *run.last = run.before;
+        m_newest = nullptr;
+        m_next = run.piece->Units();
+    }
 
     std::vector<Chunk> m_chunks;
-    TextPiece* m_newest = nullptr; ///< in the last chunk
+    TextPiece* m_newest = nullptr; ///< in the last chunk; null if it was dropped
+    char16_t* m_next = nullptr;    ///< where the code units of the next piece go, if there is room
     char16_t* m_limit = nullptr;   ///< the end of that chunk
 };
 

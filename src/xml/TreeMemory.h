@@ -1,7 +1,7 @@
 #pragma once
 
 #include "xml/NodePool.h"
-#include "xml/SharedStrings.h"
+#include "xml/SharedNames.h"
 #include "xml/TextArena.h"
 
 #include <KzXmlLib10/xml/CXmlAttribute.h>
@@ -17,7 +17,7 @@ struct TreeMemory {
     NodePool<CXmlElement> elements;
     NodePool<CXmlAttribute> attributes;
     NodePool<std::vector<CXmlAttribute*>> attributeLists;
-    SharedStrings names;
+    SharedNames names;
     TextArena texts;
 };
 

@@ -2,10 +2,12 @@
 
 #include <KzXmlLib10/metadata/XmlElementType.h>
 #include <KzXmlLib10/object/Export.h>
+#include <KzXmlLib10/object/Fwd.h>
 #include <KzXmlLib10/object/ItemType.h>
 
 #include <cstdint>
 #include <string>
+#include <typeinfo>
 
 namespace KzXmlLib10Data {
 
@@ -46,6 +48,8 @@ public:
     bool GetOutputPrimitiveClassAsTextProperty() const;
 
 private:
+    friend class KzXmlLib10::CXmlGeneratedClass;
+
     XmlElementGroupType m_elementGroupType;
     XmlElementType m_elementType;
     std::u16string m_elementName;
@@ -56,6 +60,8 @@ private:
     KzXmlLib10::ItemType m_primitiveDataType;
     std::u16string m_primitiveFormatOverride;
     bool m_outputPrimitiveClassAsTextProperty;
+    /// A class found not to be nillable, noted by any thread.
+    mutable const std::type_info* m_notNillable = nullptr;
 };
 
 } // namespace KzXmlLib10Data

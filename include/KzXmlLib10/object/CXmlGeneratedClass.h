@@ -95,6 +95,7 @@ private:
 
     CXmlElement* ReadObject(CXmlElement* element, CXmlElement* current,
                             const CXmlSerializationContext& context, bool isOptional);
+    const INillable* AsNillable(const KzXmlLib10Data::CParentElementInfo& info) const;
     CXmlElement* ReadChildren(CXmlElement* element, CXmlElement* current,
                               const CXmlSerializationContext& context, bool isOptional);
     void ReadPrimitiveValue(const CXmlElement& element);

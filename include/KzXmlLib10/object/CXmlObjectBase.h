@@ -114,6 +114,8 @@ protected:
 
     std::u16string GetElementName() const;
     void SetElementName(const char16_t* name);
+    /// The same, without a copy where it is the name already.
+    void TakeElementName(const std::u16string& name);
 
     /// Forwarders through which descriptors and collections reach the protected operations of other objects.
     static void ToXml_Int(const CXmlObjectBase* object, CXmlWriter* writer, bool isRoot,

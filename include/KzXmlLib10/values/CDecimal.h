@@ -109,6 +109,7 @@ private:
     CBigInteger Scaled() const;
 
     void Parse(const char16_t* text);
+    bool ParsePlain(const char16_t* text);
     /// The operator * with ten to the power of `exponent`, as a shift. `text` is for the message.
     void MultiplyByPowerOfTen(long long exponent, const char16_t* text);
     /// The operator / with ten to the power of `exponent`, as a shift.

@@ -3,12 +3,11 @@
 #include <KzXmlLib10/object/CInstanceMonitor.h>
 #include <KzXmlLib10/object/Export.h>
 #include <KzXmlLib10/object/Fwd.h>
+#include <KzXmlLib10/xml/SharedName.h>
 
 #include <string>
 
 namespace KzXmlLib10 {
-
-struct SharedName;
 
 /// An attribute of a CXmlElement: its local name, its namespace and its value, as the parser normalised it.
 ///
@@ -18,8 +17,8 @@ class QUILLON_EXPORT CXmlAttribute final : public CInstanceMonitor {
 public:
     ~CXmlAttribute() override;
 
-    const std::u16string& GetLocalName() const { return *m_localName; }
-    const std::u16string& GetNamespaceURI() const { return *m_namespaceUri; }
+    const std::u16string& GetLocalName() const { return *m_name->localName; }
+    const std::u16string& GetNamespaceURI() const { return *m_name->namespaceUri; }
     const std::u16string& GetValue() const { return m_value; }
 
     /// Whether the attribute steers reading instead of carrying data: "xmlns", "type", "schemaLocation" or
@@ -40,9 +39,8 @@ private:
     /// The names stay those of the document.
     CXmlAttribute(const SharedName& name, std::u16string value) noexcept;
 
-    const std::u16string* m_localName;
+    const SharedName* m_name; ///< the document's
     std::u16string m_value;
-    const std::u16string* m_namespaceUri;
 };
 
 } // namespace KzXmlLib10

@@ -19,7 +19,6 @@ namespace KzXmlLib10 {
 
 class AsyncFile;
 struct OpenElement;
-struct SharedName;
 struct TreeMemory;
 
 /// A small read-only tree of elements: the form in which every input reaches the objects.
@@ -101,6 +100,7 @@ private:
     void ReadChunkFromFile(unsigned char* block);
     void AsyncParse(bool isLast);
     static std::unique_ptr<unsigned char[]> NewBuffer(std::uint64_t size);
+    void ReleaseBuffer();
     unsigned char* SetBuffer(std::unique_ptr<unsigned char[]> buffer, std::uint64_t size);
 
     /// Makes the memory of the tree, before the name of its root is shared.
@@ -108,6 +108,7 @@ private:
     CXmlElement* AddDocElement(const SharedName& name);
     CXmlElement* AddChildElement(const SharedName& name);
     void EndElement();
+    void OfferElement(CXmlElement* element);
     static void AppendTextExcludingCR(CXmlElement* element, std::u16string_view text);
 
     /// Where the next block of a file starts. Outlives the load.

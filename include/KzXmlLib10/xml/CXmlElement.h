@@ -4,6 +4,7 @@
 #include <KzXmlLib10/object/Export.h>
 #include <KzXmlLib10/object/Fwd.h>
 #include <KzXmlLib10/xml/CXmlAttribute.h>
+#include <KzXmlLib10/xml/SharedName.h>
 
 #include <cstddef>
 #include <new>
@@ -13,7 +14,6 @@
 
 namespace KzXmlLib10 {
 
-struct SharedName;
 struct TextPiece;
 
 /// An element of a CXmlDocument: its name, its attributes, its child elements and its text.
@@ -37,13 +37,14 @@ public:
     CXmlElement* GetFirstElement() const { return m_firstChild; }
     /// The next child of the same parent, or null.
     CXmlElement* GetNextSiblingElement() const { return m_nextSibling; }
-    const std::u16string& GetLocalName() const { return *m_localName; }
-    const std::u16string& GetNamespaceURI() const { return *m_namespaceUri; }
+    const std::u16string& GetLocalName() const { return *m_name->localName; }
+    const std::u16string& GetNamespaceURI() const { return *m_name->namespaceUri; }
     /// All character data directly in this element, in document order, white space included.
     std::u16string GetText() const;
     /// The same where it stands, or in `room` if it had to be put together. Valid until the element or `room`
     /// changes; a zero follows the text.
     std::u16string_view ViewText(std::u16string& room) const;
+    bool HasAttributes() const { return m_attributes != nullptr; }
     /// In document order; the attributes stay the property of the element.
     const std::vector<CXmlAttribute*>& GetAttributes() const;
     /// The value of the first attribute of exactly this name and namespace, found by a linear walk.
@@ -80,8 +81,7 @@ private:
     CXmlElement* m_lastChild = nullptr;
     std::vector<CXmlAttribute*>* m_attributes = nullptr; ///< null for none
     TextPiece* m_text = nullptr;                         ///< the last piece, null for none
-    const std::u16string* m_localName;                   ///< the document's, as all names
-    const std::u16string* m_namespaceUri;
+    const SharedName* m_name;                            ///< the document's
 };
 
 } // namespace KzXmlLib10

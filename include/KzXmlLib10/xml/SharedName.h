@@ -5,10 +5,10 @@
 
 namespace KzXmlLib10 {
 
-/// A name whose strings the nodes of a tree share.
+/// A name as the nodes of a tree share it. Of no use by itself.
 struct SharedName {
-    const std::u16string* namespaceUri = nullptr;
-    const std::u16string* localName = nullptr;
+    const std::u16string* namespaceUri;
+    const std::u16string* localName;
 
     /// The code units of both.
     std::size_t Size() const { return namespaceUri->size() + localName->size(); }
