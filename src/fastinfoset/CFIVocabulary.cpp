@@ -1,6 +1,5 @@
 #include <KzXmlLib10/fastinfoset/CFIVocabulary.h>
 
-#include "object/TextScan.h"
 #include "xml/XmlNamespaces.h"
 
 // A new vocabulary, to which <o:order xmlns:o="urn:o"/> has been added:
@@ -80,56 +79,25 @@ bool CFIVocabulary::FindLocalNameIndex(const std::u16string& localName, std::uin
     return FindIndex(m_localNameIndex, localName, index);
 }
 
-bool CFIVocabulary::FindIndex(const IndexMap& map, const std::u16string& key, std::uint32_t& index) {
-    const auto found = map.find(key);
-    if (found == map.end())
-        return false;
-    index = found->second;
-    return true;
+bool CFIVocabulary::FindIndex(const IndexMap& map, std::u16string_view key, std::uint32_t& index) {
+    index = map.Find(key);
+    return index != 0;
 }
 
-/// Compares a key with that of a name, which is as long.
-int CFIVocabulary::CQName::CompareKey(std::u16string_view key) const {
-    constexpr std::u16string_view between(&separator, 1);
-    for (const std::u16string_view part : {localName, between, namespaceName, between, prefix}) {
-        if (const int order = CompareBytes(key.substr(0, part.size()), part))
-            return order;
-        key.remove_prefix(part.size());
-    }
-    return 0;
-}
-
-bool CFIVocabulary::KeyOrder::operator()(const std::u16string& a, const std::u16string& b) const {
-    return a.size() != b.size() ? a.size() < b.size() : CompareBytes(a, b) < 0;
-}
-
-bool CFIVocabulary::KeyOrder::operator()(const std::u16string& key, const CQName& name) const {
-    return key.size() != name.KeyLength() ? key.size() < name.KeyLength() : name.CompareKey(key) < 0;
-}
-
-bool CFIVocabulary::KeyOrder::operator()(const CQName& name, const std::u16string& key) const {
-    return key.size() != name.KeyLength() ? name.KeyLength() < key.size() : name.CompareKey(key) > 0;
-}
-
-std::u16string CFIVocabulary::CQName::Key() const {
-    std::u16string key;
-    key.reserve(KeyLength());
-    key += localName;
+void CFIVocabulary::MakeKey(std::u16string_view prefix, std::u16string_view namespaceName,
+                            std::u16string_view localName, std::u16string& key) {
+    key = localName;
     key += separator;
     key += namespaceName;
     key += separator;
     key += prefix;
-    return key;
 }
 
-void CFIVocabulary::AddValueToMap(const std::u16string& value, IndexMap& map) {
-    if (map.size() < MaxEntries)
-        map.try_emplace(value, static_cast<std::uint32_t>(map.size() + 1));
-}
+void CFIVocabulary::AddValueToMap(std::u16string_view value, IndexMap& map) { map.Add(value); }
 
-void CFIVocabulary::AddValueToVector(const std::u16string& value, std::vector<std::u16string>& vector) {
+void CFIVocabulary::AddValueToVector(std::u16string_view value, std::vector<std::u16string>& vector) {
     if (vector.size() < MaxEntries)
-        vector.push_back(value);
+        vector.emplace_back(value);
 }
 
 void CFIVocabulary::AddQNameToVector(std::uint32_t prefix, std::uint32_t namespaceName,
@@ -151,8 +119,9 @@ bool CFIVocabulary::Enter(const std::u16string& value, IndexMap& map, CFIStringT
 void CFIVocabulary::AddQName(const std::u16string& prefix, const std::u16string& namespaceName,
                              const std::u16string& localName, IndexMap& map,
                              std::vector<CQNameParts>& vector) {
-    const std::u16string key = CQName{prefix, namespaceName, localName}.Key();
-    if (map.contains(key))
+    std::u16string key;
+    MakeKey(prefix, namespaceName, localName, key);
+    if (map.Find(key) != 0)
         return;
     std::uint32_t prefixIndex = 0;
     std::uint32_t namespaceIndex = 0;

@@ -7,6 +7,7 @@
 #include "fastinfoset/Messages.h"
 #include "fastinfoset/RestrictedAlphabet.h"
 #include "object/NotNull.h"
+#include "object/TextScan.h"
 #include "object/Throw.h"
 #include "object/Utf8.h"
 #include "xml/NamespaceMap.h"
@@ -17,7 +18,9 @@
 #include <KzXmlLib10/fastinfoset/CFastInfosetContext.h>
 #include <KzXmlLib10/xml/CBinaryStream.h>
 
+#include <cstring>
 #include <iterator>
+#include <typeinfo>
 
 // <a b="1"><c>x</c><c/></a>, from the first byte to the last:
 //
@@ -42,6 +45,12 @@ Byte PartsOf(const std::u16string& prefix, const std::u16string& uri) {
     return static_cast<Byte>((prefix.empty() ? 0 : HasPrefix) | (uri.empty() ? 0 : HasNamespace));
 }
 
+std::size_t PlaceOf(std::u16string_view localName) {
+    return localName.empty() ? 0
+                             : localName.size() + 3u * localName.front() + 11u * localName.back() +
+                                   23u * localName[localName.size() / 2];
+}
+
 std::string_view AsText(const CBinaryData& data) {
     return {reinterpret_cast<const char*>(data.GetData()), data.GetLength()};
 }
@@ -49,7 +58,8 @@ std::string_view AsText(const CBinaryData& data) {
 } // namespace
 
 CFastInfosetWriter::CFastInfosetWriter(CBinaryStream* stream, const CFastInfosetContext* context)
-    : m_stream(NotNull(stream, u"stream")), m_fiContext(NotNull(context, u"context")),
+    : CXmlWriter(typeid(CFastInfosetWriter), WriteLeafAtOnce), m_stream(NotNull(stream, u"stream")),
+      m_fiContext(NotNull(context, u"context")),
       m_vocabulary(context->GetUseGeneratedVocabulary() ? new CFIVocabulary(context->GetVocabulary())
                                                         : new CFIVocabulary) {}
 
@@ -106,12 +116,9 @@ void CFastInfosetWriter::FlushPendingElement(bool hasAttribute) {
         WriteNamespaceAttributes(flag);
         flag = 0;
     }
-    const std::u16string& uri = context.m_namespaceUri;
     // Deliberate: a prefix made up here is declared by no namespace attribute.
-    if (context.NeedsPrefix(uri))
-        WriteElementName(flag, BindPrefix(context, uri).prefix, uri, context.m_name);
-    else
-        WriteElementName(flag, u"", uri, context.m_name);
+    const NamePrefix prefix = BindName(context);
+    WriteElementName(flag, prefix.prefix, context.m_namespaceUri, context.m_name, context.StateOfPrefix());
     EnterContext(std::move(m_pendingContext));
 }
 
@@ -162,6 +169,43 @@ void CFastInfosetWriter::EndElement() {
     LeaveContext();
 }
 
+bool CFastInfosetWriter::WriteLeafAtOnce(CXmlWriter& writer, const std::u16string& name,
+                                         const std::u16string& namespaceUri, const std::u16string& text,
+                                         ItemType type) {
+    return static_cast<CFastInfosetWriter&>(writer).TryWriteLeaf(name, namespaceUri, text, type);
+}
+
+/// Writes an element in the namespace of its parent without a context of its own. False, and nothing written,
+/// for any other.
+bool CFastInfosetWriter::TryWriteLeaf(const std::u16string& name, const std::u16string& namespaceUri,
+                                      const std::u16string& text, ItemType type) {
+    FlushPendingElement(false);
+    if (!m_context || !m_context->IsPrefixKnown() || !SameText(namespaceUri, m_context->m_namespaceUri))
+        return false;
+    if (m_pendingTerminator) {
+        WriteByte(End);
+        m_pendingTerminator = false;
+    }
+    m_context->CountChild();
+    CloseStartTag();
+    bool isNamed = false;
+    try {
+        WriteElementName(0, m_context->m_prefix, namespaceUri, name, m_context->StateOfPrefix());
+        isNamed = true;
+        if (!text.empty())
+            WriteCharacterChunk(text, type);
+    } catch (...) { // which leaves the element open, or still pending
+        m_pendingContext = CreateContext(name, namespaceUri);
+        if (isNamed) {
+            m_pendingContext->m_startTagOpen = false;
+            EnterContext(std::move(m_pendingContext));
+        }
+        throw;
+    }
+    m_pendingTerminator = true;
+    return true;
+}
+
 void CFastInfosetWriter::WriteAttribute(const std::u16string& name, const std::u16string& namespaceUri,
                                         const std::u16string& value, ItemType type) {
     FlushPendingElement(true);
@@ -193,42 +237,35 @@ void CFastInfosetWriter::WriteXsiNil() {
     WriteAttribute(u"nil", schemaInstanceNamespace, u"true", ItemType_boolean);
 }
 
-template <class Table, class Name>
-bool CFastInfosetWriter::FindName(const Table& table, RecentNames& recent, const Name& name,
-                                  std::uint32_t& index) {
-    const std::u16string_view local = name.localName;
-    const std::size_t place = local.empty() ? 0
-                                            : local.size() + 3u * local.front() + 11u * local.back() +
-                                                  23u * local[local.size() / 2];
-    auto*& entry = recent[place % recent.size()];
-    if (!entry || entry->first.size() != name.KeyLength() || name.CompareKey(entry->first) != 0) {
-        const auto found = table.find(name);
-        if (found == table.end())
-            return false;
-        entry = &*found; // which stays where it is
-    }
-    index = entry->second;
-    return true;
-}
-
-void CFastInfosetWriter::WriteElementName(unsigned char flag, const std::u16string& prefix,
-                                          const std::u16string& uri, const std::u16string& localName) {
-    const CFIVocabulary::CQName name{prefix, uri, localName};
+void CFastInfosetWriter::WriteElementName(unsigned char flag, const std::u16string* prefix,
+                                          const std::u16string& uri, const std::u16string& localName,
+                                          std::uint64_t namespaceState) {
+    auto& map = m_vocabulary->m_elementNameIndex;
+    RecentName& recent = m_recentNames[PlaceOf(localName) % m_recentNames.size()];
+    if (recent.namespaceState == namespaceState && recent.prefix == prefix &&
+        recent.hasNamespace != uri.empty() && recent.localLength == localName.size() &&
+        SameText(map.TextOf(recent.index).substr(0, localName.size()), localName))
+        return WriteIntegerBit3(flag, recent.index);
+    static const std::u16string none;
+    const std::u16string& shownPrefix = prefix ? *prefix : none;
+    CFIVocabulary::MakeKey(shownPrefix, uri, localName, m_key);
     std::uint32_t index;
-    if (FindName(m_vocabulary->m_elementNameIndex, m_recentElementNames, name, index))
+    if (CFIVocabulary::FindIndex(map, m_key, index)) {
+        recent = {index, namespaceState, prefix, !uri.empty(), localName.size()};
         return WriteIntegerBit3(flag, index);
-    WriteQName(flag | LiteralElementName, prefix, uri, localName);
-    CFIVocabulary::AddValueToMap(name.Key(), m_vocabulary->m_elementNameIndex);
+    }
+    WriteQName(flag | LiteralElementName, shownPrefix, uri, localName);
+    CFIVocabulary::AddValueToMap(m_key, map);
 }
 
 void CFastInfosetWriter::WriteAttributeName(const std::u16string& prefix, const std::u16string& uri,
                                             const std::u16string& localName) {
-    const CFIVocabulary::CQName name{prefix, uri, localName};
+    CFIVocabulary::MakeKey(prefix, uri, localName, m_key);
     std::uint32_t index;
-    if (FindName(m_vocabulary->m_attributeNameIndex, m_recentAttributeNames, name, index))
+    if (CFIVocabulary::FindIndex(m_vocabulary->m_attributeNameIndex, m_key, index))
         return WriteIntegerBit2(0, index);
     WriteQName(LiteralAttributeName, prefix, uri, localName);
-    CFIVocabulary::AddValueToMap(name.Key(), m_vocabulary->m_attributeNameIndex);
+    CFIVocabulary::AddValueToMap(m_key, m_vocabulary->m_attributeNameIndex);
 }
 
 void CFastInfosetWriter::WriteQName(unsigned char literal, const std::u16string& prefix,
@@ -246,7 +283,7 @@ void CFastInfosetWriter::WritePrefixName(const std::u16string& prefix) {
     if (m_vocabulary->FindPrefixNameIndex(prefix, index))
         return WriteIntegerBit2(StringIndex, index);
     WriteIdentifyingString(prefix);
-    m_vocabulary->AddPrefixName(prefix);
+    CFIVocabulary::AddValueToMap(prefix, m_vocabulary->m_prefixNameIndex);
 }
 
 void CFastInfosetWriter::WriteNamespaceName(const std::u16string& uri) {
@@ -256,7 +293,7 @@ void CFastInfosetWriter::WriteNamespaceName(const std::u16string& uri) {
     if (m_vocabulary->FindNamespaceNameIndex(uri, index))
         return WriteIntegerBit2(StringIndex, index);
     WriteIdentifyingString(uri);
-    m_vocabulary->AddNamespaceName(uri);
+    CFIVocabulary::AddValueToMap(uri, m_vocabulary->m_namespaceNameIndex);
 }
 
 void CFastInfosetWriter::WriteLocalName(const std::u16string& localName) {
@@ -264,7 +301,7 @@ void CFastInfosetWriter::WriteLocalName(const std::u16string& localName) {
     if (m_vocabulary->FindLocalNameIndex(localName, index))
         return WriteIntegerBit2(StringIndex, index);
     WriteIdentifyingString(localName);
-    m_vocabulary->AddLocalName(localName);
+    CFIVocabulary::AddValueToMap(localName, m_vocabulary->m_localNameIndex);
 }
 
 void CFastInfosetWriter::WriteAttributeValue(const std::u16string& value, ItemType type) {
@@ -307,40 +344,57 @@ bool CFastInfosetWriter::EncodedCharacterStringBit7(unsigned char bits, const st
 bool CFastInfosetWriter::EncodedCharacterString(const EncodedStringForm& form, unsigned char bits,
                                                 const std::u16string& text, ItemType type) {
     const auto& encoding = m_fiContext->GetEncoding(static_cast<unsigned long>(type));
-    CFastInfosetBinaryData encoded;
-    std::string_view octets;
-    EncodedStringKind kind;
     switch (encoding.m_type) {
     case CFastInfosetContext::EncodingType_Default:
         if (m_fiContext->GetDefaultStringEncoding() != 0)
             Throw<CKzException>(messages::Utf16NotWritten);
-        kind = KindUtf8;
-        m_octets.clear();
-        AppendUtf8(m_octets, text);
-        octets = m_octets;
-        break;
+        return WriteUtf8String(form.length, bits, text);
     case CFastInfosetContext::EncodingType_RestrictedAlphabet:
-        kind = KindRestrictedAlphabet;
         AppendRestrictedAlphabetString(encoding.m_index, text);
-        octets = m_octets;
-        break;
-    case CFastInfosetContext::EncodingType_Algorithm:
-        kind = KindAlgorithm;
+        return WriteEncoded(form, KindRestrictedAlphabet, bits, encoding.m_index, m_octets);
+    case CFastInfosetContext::EncodingType_Algorithm: {
         if (encoding.m_index < AlgorithmHexadecimal || encoding.m_index > AlgorithmCdata)
             Throw<CKzException>(messages::WrittenAlgorithm, encoding.m_index);
+        CFastInfosetBinaryData encoded;
         encoded.SetAsEncodedString(encoding.m_index, text.c_str());
-        octets = AsText(encoded);
-        break;
+        return WriteEncoded(form, KindAlgorithm, bits, encoding.m_index, AsText(encoded));
+    }
     default:
         throw CKzException(form.unknownEncoding);
     }
+}
+
+bool CFastInfosetWriter::WriteEncoded(const EncodedStringForm& form, unsigned kind, unsigned char bits,
+                                      std::uint32_t index, std::string_view octets) {
     if (octets.empty())
         return false;
-    if (kind != KindUtf8) {
-        WriteByte(bits | form.FirstByte(kind, encoding.m_index));
-        bits = form.SecondByte(encoding.m_index);
+    WriteByte(bits | form.FirstByte(kind, index));
+    WriteOctets(form.length, form.SecondByte(index), octets);
+    return true;
+}
+
+/// False, and nothing written, if the text has no bytes.
+bool CFastInfosetWriter::WriteUtf8String(const IntegerRule& rule, unsigned char bits,
+                                         const std::u16string& text) {
+    constexpr std::size_t room = 256;
+    constexpr std::size_t bytesPerUnit = 3;
+    if (text.size() > room / bytesPerUnit) {
+        m_octets.clear();
+        AppendUtf8(m_octets, text);
+        if (!m_octets.empty())
+            WriteOctets(rule, bits, m_octets);
+        return !m_octets.empty();
     }
-    WriteOctets(form.length, bits, octets);
+    // The length goes right in front of the bytes, once it is known.
+    char bytes[IntegerRule::MaxOctets + room];
+    char* const start = bytes + IntegerRule::MaxOctets;
+    const std::size_t count = WriteShortUtf8(start, text);
+    if (count == 0)
+        return false;
+    Byte length[IntegerRule::MaxOctets];
+    const unsigned lengthBytes = rule.Encode(count, bits, length);
+    std::memcpy(start - lengthBytes, length, lengthBytes);
+    m_stream->m_data.Append(reinterpret_cast<const unsigned char*>(start - lengthBytes), lengthBytes + count);
     return true;
 }
 
@@ -351,11 +405,8 @@ void CFastInfosetWriter::AppendRestrictedAlphabetString(std::uint32_t index, con
 }
 
 void CFastInfosetWriter::WriteIdentifyingString(const std::u16string& text) {
-    m_octets.clear();
-    AppendUtf8(m_octets, text);
-    if (m_octets.empty())
+    if (!WriteUtf8String(octetsBit2, 0, text))
         Throw<CKzException>(messages::EmptyNameWritten);
-    WriteOctets(octetsBit2, 0, m_octets);
 }
 
 void CFastInfosetWriter::WriteOctets(const IntegerRule& rule, unsigned char bits, std::string_view octets) {
@@ -376,10 +427,10 @@ void CFastInfosetWriter::WriteIntegerBit4(std::uint32_t value) {
 }
 
 void CFastInfosetWriter::WriteInteger(const IntegerRule& rule, unsigned char bits, std::uint64_t value) {
+    if (value < rule.bands[1].first) // as most are
+        return WriteByte(static_cast<Byte>(bits | (value - 1)));
     Byte octets[IntegerRule::MaxOctets];
     const unsigned count = rule.Encode(value, bits, octets);
-    if (count == 1)
-        return WriteByte(octets[0]);
     m_stream->m_data.Append(octets, count);
 }
 

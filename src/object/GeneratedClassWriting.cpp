@@ -58,7 +58,7 @@ void CXmlGeneratedClass::StartElement(CXmlWriter* writer, bool isRoot, const cha
         if (const std::u16string uri = context.GetDefaultNamespaceURI(); !uri.empty())
             writer->SetDefaultNamespace(uri);
     }
-    writer->StartElement(ElementName(), elementNamespace);
+    writer->StartElement(ElementName(), writer->KeepNamespace(elementNamespace));
     if (isRoot)
         CXmlObjectBase::ToXml_Int(context.GetAdditionalRootAttributes(), writer, false, elementNamespace,
                                   context, isOptional);

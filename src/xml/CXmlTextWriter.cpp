@@ -47,7 +47,8 @@ std::size_t CopyUnescaped(char16_t* to, std::u16string_view text, bool inAttribu
 
 } // namespace
 
-CXmlTextWriter::CXmlTextWriter(CTextStream* stream) : m_stream(NotNull(stream, u"stream")) {
+CXmlTextWriter::CXmlTextWriter(CTextStream* stream)
+    : CXmlWriter(typeid(CXmlTextWriter), WriteLeafAtOnce), m_stream(NotNull(stream, u"stream")) {
     m_stream->Open();
 }
 
@@ -197,6 +198,12 @@ void CXmlTextWriter::WriteEndTag(CXmlWriterContext& context) {
 /// to flush.
 bool CXmlTextWriter::WouldFlush(std::size_t count) const {
     return Buffer().GetLength() + count >= flushThreshold && typeid(*m_stream) != typeid(CTextStream);
+}
+
+bool CXmlTextWriter::WriteLeafAtOnce(CXmlWriter& writer, const std::u16string& name,
+                                     const std::u16string& namespaceUri, const std::u16string& text,
+                                     ItemType) {
+    return static_cast<CXmlTextWriter&>(writer).TryWriteLeaf(name, namespaceUri, text);
 }
 
 /// Writes an element in the namespace of its parent at one go, where nobody could tell the difference. False,

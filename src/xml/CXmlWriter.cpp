@@ -6,13 +6,14 @@
 #include "xml/NamespaceMap.h"
 #include "xml/XmlNamespaces.h"
 
-#include <KzXmlLib10/xml/CXmlTextWriter.h>
-
-#include <typeinfo>
-
 namespace KzXmlLib10 {
 
 CXmlWriter::CXmlWriter() : CInstanceMonitor(u"CXmlWriter"), m_namespaces{{xmlNamespace, u"xml"}} {}
+
+CXmlWriter::CXmlWriter(const std::type_info& writerClass, LeafOperation writeLeaf) : CXmlWriter() {
+    m_leafClass = &writerClass;
+    m_writeLeaf = writeLeaf;
+}
 
 CXmlWriter::~CXmlWriter() = default;
 
@@ -39,9 +40,7 @@ void CXmlWriter::AddNamespace(const std::u16string& alias, const std::u16string&
 
 void CXmlWriter::WriteLeaf(const std::u16string& name, const std::u16string& namespaceUri,
                            const std::u16string& text, ItemType type) {
-    // A class derived from it may override any of the three.
-    if (typeid(*this) == typeid(CXmlTextWriter) &&
-        static_cast<CXmlTextWriter&>(*this).TryWriteLeaf(name, namespaceUri, text))
+    if (m_leafClass && *m_leafClass == typeid(*this) && m_writeLeaf(*this, name, namespaceUri, text, type))
         return;
     StartElement(name, namespaceUri);
     WriteText(text, type);

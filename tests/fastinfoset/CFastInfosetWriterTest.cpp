@@ -203,6 +203,53 @@ TEST(CFastInfosetWriter, ChecksTheOrderOfCalls) {
         EXPECT_EQ(InvalidState([&] { Write(words); }), "There is no open element to write to");
 }
 
+TEST(CFastInfosetWriter, WritesALeafAsThreeOperationsWould) {
+    const CXmlSerializationContext numbers = WithEncoding({ByAlphabet, 1}); // all texts have to be numbers
+    const std::u16string names[] = {u"e", u"name", u"e\1b", u"a_long_name_of_an_element"};
+    const std::u16string texts[] = {u"",
+                                    u"1",
+                                    u"12345",
+                                    u"1234567",
+                                    u"x",
+                                    u"\u00e9",
+                                    u"\xD800",
+                                    u"1",
+                                    std::u16string(90, u'7'),
+                                    std::u16string(300, u'\u20ac')};
+    const auto write = [](CXmlWriter& writer, bool atOnce, const std::u16string& name, const char16_t* uri,
+                          const std::u16string& text) {
+        if (atOnce)
+            return writer.WriteLeaf(name, uri, text, ItemType_string);
+        writer.StartElement(name, uri);
+        writer.WriteText(text, ItemType_string);
+        writer.EndElement();
+    };
+    const auto written = [&](bool atOnce, const char* before, const char16_t* uri,
+                             const CXmlSerializationContext& context) {
+        std::string failures;
+        const ScriptedObject object([&](CXmlWriter& writer) {
+            RunScript(writer, before);
+            for (std::size_t i = 0; i < 16; ++i)
+                for (const std::u16string& text : texts) {
+                    const std::u16string name = names[i % 4] + std::u16string(i / 4, u'x');
+                    const std::string failure = Failure([&] { write(writer, atOnce, name, uri, text); });
+                    if (failure.find("Restricted Alphabet") != std::string::npos)
+                        RunScript(writer, "> <f >"); // the element has stayed open
+                    failures += failure;
+                }
+            for (const auto* unnamed : {u"", u"\xD800"})
+                failures += Failure([&] { write(writer, atOnce, unnamed, uri, u"1"); });
+        });
+        return failures + Failure([&] { failures += Hex(object.Written(context)); }) + failures;
+    };
+    for (const char* before : {"", "<a ", "<a @b=1 ", "<a '1 <b > ", "<{urn:x}a ", "+=urn:x <{urn:x}a ",
+                               "+p=urn:x <{urn:y}a +q=urn:y "})
+        for (const char16_t* uri : {u"", u"urn:x", u"urn:y"})
+            for (const CXmlSerializationContext* context : {&defaults, &numbers})
+                EXPECT_EQ(written(true, before, uri, *context), written(false, before, uri, *context))
+                    << before;
+}
+
 TEST(CFastInfosetWriter, CompressesAndSavesDocuments) {
     const ScriptedObject object("<a '" + std::string(1000, 'x') + " >");
     const std::string plain = FromBinary(object.Written());

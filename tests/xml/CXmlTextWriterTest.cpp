@@ -258,7 +258,7 @@ TEST(CXmlTextWriter, WritesALeafAsThreeOperationsWould) {
                                     u"<",
                                     u"\0"s,
                                     u"seven77\0x"s,
-                                    std::u16string(4'000, u'>'),
+                                    std::u16string(1'100, u'>'),
                                     std::u16string(300, u'&') + u"\u00e9"};
     for (const auto* before : {"", "<r ", "<r 'x ", "<r <s <t > ", "<r nil <{urn:x}s ", "+=urn:x <{urn:x}r ",
                                "+p=urn:x <{urn:x}r <s ", "+p=urn:x <{urn:x}r +p=urn:y +q=urn:x ",
@@ -286,7 +286,7 @@ TEST(CXmlTextWriter, WritesALeafAsThreeOperationsWould) {
                 }
                 EXPECT_EQ(leaves.Text(), calls.Text()) << before;
                 EXPECT_EQ(streams[0].log, streams[1].log) << before;
-                EXPECT_GT(streams[1].log.size(), 25u);
+                EXPECT_GT(streams[1].log.size(), 10u);
             }
 }
 

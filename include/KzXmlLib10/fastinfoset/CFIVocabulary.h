@@ -4,7 +4,6 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <map>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -103,27 +102,35 @@ private:
     friend class CFastInfosetReader;
     friend class CFastInfosetWriter;
 
-    /// A qualified name as it is looked up: the parts of its key, which need not be put together for that.
-    struct CQName {
-        std::u16string_view prefix;
-        std::u16string_view namespaceName;
-        std::u16string_view localName;
+    /// Texts and their indices: 1, 2 and so on, in the order in which they came.
+    ///
+    /// A hash table whose texts lie one behind the other, so that a new one costs no allocation of its own.
+    class QUILLON_EXPORT IndexMap {
+    public:
+        IndexMap();
 
-        /// Local name, namespace name and prefix, separated by the code unit 1.
-        std::u16string Key() const;
-        int CompareKey(std::u16string_view key) const;
-        std::size_t KeyLength() const { return localName.size() + namespaceName.size() + prefix.size() + 2; }
+        /// The index of a text, or 0.
+        std::uint32_t Find(std::u16string_view text) const;
+        /// Enters a text that is not there, unless the table is full.
+        void Add(std::u16string_view text);
+        /// The text of an index that Find has given. Valid until the next Add.
+        std::u16string_view TextOf(std::uint32_t index) const;
+
+    private:
+        struct Entry {
+            std::size_t start;
+            std::size_t length;
+            std::uint64_t hash;
+        };
+
+        std::uint64_t HashOf(std::u16string_view text) const;
+        void Place(std::uint32_t index);
+
+        std::u16string m_texts;
+        std::vector<Entry> m_entries;
+        std::vector<std::uint32_t> m_slots; ///< indices, or 0; twice as many as entries at least
+        std::uint64_t m_seed;
     };
-
-    /// By length, then by bytes, since nobody sees the order.
-    struct KeyOrder {
-        using is_transparent = void;
-        bool operator()(const std::u16string& a, const std::u16string& b) const;
-        bool operator()(const std::u16string& key, const CQName& name) const;
-        bool operator()(const CQName& name, const std::u16string& key) const;
-    };
-
-    using IndexMap = std::map<std::u16string, std::uint32_t, KeyOrder>;
 
     CFIVocabulary(const CFIVocabulary& other);
     CFIVocabulary& operator=(const CFIVocabulary& other);
@@ -131,10 +138,14 @@ private:
     bool FindPrefixNameIndex(const std::u16string& prefix, std::uint32_t& index) const;
     bool FindNamespaceNameIndex(const std::u16string& namespaceName, std::uint32_t& index) const;
     bool FindLocalNameIndex(const std::u16string& localName, std::uint32_t& index) const;
-    static bool FindIndex(const IndexMap& map, const std::u16string& key, std::uint32_t& index);
+    static bool FindIndex(const IndexMap& map, std::u16string_view key, std::uint32_t& index);
+    /// Makes the text that stands for a qualified name: local name, namespace name and prefix, separated by
+    /// the code unit 1.
+    static void MakeKey(std::u16string_view prefix, std::u16string_view namespaceName,
+                        std::u16string_view localName, std::u16string& key);
 
-    static void AddValueToMap(const std::u16string& value, IndexMap& map);
-    static void AddValueToVector(const std::u16string& value, std::vector<std::u16string>& vector);
+    static void AddValueToMap(std::u16string_view value, IndexMap& map);
+    static void AddValueToVector(std::u16string_view value, std::vector<std::u16string>& vector);
     static void AddQNameToVector(std::uint32_t prefix, std::uint32_t namespaceName, std::uint32_t localName,
                                  std::vector<CQNameParts>& vector);
     void AddQName(const std::u16string& prefix, const std::u16string& namespaceName,

@@ -60,10 +60,21 @@ public:
 
 private:
     friend class CXmlObjectBase;
+    /// An element name that was found in its table. In one namespace state the prefix tells the namespace,
+    /// so that only the local name needs to be compared.
+    struct RecentName {
+        std::uint32_t index = 0;
+        std::uint64_t namespaceState = 0;
+        const std::u16string* prefix = nullptr;
+        bool hasNamespace = false;
+        std::size_t localLength = 0;
+    };
 
-    /// Entries of a table of names that were found last, each at a place that its name tells: nearly all
-    /// elements have a name that was there before.
-    using RecentNames = std::array<const std::pair<const std::u16string, std::uint32_t>*, 64>;
+    static bool WriteLeafAtOnce(CXmlWriter& writer, const std::u16string& name,
+                                const std::u16string& namespaceUri, const std::u16string& text,
+                                ItemType type);
+    bool TryWriteLeaf(const std::u16string& name, const std::u16string& namespaceUri,
+                      const std::u16string& text, ItemType type);
 
     void WriteHeader(FInfoDecl declaration);
     void WriteDocumentEnd();
@@ -73,13 +84,10 @@ private:
     void WriteNamespaceAttribute(const std::u16string& prefix, const std::u16string& uri);
     void CloseStartTag();
 
-    void WriteElementName(unsigned char flag, const std::u16string& prefix, const std::u16string& uri,
-                          const std::u16string& localName);
+    void WriteElementName(unsigned char flag, const std::u16string* prefix, const std::u16string& uri,
+                          const std::u16string& localName, std::uint64_t namespaceState);
     void WriteAttributeName(const std::u16string& prefix, const std::u16string& uri,
                             const std::u16string& localName);
-    /// Looks a name up in a table of the vocabulary.
-    template <class Table, class Name>
-    static bool FindName(const Table& table, RecentNames& recent, const Name& name, std::uint32_t& index);
     void WriteQName(unsigned char literal, const std::u16string& prefix, const std::u16string& uri,
                     const std::u16string& localName);
     void WritePrefixName(const std::u16string& prefix);
@@ -92,9 +100,13 @@ private:
     bool EncodedCharacterStringBit7(unsigned char bits, const std::u16string& text, ItemType type);
     bool EncodedCharacterString(const fastinfoset::EncodedStringForm& form, unsigned char bits,
                                 const std::u16string& text, ItemType type);
+    bool WriteEncoded(const fastinfoset::EncodedStringForm& form, unsigned kind, unsigned char bits,
+                      std::uint32_t index, std::string_view octets);
     void AppendRestrictedAlphabetString(std::uint32_t index, const std::u16string& text);
 
     void WriteIdentifyingString(const std::u16string& text);
+    bool WriteUtf8String(const fastinfoset::IntegerRule& rule, unsigned char bits,
+                         const std::u16string& text);
     void WriteOctets(const fastinfoset::IntegerRule& rule, unsigned char bits, std::string_view octets);
     void WriteIntegerBit2(unsigned char bits, std::uint32_t value);
     void WriteIntegerBit3(unsigned char bits, std::uint32_t value);
@@ -107,8 +119,9 @@ private:
     std::unique_ptr<CXmlWriterContext> m_pendingContext;
     bool m_pendingTerminator = false;
     std::unique_ptr<CFIVocabulary> m_vocabulary;
-    RecentNames m_recentElementNames{};
-    RecentNames m_recentAttributeNames{};
+    /// Each at a place that its local name tells: nearly all elements have a name that was there before.
+    std::array<RecentName, 128> m_recentNames;
+    std::u16string m_key; ///< of the name that is looked up, kept for its memory
     /// The bytes of the string that is being written, kept for their memory.
     std::string m_octets;
 };

@@ -72,8 +72,9 @@ public:
     void CloseStartTag();
 
 private:
-    friend class CXmlWriter;
-
+    static bool WriteLeafAtOnce(CXmlWriter& writer, const std::u16string& name,
+                                const std::u16string& namespaceUri, const std::u16string& text,
+                                ItemType type);
     bool TryWriteLeaf(const std::u16string& name, const std::u16string& namespaceUri,
                       const std::u16string& text);
     bool WouldFlush(std::size_t count) const;

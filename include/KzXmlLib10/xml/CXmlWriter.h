@@ -7,6 +7,7 @@
 #include <map>
 #include <memory>
 #include <string>
+#include <typeinfo>
 
 namespace KzXmlLib10 {
 
@@ -71,6 +72,10 @@ public:
     void WriteLeaf(const std::u16string& name, const std::u16string& namespaceUri, const std::u16string& text,
                    ItemType type);
 
+    /// A namespace as a string, which the writer keeps until the next call, to spare an allocation for each
+    /// element.
+    const std::u16string& KeepNamespace(const char16_t* uri) { return m_keptNamespace = uri; }
+
 protected:
     CXmlWriter();
 
@@ -130,6 +135,8 @@ protected:
         /// Remembers the prefix in the name of the element, or null for none. Restart with the same namespace
         /// keeps it.
         void SetPrefix(const std::u16string* prefix);
+        /// The namespace state in which the prefix was found, which no other state shares its number with.
+        std::uint64_t StateOfPrefix() const { return m_stateOfPrefix; }
         const std::u16string* m_prefix = nullptr;
         /// How much of the name goes into text, where a name ends at its first zero.
         std::size_t m_nameLength = 0;
@@ -143,6 +150,15 @@ protected:
         bool m_ownsMap = false;
         std::uint64_t m_stateOfPrefix = 0; ///< the namespace state in which `m_prefix` was found
     };
+
+    /// Writes a leaf at one go. False, and nothing written, for one that it is not made for.
+    using LeafOperation = bool (*)(CXmlWriter& writer, const std::u16string& name,
+                                   const std::u16string& namespaceUri, const std::u16string& text,
+                                   ItemType type);
+
+    /// For a writer whose leaves WriteLeaf can write at one go. It does not in a class derived from
+    /// `writerClass`, which may override what it stands for.
+    CXmlWriter(const std::type_info& writerClass, LeafOperation writeLeaf);
 
     /// A prefix, and whether it was made just now and so has no declaration yet.
     struct BoundPrefix {
@@ -204,6 +220,9 @@ private:
                                                    const std::u16string& namespaceUri);
     void DropSpareContext();
 
+    std::u16string m_keptNamespace;
+    const std::type_info* m_leafClass = nullptr;
+    LeafOperation m_writeLeaf = nullptr;
     /// Contexts that are done with, chained by their parents: there are few levels and many elements.
     std::unique_ptr<CXmlWriterContext> m_spareContexts;
 };
