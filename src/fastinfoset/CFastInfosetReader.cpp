@@ -35,12 +35,6 @@ std::string_view AsText(std::span<const Byte> octets) {
     return {reinterpret_cast<const char*>(octets.data()), octets.size()};
 }
 
-/// Deliberate: malformed UTF-8 ends the text.
-void DecodeUtf8(std::span<const Byte> octets, std::u16string& text) {
-    text.clear();
-    AppendUtf16(text, AsText(octets));
-}
-
 bool IsElement(Byte item) { return (item & ElementMask) == 0; }
 
 bool IsOneOf(Byte byte, Byte markWithParts) { return (byte & ~PartsMask) == markWithParts; }
@@ -343,8 +337,8 @@ std::uint32_t CFastInfosetReader::ParseIdentifyingString(CFIVocabulary::CFIStrin
         text = EntryAt(table.m_values, index);
         return static_cast<std::uint32_t>(index);
     }
-    DecodeUtf8(ReadBytes(ReadInteger(octetsBit2, first)), text);
-    text.resize(std::min(text.find(u'\0'), text.size())); // Deliberate: names end at a zero.
+    DecodeUtf8(ReadBytes(ReadInteger(octetsBit2, first)));
+    text = m_value.substr(0, m_value.find(u'\0')); // Deliberate: names end at a zero.
     CFIVocabulary::AddValueToVector(text, table.m_values);
     return static_cast<std::uint32_t>(table.m_values.size());
 }
@@ -369,7 +363,7 @@ void CFastInfosetReader::ParseEncodedString(const EncodedStringForm& form, Byte 
     if (kind == KindUtf16BE)
         Throw<CKzException>(messages::Utf16NotRead);
     if (kind == KindUtf8)
-        return DecodeUtf8(ReadBytes(ReadInteger(form.length, first)), m_value);
+        return DecodeUtf8(ReadBytes(ReadInteger(form.length, first)));
     const Byte second = ReadByte();
     const unsigned number = form.NumberIn(first, second);
     const std::span<const Byte> octets = ReadBytes(ReadInteger(form.length, second));
@@ -383,15 +377,30 @@ void CFastInfosetReader::ParseRestrictedAlphabet(std::uint32_t number, std::span
     const std::vector<std::u16string>& alphabets = m_vocabulary->m_alphabets;
     if (number > alphabets.size())
         Throw<CKzException>(messages::ReadAlphabetSize);
-    m_value = UnpackRestrictedAlphabetString(alphabets[number - 1], octets);
+    m_long = UnpackRestrictedAlphabetString(alphabets[number - 1], octets);
+    m_value = m_long;
 }
 
 void CFastInfosetReader::ParseAlgorithm(std::uint32_t number, std::span<const Byte> octets) {
     if (number == AlgorithmCdata)
-        return DecodeUtf8(octets, m_value);
+        return DecodeUtf8(octets);
     CFastInfosetBinaryData data;
     data.SetBuffer(octets.data(), octets.size());
-    m_value = data.GetAsString(number);
+    m_long = data.GetAsString(number);
+    m_value = m_long;
+}
+
+/// Deliberate: malformed UTF-8 ends the text.
+void CFastInfosetReader::DecodeUtf8(std::span<const Byte> octets) {
+    const std::string_view bytes = AsText(octets);
+    if (bytes.size() > std::size(m_short)) {
+        m_long.clear();
+        AppendUtf16(m_long, bytes);
+        m_value = m_long;
+        return;
+    }
+    const bool isAscii = WriteAscii(m_short, bytes);
+    m_value = {m_short, isAscii ? bytes.size() : WriteUtf16(m_short, bytes).units};
 }
 
 /// A target and its data.
@@ -434,7 +443,11 @@ void CFastInfosetReader::SkipEncodedString(Byte first) {
 
 void CFastInfosetReader::SkipOctets() { ReadBytes(ReadInteger(octetsBit2, ReadByte())); }
 
-Byte CFastInfosetReader::ReadByte() { return ReadBytes(1).front(); }
+Byte CFastInfosetReader::ReadByte() {
+    if (m_next == m_end)
+        Throw<CKzException>(messages::UnexpectedEnd);
+    return *m_next++;
+}
 
 std::span<const Byte> CFastInfosetReader::ReadBytes(std::uint64_t count) {
     if (count > static_cast<std::uint64_t>(m_end - m_next))
@@ -446,6 +459,8 @@ std::span<const Byte> CFastInfosetReader::ReadBytes(std::uint64_t count) {
 
 /// Reads an integer that starts in a byte read already.
 std::uint64_t CFastInfosetReader::ReadInteger(const IntegerRule& rule, Byte first) {
+    if (const Byte pattern = first & rule.mask; pattern < rule.bands[1].mark) // as most are
+        return pattern + 1u;
     const Band* band = rule.AnnouncedBy(first);
     if (!band)
         throw CKzException(rule.failure);

@@ -78,6 +78,7 @@ private:
     std::uint32_t ParseIdentifyingString(CFIVocabulary::CFIStringTable& table, std::u16string& text);
     std::u16string_view ParseNonIdentifyingString();
     void ParseEncodedString(const fastinfoset::EncodedStringForm& form, fastinfoset::Byte first);
+    void DecodeUtf8(std::span<const fastinfoset::Byte> octets);
     void ParseRestrictedAlphabet(std::uint32_t number, std::span<const fastinfoset::Byte> octets);
     void ParseAlgorithm(std::uint32_t number, std::span<const fastinfoset::Byte> octets);
 
@@ -92,7 +93,9 @@ private:
     std::u16string m_prefix;
     std::u16string m_namespaceName;
     std::u16string m_localName;
-    std::u16string m_value;
+    std::u16string_view m_value; ///< the string read last, which lies in one of these
+    char16_t m_short[256];
+    std::u16string m_long;
     std::unique_ptr<CFIVocabulary> m_vocabulary;
     std::vector<const SharedName*> m_elementNames;
     std::vector<const SharedName*> m_attributeNames;
