@@ -1,6 +1,5 @@
 #pragma once
 
-#include <charconv>
 #include <cstddef>
 #include <iterator>
 #include <string>
@@ -9,12 +8,19 @@ namespace KzXmlLib10 {
 
 /// Appends a number in decimal, with zeros in front up to `width` digits.
 inline void AppendNumber(std::u16string& out, unsigned long long number, std::size_t width = 1) {
-    char digits[20];
-    char* const end = std::to_chars(digits, std::end(digits), number).ptr;
-    const std::size_t length = static_cast<std::size_t>(end - digits);
-    if (length < width)
-        out.append(width - length, u'0');
-    out.append(std::begin(digits), end);
+    if (number < 100 && width == 2) { // as most are
+        out += static_cast<char16_t>(u'0' + number / 10);
+        out += static_cast<char16_t>(u'0' + number % 10);
+        return;
+    }
+    char16_t digits[20];
+    char16_t* const end = std::end(digits);
+    char16_t* begin = end;
+    for (; number > 0; number /= 10)
+        *--begin = static_cast<char16_t>(u'0' + number % 10);
+    while (static_cast<std::size_t>(end - begin) < width)
+        *--begin = u'0';
+    out.append(begin, end);
 }
 
 /// Appends the fraction of a second: nothing if it is zero, otherwise a point and the groups of three digits,
