@@ -279,6 +279,9 @@ TEST(CDateTime, TheLeapDayCountsInJanuaryAndFebruaryOnly) {
     ExpectRows({"2000-01-01 -> 2", "2000-02-29 -> 61", "2000-03-01 -> 60", "2001-03-01 -> 60",
                 "1900-01-01 -> 1", "2001-12-31T00:00:00 -> 365"},
                [](const char16_t* text) { return std::to_string(Moment(text).GetDayOfYear()); });
+    constexpr int lengths[] = {31, 28, 31, 30, 31, 30, 31, 31, 30, 31, 30, 31};
+    for (int month = 1, days = 0; month <= 12; days += lengths[month++ - 1])
+        EXPECT_EQ(CDateTime(2001, month, 1).GetDayOfYear(), days + 1) << month;
     EXPECT_EQ(InvalidState([] { CDateTime(CDateTime::DTType_gMonthDay).GetDayOfYear(); }),
               "Failed to GetDayOfYear. Invalid Date Type: gMonthDay.");
     CDateTime value(2001, 5, 12);
