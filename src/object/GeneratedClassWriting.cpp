@@ -34,7 +34,7 @@ void CXmlGeneratedClass::WriteObject(CXmlWriter* writer, bool isRoot, const char
     const bool hasTag = GetClassInfo()->GetElementType() == XmlElementType_Element;
     if (hasTag)
         StartElement(writer, isRoot, elementNamespace, context, isOptional);
-    const auto* nillable = dynamic_cast<const INillable*>(this);
+    const INillable* nillable = AsNillable(*GetClassInfo());
     if (nillable && nillable->IsNil()) {
         writer->WriteXsiNil();
     } else {
