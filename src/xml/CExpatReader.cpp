@@ -58,6 +58,7 @@ void CExpatReader::Initialize(const char* protocolEncoding) {
     XML_SetElementHandler(parser, StartElementHandler, EndElementHandler);
     XML_SetNamespaceDeclHandler(parser, StartNamespaceDeclHandler, EndNamespaceDeclHandler);
     XML_SetCharacterDataHandler(parser, CharacterDataHandler);
+    XML_SetEntityDeclHandler(parser, EntityDeclHandler);
     if (!m_document->m_context->GetStripCDATA())
         XML_SetCdataSectionHandler(parser, StartCdataHandler, EndCdataHandler);
 }
@@ -199,7 +200,8 @@ void XMLCALL CExpatReader::StartNamespaceDeclHandler(void* reader, const XML_Cha
 void XMLCALL CExpatReader::EndNamespaceDeclHandler(void*, const XML_Char*) {}
 
 /// Deliberate: all carriage returns are left out. Expat has normalised line ends already, so one that comes
-/// here came from a character reference, each of which is a text of its own.
+/// here came from a character reference. Each of those is a text of its own, unless it stands in the text of
+/// an entity.
 void XMLCALL CExpatReader::CharacterDataHandler(void* reader, const XML_Char* text, int length) {
     auto& self = *static_cast<CExpatReader*>(reader);
     const std::string_view piece(text, static_cast<std::size_t>(length));
@@ -209,6 +211,23 @@ void XMLCALL CExpatReader::CharacterDataHandler(void* reader, const XML_Char* te
         self.m_text.AppendUtf8(piece);
     else
         Handle(reader, [piece](CExpatReader& reading) { reading.AppendText(piece); });
+}
+
+/// The same for a text that may hold carriage returns in its midst.
+void XMLCALL CExpatReader::MixedDataHandler(void* reader, const XML_Char* text, int length) {
+    for (std::string_view left(text, static_cast<std::size_t>(length)); !left.empty();) {
+        const std::string_view line = left.substr(0, left.find('\r'));
+        if (!line.empty())
+            CharacterDataHandler(reader, line.data(), static_cast<int>(line.size()));
+        left.remove_prefix(std::min(line.size() + 1, left.size()));
+    }
+}
+
+void XMLCALL CExpatReader::EntityDeclHandler(void* reader, const XML_Char*, int, const XML_Char* text,
+                                             int length, const XML_Char*, const XML_Char*, const XML_Char*,
+                                             const XML_Char*) {
+    if (text && std::string_view(text, static_cast<std::size_t>(length)).find('\r') != std::string_view::npos)
+        XML_SetCharacterDataHandler(static_cast<CExpatReader*>(reader)->m_parser.get(), MixedDataHandler);
 }
 
 void XMLCALL CExpatReader::StartCdataHandler(void* reader) {

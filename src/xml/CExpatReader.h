@@ -25,7 +25,7 @@ namespace KzXmlLib10 {
 ///
 /// Lives on the stack of the load. Encodings are expat's business. No handler is set for comments, processing
 /// instructions, document types and external entities: the first three leave no trace, the last are never
-/// opened.
+/// opened. Declarations of entities are only looked at for carriage returns.
 ///
 /// No exception crosses expat, which is C: what a handler throws is kept, ends the parse and leaves
 /// ParseChunk.
@@ -53,6 +53,11 @@ private:
     static void XMLCALL StartNamespaceDeclHandler(void* reader, const XML_Char* prefix, const XML_Char* uri);
     static void XMLCALL EndNamespaceDeclHandler(void* reader, const XML_Char* prefix);
     static void XMLCALL CharacterDataHandler(void* reader, const XML_Char* text, int length);
+    static void XMLCALL MixedDataHandler(void* reader, const XML_Char* text, int length);
+    static void XMLCALL EntityDeclHandler(void* reader, const XML_Char* name, int isParameter,
+                                          const XML_Char* text, int length, const XML_Char* base,
+                                          const XML_Char* systemId, const XML_Char* publicId,
+                                          const XML_Char* notation);
     static void XMLCALL StartCdataHandler(void* reader);
     static void XMLCALL EndCdataHandler(void* reader);
 

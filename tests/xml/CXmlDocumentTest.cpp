@@ -30,6 +30,8 @@ TEST(CXmlDocument, BuildsTheTreeOfADocument) {
          "<?pi x?><!--c--><!DOCTYPE a [<!ENTITY e 'E'>]><a><!--c-->&e;<?pi?>&lt;</a><!--c--> -> a[\"E<\"]",
          // Line ends are normalised by the parser; what is written as a reference is dropped here.
          "<a>1\r\n2&#13;3&#13;&#13;4&#13;</a> -> a[\"1\\n234\"]", "<a>&#13;</a> -> a",
+         "<!DOCTYPE a [<!ENTITY e '&#13;1&#13;\n<b>2&#13;</b>&#13;'>]><a>&e;&e;</a> -> a[\"1\\n1\\n\" "
+         "b[\"2\"] b[\"2\"]]",
          "<a b='1&#13;2'/> -> a[@b=1\\r2]", "<a>x<![CDATA[<y>]]>z<![CDATA[]]></a> -> a[\"x<y>z\"]",
          // External entities are left alone.
          "<!DOCTYPE a SYSTEM 'file:///dev/null' [<!ENTITY e SYSTEM 'file:///etc/hostname'>]><a>1&e;2</a> -> "
