@@ -28,9 +28,10 @@ template <class Collection>
 void RemoveAll(Collection& collection) {
     constexpr int patience = 1'000'000;
     int inVain = 0;
-    for (int count; (count = collection.GetCount()) > 0;) {
+    const auto countItems = [&] { return collection.Collection::GetCount(); }; // whatever is derived from it
+    for (int count; (count = countItems()) > 0;) {
         collection.Remove(0);
-        if (collection.GetCount() >= count && ++inVain == patience)
+        if (countItems() >= count && ++inVain == patience)
             Throw<CKzInvalidStateException>(messages::ItemsStay, count);
     }
 }

@@ -19,6 +19,21 @@ namespace KzXmlLib10Data {
 
 using namespace KzXmlLib10;
 
+namespace {
+
+CSmartPtr<CXmlObjectBase> ObjectIn(const KzVariant& value) {
+    return value.GetTypeAsEnum() == ItemType_Invalid ? nullptr : value.GetXmlObject();
+}
+
+CSmartPtr<CXmlObjectBase> RequireObjectIn(const KzVariant& value, const std::u16string& elementName) {
+    CSmartPtr<CXmlObjectBase> object = ObjectIn(value);
+    if (!object)
+        Throw<CKzInvalidStateException>(messages::MandatoryMemberIsNull, elementName);
+    return object;
+}
+
+} // namespace
+
 bool CElementInfo::SeekElement(const CXmlSerializationContext& context, CXmlElement** current) const {
     while (!IsThisElement(context, *current)) {
         if (context.GetIgnoreMissingMandatoryElements())
@@ -98,23 +113,21 @@ void CElementInfo::StoreObject(CXmlGeneratedClass* object, CXmlObjectBase* child
 CSmartPtr<CXmlObjectBase> CElementInfo::ReadObject(const CXmlGeneratedClass* object) const {
     KzVariant value;
     ReadProperty(object, value);
-    return value.GetTypeAsEnum() == ItemType_Invalid ? nullptr : value.GetXmlObject();
+    return ObjectIn(value);
 }
 
 CSmartPtr<CXmlObjectBase> CElementInfo::HeldObject(const CXmlGeneratedClass* object) const {
-    CSmartPtr<CXmlObjectBase> child = ReadObject(object);
-    if (!child)
-        Throw<CKzInvalidStateException>(messages::MandatoryMemberIsNull, m_elementName);
-    return child;
+    KzVariant value;
+    ReadProperty(object, value);
+    return RequireObjectIn(value, m_elementName);
 }
 
 CSmartPtr<CXmlCollectionBase> CElementInfo::HeldCollection(const CXmlGeneratedClass* object) const {
     KzVariant value;
     ReadProperty(object, value);
+    const CSmartPtr<CXmlObjectBase> held = RequireObjectIn(value, m_elementName);
     if (value.GetTypeAsEnum() == ItemType_xmlCollection) // needs no look at the class
-        if (const CSmartPtr<CXmlCollectionBase> collection = value.GetXmlCollection())
-            return collection;
-    const CSmartPtr<CXmlObjectBase> held = HeldObject(object);
+        return value.GetXmlCollection();
     auto* collection = dynamic_cast<CXmlCollectionBase*>(static_cast<CXmlObjectBase*>(held));
     if (!collection)
         Throw<CKzInvalidStateException>(messages::NotACollection, m_elementName);

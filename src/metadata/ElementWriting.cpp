@@ -76,24 +76,19 @@ bool CElementInfo::ElementToXmlCls(const CXmlSerializationContext& context, cons
 
 bool CElementInfo::ElementToXmlCol(const CXmlSerializationContext& context, const CXmlGeneratedClass* object,
                                    CXmlWriter* writer) const {
-    return WriteCollection(context, HeldCollection(object), writer);
-}
-
-bool CElementInfo::CheckedElementToXmlCol(const CXmlSerializationContext& context,
-                                          const CXmlGeneratedClass* object, CXmlWriter* writer) const {
     const CSmartPtr<CXmlCollectionBase> collection = HeldCollection(object);
-    if (!context.GetIgnoreInvalidCollectionCounts())
-        collection->ValidateCount(context);
-    return WriteCollection(context, collection, writer);
-}
-
-bool CElementInfo::WriteCollection(const CXmlSerializationContext& context,
-                                   const CXmlCollectionBase* collection, CXmlWriter* writer) const {
     if (collection->GetCount() < 1)
         return false;
     const CXmlObjectBase* base = collection->GetBase();
     base->ToXml_Int(writer, false, m_elementNamespace.c_str(), context, false);
     return true;
+}
+
+bool CElementInfo::CheckedElementToXmlCol(const CXmlSerializationContext& context,
+                                          const CXmlGeneratedClass* object, CXmlWriter* writer) const {
+    if (!context.GetIgnoreInvalidCollectionCounts())
+        HeldCollection(object)->ValidateCount(context);
+    return ElementToXmlCol(context, object, writer);
 }
 
 void CElementInfo::PseudoItemAttributesToXml(const CXmlSerializationContext& context,

@@ -3,6 +3,7 @@
 #include <KzXmlLib10/object/CXmlGeneratedClass.h>
 
 #include "object/Messages.h"
+#include "object/NotNull.h"
 #include "object/RecursionLevel.h"
 #include "object/Throw.h"
 
@@ -31,10 +32,11 @@ void CXmlGeneratedClass::ToXml_Int(CXmlWriter* writer, bool isRoot, const char16
 
 void CXmlGeneratedClass::WriteObject(CXmlWriter* writer, bool isRoot, const char16_t* elementNamespace,
                                      const CXmlSerializationContext& context, bool isOptional) const {
-    const bool hasTag = GetClassInfo()->GetElementType() == XmlElementType_Element;
+    const CParentElementInfo& info = *GetClassInfo();
+    const bool hasTag = info.GetElementType() == XmlElementType_Element;
     if (hasTag)
         StartElement(writer, isRoot, elementNamespace, context, isOptional);
-    const INillable* nillable = AsNillable(*GetClassInfo());
+    const INillable* nillable = AsNillable(info);
     if (nillable && nillable->IsNil()) {
         writer->WriteXsiNil();
     } else {
@@ -58,7 +60,8 @@ void CXmlGeneratedClass::StartElement(CXmlWriter* writer, bool isRoot, const cha
         if (const std::u16string uri = context.GetDefaultNamespaceURI(); !uri.empty())
             writer->SetDefaultNamespace(uri);
     }
-    writer->StartElement(ElementName(), writer->KeepNamespace(elementNamespace));
+    writer->StartElement(ElementName(),
+                         writer->KeepNamespace(NotNull(elementNamespace, u"elementNamespace")));
     if (isRoot)
         CXmlObjectBase::ToXml_Int(context.GetAdditionalRootAttributes(), writer, false, elementNamespace,
                                   context, isOptional);

@@ -31,10 +31,26 @@ TEST(RepeatedMember, TakesOneRunAndChecksItsCount) {
     EXPECT_EQ(Read(last, u"<r><b>1</b><a>1</a><u/><a>2</a><u/></r>", unknownElements), u"1|[{1}{2}]");
 }
 
+/// Notes what descriptors ask of it.
+class CWatched : public CModelObject {
+public:
+    using CModelObject::CModelObject;
+    void AccessProperty(int propertyIndex, bool read, KzVariant& value) override {
+        calls += (read ? "read " : "write ") + std::to_string(propertyIndex) + ", ";
+        CModelObject::AccessProperty(propertyIndex, read, value);
+    }
+    std::string calls;
+};
+
 TEST(RepeatedMember, IsCountedOnWritingInASequence) {
     Model item(u"item");
     Model r(u"r");
     r.Collection(u"a", item, 1);
+    CWatched watched(r, u"r"); // the count and the items are two reads of their own
+    watched.FromXml(u"<r><a/></r>", {});
+    EXPECT_EQ(std::exchange(watched.calls, ""), "read 0, ");
+    EXPECT_EQ(Write(watched) + Write(watched, invalidCounts), u"<r><a/></r><r><a/></r>");
+    EXPECT_EQ(watched.calls, "read 0, read 0, read 0, ");
     EXPECT_EQ(Write(*r.New()),
               FailedToWrite(u"r", u"The Minimum number of [a] elements allowed in this collection is 1"));
     EXPECT_EQ(Write(*r.New(), invalidCounts), u"<r/>");

@@ -158,8 +158,6 @@ protected:
     bool m_heedsOwnerNamespace = true;
 
 private:
-    bool WriteCollection(const CXmlSerializationContext& context, const CXmlCollectionBase* collection,
-                         CXmlWriter* writer) const;
     bool IsNil(const CXmlElement& element) const;
     bool StoreAndAdvance(CXmlGeneratedClass* object, KzVariant& value, CXmlElement** current);
 };
