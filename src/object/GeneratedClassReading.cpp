@@ -129,11 +129,8 @@ bool CXmlGeneratedClass::OfferAttribute(const CXmlSerializationContext& context,
 
 bool CXmlGeneratedClass::OfferElement(const CXmlSerializationContext& context, std::size_t index,
                                       CXmlElement* element, CXmlElement*& current, XmlElementType type) {
-    CElementInfo* entry = GetClassElementInfo()[index];
-    // Fetched for each call, but not for a descriptor that does not look at it.
-    return entry->HeedsOwnerNamespace()
-               ? entry->ElementFromXml(context, this, element, &current, GetNamespace().c_str(), type)
-               : entry->ElementFromXml(context, this, element, &current, u"", type);
+    return GetClassElementInfo()[index]->ElementFromXml(context, this, element, &current,
+                                                        GetNamespace().c_str(), type);
 }
 
 CXmlElement* CXmlGeneratedClass::ProcessElementSeqFromXml(const CXmlSerializationContext& context,

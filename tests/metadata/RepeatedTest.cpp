@@ -39,7 +39,11 @@ public:
         calls += (read ? "read " : "write ") + std::to_string(propertyIndex) + ", ";
         CModelObject::AccessProperty(propertyIndex, read, value);
     }
-    std::string calls;
+    std::u16string GetNamespace() const override {
+        calls += "namespace, ";
+        return CModelObject::GetNamespace();
+    }
+    mutable std::string calls;
 };
 
 TEST(RepeatedMember, IsCountedOnWritingInASequence) {
@@ -48,7 +52,7 @@ TEST(RepeatedMember, IsCountedOnWritingInASequence) {
     r.Collection(u"a", item, 1);
     CWatched watched(r, u"r"); // the count and the items are two reads of their own
     watched.FromXml(u"<r><a/></r>", {});
-    EXPECT_EQ(std::exchange(watched.calls, ""), "read 0, ");
+    EXPECT_EQ(std::exchange(watched.calls, ""), "namespace, read 0, ");
     EXPECT_EQ(Write(watched) + Write(watched, invalidCounts), u"<r><a/></r><r><a/></r>");
     EXPECT_EQ(watched.calls, "read 0, read 0, read 0, ");
     EXPECT_EQ(Write(*r.New()),

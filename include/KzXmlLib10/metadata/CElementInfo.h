@@ -45,8 +45,6 @@ public:
     std::u16string GetElementName() const;
     std::u16string GetElementNamespace() const;
     int GetPropertyIndex() const;
-    /// Whether ElementFromXml looks at `ownerNamespace`; where it does not, it may be given an empty one.
-    bool HeedsOwnerNamespace() const { return m_heedsOwnerNamespace; }
 
     /// Tests a value against the facets; generated setters call it. Throws as CheckPrimitiveRestrictions
     /// does, or CKzException on a descriptor that has no primitive value.
@@ -155,7 +153,6 @@ protected:
     CWhitespaceUtils::WhitespaceRule m_whitespaceRule;
     bool m_nillable;
     bool m_isPrimitive;
-    bool m_heedsOwnerNamespace = true;
 
 private:
     bool IsNil(const CXmlElement& element) const;

@@ -18,9 +18,7 @@ public:
              ItemType itemType, const char16_t* formatOverride,
              CWhitespaceUtils::WhitespaceRule whitespaceRule, const CPrimitiveRestrictions& restrictions)
         : Group(name, namespaceUri, propertyIndex, nillable, itemType, formatOverride, whitespaceRule,
-                restrictions) {
-        this->m_heedsOwnerNamespace = false;
-    }
+                restrictions) {}
 
     bool ElementToXml(const CXmlSerializationContext& context, const CXmlGeneratedClass* object,
                       CXmlWriter* writer) const override {
@@ -35,9 +33,7 @@ public:
     EnumKind(const char16_t* name, const char16_t* namespaceUri, int propertyIndex, bool nillable,
              EnumToString enumToString, StringToEnum stringToEnum)
         : Group(name, namespaceUri, propertyIndex, nillable), m_enumToString(enumToString),
-          m_stringToEnum(stringToEnum) {
-        this->m_heedsOwnerNamespace = false;
-    }
+          m_stringToEnum(stringToEnum) {}
 
     bool ElementToXml(const CXmlSerializationContext& context, const CXmlGeneratedClass* object,
                       CXmlWriter* writer) const override {
@@ -65,9 +61,7 @@ public:
 protected:
     ObjectKind(const char16_t* name, const char16_t* namespaceUri, int propertyIndex,
                XmlElementType elementType)
-        : Group(name, namespaceUri, propertyIndex), m_elementType(elementType) {
-        this->m_heedsOwnerNamespace = false;
-    }
+        : Group(name, namespaceUri, propertyIndex), m_elementType(elementType) {}
 
     XmlElementType m_elementType;
 };
@@ -125,9 +119,7 @@ class QUILLON_EXPORT ObjectsKind : public Collection {
 public:
     ObjectsKind(const char16_t* name, const char16_t* namespaceUri, int propertyIndex,
                 XmlElementType elementType)
-        : Collection(name, namespaceUri, propertyIndex), m_elementType(elementType) {
-        this->m_heedsOwnerNamespace = false;
-    }
+        : Collection(name, namespaceUri, propertyIndex), m_elementType(elementType) {}
 
     void PseudoChildAttributeToXml(const CXmlSerializationContext& context, const CXmlGeneratedClass* object,
                                    CXmlWriter* writer) const override {
