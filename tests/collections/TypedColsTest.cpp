@@ -241,6 +241,7 @@ TEST(TypedCols, ClearIsLinearAlsoWhereSomebodyListens) {
 TEST(TypedCols, ClearEndsWhereRemovalsAreInVain) {
     struct CStubbornCol : Ci4Col {
         using Ci4Col::Ci4Col;
+        int GetCount() const override { return 0; } // which is not asked
         void Remove(int) override {}
     };
     auto items = Make<CStubbornCol>();

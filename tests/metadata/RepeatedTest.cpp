@@ -35,6 +35,7 @@ TEST(RepeatedMember, TakesOneRunAndChecksItsCount) {
 class CWatched : public CModelObject {
 public:
     using CModelObject::CModelObject;
+    using CModelObject::ToXml_Int;
     void AccessProperty(int propertyIndex, bool read, KzVariant& value) override {
         calls += (read ? "read " : "write ") + std::to_string(propertyIndex) + ", ";
         CModelObject::AccessProperty(propertyIndex, read, value);
@@ -55,6 +56,10 @@ TEST(RepeatedMember, IsCountedOnWritingInASequence) {
     EXPECT_EQ(std::exchange(watched.calls, ""), "namespace, read 0, ");
     EXPECT_EQ(Write(watched) + Write(watched, invalidCounts), u"<r><a/></r><r><a/></r>");
     EXPECT_EQ(watched.calls, "read 0, read 0, read 0, ");
+    CTextStream stream(XmlEncoding_None);
+    CXmlTextWriter writer(&stream);
+    EXPECT_EQ(FailureOf([&] { watched.ToXml_Int(&writer, false, nullptr, {}, false); }),
+              FailedToWrite(u"r", u"The argument elementNamespace may not be null"));
     EXPECT_EQ(Write(*r.New()),
               FailedToWrite(u"r", u"The Minimum number of [a] elements allowed in this collection is 1"));
     EXPECT_EQ(Write(*r.New(), invalidCounts), u"<r/>");
