@@ -7,12 +7,15 @@
 #include <KzXmlLib10/values/KzVariant.h>
 
 #include "conversions/Messages.h"
+#include "object/Digit.h"
 #include "object/Throw.h"
 
 #include <compare>
 #include <concepts>
 #include <functional>
+#include <string_view>
 #include <type_traits>
+#include <utility>
 
 namespace KzXmlLib10 {
 
@@ -51,6 +54,30 @@ std::partial_ordering Compare(const T& value, const T& bound) {
         return std::partial_ordering::unordered;
     }
 }
+
+/// The number that up to nine digits make, or -1 for any other text.
+int ShortNumber(std::u16string_view text) {
+    if (text.empty() || text.size() > 9)
+        return -1;
+    int number = 0;
+    for (const char16_t unit : text) {
+        if (!IsDigit(unit))
+            return -1;
+        number = 10 * number + (unit - u'0');
+    }
+    return number;
+}
+
+/// What a conversion makes of a bound. Most are short numbers, which do not need all that it does.
+template <auto FromText>
+constexpr auto OrShort = [](const std::u16string& bound, CWhitespaceUtils::WhitespaceRule rule) {
+    using T = decltype(FromText(bound, rule));
+    const int number = ShortNumber(bound);
+    if constexpr (std::is_integral_v<T>)
+        return number >= 0 && std::in_range<T>(number) ? static_cast<T>(number) : FromText(bound, rule);
+    else
+        return number >= 0 ? T(number) : FromText(bound, rule);
+};
 
 /// The bounds of a kind: how one is read, the message, and what that shows of the value. What cannot be
 /// ordered fails as a NaN and passes as a date or duration.
@@ -92,8 +119,6 @@ bool HasLengthWithin(std::size_t length, const CPrimitiveRestrictions& restricti
 }
 
 bool MatchesPattern(const char16_t* name, const std::u16string& value, const std::u16string& pattern) {
-    if (pattern.empty())
-        return true;
     try {
         return MatchXsdPattern(ConvertToUtf8(pattern), value);
     } catch (CKzException& failure) {
@@ -101,58 +126,65 @@ bool MatchesPattern(const char16_t* name, const std::u16string& value, const std
     }
 }
 
+/// Apart from CheckString, as most texts have no pattern. A text of a bad length fails without a look at it.
+[[gnu::noinline]] void CheckPattern(const char16_t* name, const std::u16string& value,
+                                    const std::u16string& pattern, bool isWithin) {
+    if (!isWithin || !MatchesPattern(name, value, pattern))
+        Throw<CKzException>(messages::InvalidText, name, value);
+}
+
 } // namespace
 
 void CheckI1(const char16_t* name, std::int8_t value, const CPrimitiveRestrictions& restrictions) {
-    CheckRange<CConversions::i1FromString, messages::InvalidInteger>(name, value, restrictions);
+    CheckRange<OrShort<CConversions::i1FromString>, messages::InvalidInteger>(name, value, restrictions);
 }
 
 void CheckI2(const char16_t* name, std::int16_t value, const CPrimitiveRestrictions& restrictions) {
-    CheckRange<CConversions::i2FromString, messages::InvalidInteger>(name, value, restrictions);
+    CheckRange<OrShort<CConversions::i2FromString>, messages::InvalidInteger>(name, value, restrictions);
 }
 
 void CheckI4(const char16_t* name, std::int32_t value, const CPrimitiveRestrictions& restrictions) {
-    CheckRange<CConversions::i4FromString, messages::InvalidInteger>(name, value, restrictions);
+    CheckRange<OrShort<CConversions::i4FromString>, messages::InvalidInteger>(name, value, restrictions);
 }
 
 void CheckI8(const char16_t* name, long long value, const CPrimitiveRestrictions& restrictions) {
-    CheckRange<CConversions::i8FromString, messages::InvalidText, CConversions::i8ToString>(name, value,
-                                                                                            restrictions);
+    CheckRange<OrShort<CConversions::i8FromString>, messages::InvalidText, CConversions::i8ToString>(
+        name, value, restrictions);
 }
 
 void CheckUI1(const char16_t* name, std::uint8_t value, const CPrimitiveRestrictions& restrictions) {
-    CheckRange<CConversions::ui1FromString, messages::InvalidInteger>(name, value, restrictions);
+    CheckRange<OrShort<CConversions::ui1FromString>, messages::InvalidInteger>(name, value, restrictions);
 }
 
 void CheckUI2(const char16_t* name, std::uint16_t value, const CPrimitiveRestrictions& restrictions) {
-    CheckRange<CConversions::ui2FromString, messages::InvalidInteger>(name, value, restrictions);
+    CheckRange<OrShort<CConversions::ui2FromString>, messages::InvalidInteger>(name, value, restrictions);
 }
 
 void CheckUI4(const char16_t* name, std::uint32_t value, const CPrimitiveRestrictions& restrictions) {
     // Deliberate: the message shows the value as a signed number.
-    CheckRange<CConversions::ui4FromString, messages::InvalidInteger>(name, value, restrictions);
+    CheckRange<OrShort<CConversions::ui4FromString>, messages::InvalidInteger>(name, value, restrictions);
 }
 
 void CheckUI8(const char16_t* name, unsigned long long value, const CPrimitiveRestrictions& restrictions) {
-    CheckRange<CConversions::ui8FromString, messages::InvalidText, CConversions::ui8ToString>(name, value,
-                                                                                              restrictions);
+    CheckRange<OrShort<CConversions::ui8FromString>, messages::InvalidText, CConversions::ui8ToString>(
+        name, value, restrictions);
 }
 
 void CheckR4(const char16_t* name, float value, const CPrimitiveRestrictions& restrictions) {
-    CheckRange<CConversions::r4FromString, messages::InvalidReal>(name, value, restrictions);
+    CheckRange<OrShort<CConversions::r4FromString>, messages::InvalidReal>(name, value, restrictions);
 }
 
 void CheckR8(const char16_t* name, double value, const CPrimitiveRestrictions& restrictions) {
-    CheckRange<CConversions::r8FromString, messages::InvalidReal>(name, value, restrictions);
+    CheckRange<OrShort<CConversions::r8FromString>, messages::InvalidReal>(name, value, restrictions);
 }
 
 void CheckDecimal(const char16_t* name, const CDecimal& value, const CPrimitiveRestrictions& restrictions) {
-    CheckRangeOf<CConversions::decimalFromString>(name, value, restrictions);
+    CheckRangeOf<OrShort<CConversions::decimalFromString>>(name, value, restrictions);
 }
 
 void CheckInteger(const char16_t* name, const CBigInteger& value,
                   const CPrimitiveRestrictions& restrictions) {
-    CheckRangeOf<CConversions::integerFromString>(name, value, restrictions);
+    CheckRangeOf<OrShort<CConversions::integerFromString>>(name, value, restrictions);
 }
 
 void CheckYear(const char16_t* name, std::uint16_t value, const CPrimitiveRestrictions& restrictions) {
@@ -208,12 +240,15 @@ void CheckBase64Binary(const char16_t* name, const CBinaryData& value,
 
 void CheckString(const char16_t* name, const std::u16string& value,
                  const CPrimitiveRestrictions& restrictions) {
-    if (!HasLengthWithin(value.size(), restrictions) || !MatchesPattern(name, value, restrictions.m_pattern))
-        Throw<CKzException>(messages::InvalidText, name, value);
+    const bool isWithin = HasLengthWithin(value.size(), restrictions);
+    if (!isWithin || !restrictions.m_pattern.empty())
+        CheckPattern(name, value, restrictions.m_pattern, isWithin);
 }
 
-void CheckPrimitiveRestrictions(const char16_t* name, const KzVariant& value, ItemType type,
-                                const CPrimitiveRestrictions& restrictions) {
+namespace {
+
+void CheckOtherThanString(const char16_t* name, const KzVariant& value, ItemType type,
+                          const CPrimitiveRestrictions& restrictions) {
     switch (type) {
     case ItemType_hexBinary:
         return CheckHexBinary(name, value.GetHexBinary(), restrictions);
@@ -257,8 +292,6 @@ void CheckPrimitiveRestrictions(const char16_t* name, const KzVariant& value, It
         return CheckDateTime(name, value.GetDateTime(), restrictions);
     case ItemType_time:
         return CheckTime(name, value.GetTime(), restrictions);
-    case ItemType_string:
-        return CheckString(name, value.GetStringRef(), restrictions);
     case ItemType_boolean:
         return;
     case ItemType_decimal:
@@ -268,6 +301,16 @@ void CheckPrimitiveRestrictions(const char16_t* name, const KzVariant& value, It
     default:
         Throw<CKzInvalidValueException>(messages::UnknownKindToCheck, value.GetType());
     }
+}
+
+} // namespace
+
+void CheckPrimitiveRestrictions(const char16_t* name, const KzVariant& value, ItemType type,
+                                const CPrimitiveRestrictions& restrictions) {
+    if (type == ItemType_string) // as most are
+        CheckString(name, value.GetStringRef(), restrictions);
+    else
+        CheckOtherThanString(name, value, type, restrictions);
 }
 
 } // namespace KzXmlLib10

@@ -116,6 +116,8 @@ TEST(FacetChecks, BoundsAreReadWhenTheyAreReached) {
     EXPECT_EQ(
         InvalidValue([&] { CheckPrimitiveRestrictions(u"name", value, ItemType_i4, Bounds(u"5", u"bad")); }),
         "The value [bad] can not be converted to a i4");
+    EXPECT_EQ(InvalidValue([&] { CheckUI1(u"name", 7, Bounds(u"", u"256")); }),
+              "The value [256] is to large to fit in a ui1");
 }
 
 TEST(FacetChecks, LengthsAndPatternsOfTexts) {
