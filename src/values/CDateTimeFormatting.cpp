@@ -20,15 +20,14 @@ std::u16string CDateTime::ToString(const char16_t* format) const {
     if (name != u"s")
         return std::u16string(u"Unknown Format: ").append(name);
 
-    std::u16string text;
-    text.reserve(36); // -9999-12-31T23:59:59.123456789+23:59
+    DateTimeText text;
     AppendDate(text);
     if (m_dtType == DTType_dateTime)
         text += u'T';
     if (HasTimeOfDay(m_dtType))
         AppendTime(text);
     AppendZone(text);
-    return text;
+    return text.Get();
 }
 
 /// Whether there is nothing to write. A midnight is a time, but a date of zeros is no date.
@@ -40,36 +39,36 @@ bool CDateTime::IsBlank() const {
 
 /// Appends what the kind has of year, month and day. A minus sign stands for each part that is missing in
 /// front of another one.
-void CDateTime::AppendDate(std::u16string& out) const {
+void CDateTime::AppendDate(DateTimeText& out) const {
     if (HasYear(m_dtType)) {
         if (m_year < 0)
             out += u'-';
-        AppendNumber(out, static_cast<unsigned>(std::abs(m_year)), 4);
+        out.AppendNumber(static_cast<unsigned>(std::abs(m_year)), 4);
     } else if (HasMonth(m_dtType) || HasDay(m_dtType)) {
         out += u'-';
     }
     if (HasMonth(m_dtType)) {
         out += u'-';
-        AppendNumber(out, m_month, 2);
+        out.AppendNumber(m_month, 2);
     } else if (HasDay(m_dtType)) {
         out += u'-';
     }
     if (HasDay(m_dtType)) {
         out += u'-';
-        AppendNumber(out, m_day, 2);
+        out.AppendNumber(m_day, 2);
     }
 }
 
-void CDateTime::AppendTime(std::u16string& out) const {
-    AppendNumber(out, m_hour, 2);
+void CDateTime::AppendTime(DateTimeText& out) const {
+    out.AppendNumber(m_hour, 2);
     out += u':';
-    AppendNumber(out, m_minute, 2);
+    out.AppendNumber(m_minute, 2);
     out += u':';
-    AppendNumber(out, m_second, 2);
-    AppendFraction(out, m_milliSecond, m_microSecond, m_nanoSecond);
+    out.AppendNumber(m_second, 2);
+    out.AppendFraction(m_milliSecond, m_microSecond, m_nanoSecond);
 }
 
-void CDateTime::AppendZone(std::u16string& out) const {
+void CDateTime::AppendZone(DateTimeText& out) const {
     if (!m_isUTC)
         return;
     if (!m_hasTimeZone) {
@@ -77,9 +76,9 @@ void CDateTime::AppendZone(std::u16string& out) const {
         return;
     }
     out += m_zoneHour < 0 ? u'-' : u'+';
-    AppendNumber(out, static_cast<unsigned>(std::abs(m_zoneHour)), 2);
+    out.AppendNumber(static_cast<unsigned>(std::abs(m_zoneHour)), 2);
     out += u':';
-    AppendNumber(out, m_zoneMinute, 2);
+    out.AppendNumber(m_zoneMinute, 2);
 }
 
 } // namespace KzXmlLib10

@@ -91,10 +91,13 @@ CDateTimeSpan CDateTimeSpan::GetAsNegative() const {
 }
 
 std::u16string CDateTimeSpan::ToString() const {
-    std::u16string text = m_isNegative ? u"-P" : u"P";
+    DateTimeText text;
+    if (m_isNegative)
+        text += u'-';
+    text += u'P';
     const auto append = [&text](unsigned long long count, char16_t designator) {
         if (count != 0) {
-            AppendNumber(text, count);
+            text.AppendNumber(count);
             text += designator;
         }
     };
@@ -104,16 +107,16 @@ std::u16string CDateTimeSpan::ToString() const {
     const bool hasSeconds =
         m_seconds != 0 || m_milliSeconds != 0 || m_microSeconds != 0 || m_nanoSeconds != 0;
     if (m_hours == 0 && m_minutes == 0 && !hasSeconds)
-        return text; // Deliberate: nothing follows the P of a zero duration.
+        return text.Get(); // Deliberate: nothing follows the P of a zero duration.
     text += u'T';
     append(m_hours, u'H');
     append(m_minutes, u'M');
     if (hasSeconds) {
-        AppendNumber(text, m_seconds);
-        AppendFraction(text, m_milliSeconds, m_microSeconds, m_nanoSeconds);
+        text.AppendNumber(m_seconds);
+        text.AppendFraction(m_milliSeconds, m_microSeconds, m_nanoSeconds);
         text += u'S';
     }
-    return text;
+    return text.Get();
 }
 
 CDateTime::DTCompareResult CDateTimeSpan::CompareTo(const CDateTimeSpan& other) const {

@@ -50,6 +50,12 @@ bool IsAboveHalf(const Digits& low, std::size_t places) {
            std::any_of(low.begin(), low.end() - 1, [](char16_t digit) { return digit != 0; });
 }
 
+/// Writes digits up to a place in a text.
+void PutDigits(char16_t* end, const Digits& digits) {
+    for (const char16_t digit : digits)
+        *--end = static_cast<char16_t>(u'0' + digit);
+}
+
 void AppendDigits(std::u16string& text, const Digits& digits) {
     std::transform(digits.rbegin(), digits.rend(), std::back_inserter(text),
                    [](std::uint16_t digit) { return static_cast<char16_t>(u'0' + digit); });
@@ -269,10 +275,13 @@ std::u16string CDecimal::ToString() const {
 std::u16string CDecimal::ToString(int places) const {
     places = std::max(places, 0);
     if (places < MaxPlaces() && IsExactWithin(places)) { // half a unit more would change no digit
-        std::u16string text = HasMinusSign() ? u"-" : u"";
-        AppendDigits(text, m_integral.m_digits);
-        AppendFraction(text += u'.');
-        return text.append(static_cast<std::size_t>(places - m_divider), u'0');
+        const std::size_t point = HasMinusSign() + m_integral.m_digits.size();
+        std::u16string text(point + 1 + static_cast<std::size_t>(places), u'0');
+        text.front() = u'-'; // unless a digit takes its place
+        PutDigits(&text[point], m_integral.m_digits);
+        text[point] = u'.';
+        PutDigits(&text[point] + 1 + m_divider, m_fractional.m_digits);
+        return text;
     }
     // Half a unit; beyond the maximum of places it rounds to nothing.
     const std::int32_t sign = HasMinusSign() ? -1 : 1;

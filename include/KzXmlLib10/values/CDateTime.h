@@ -11,6 +11,8 @@
 
 namespace KzXmlLib10 {
 
+class DateTimeText;
+
 /// A value of any of the eight date and time kinds of XML Schema.
 ///
 ///     CDateTime start(2000, 2, 28);
@@ -220,9 +222,9 @@ private:
     void ReadZone(std::u16string_view zone);
 
     bool IsBlank() const;
-    void AppendDate(std::u16string& out) const;
-    void AppendTime(std::u16string& out) const;
-    void AppendZone(std::u16string& out) const;
+    void AppendDate(DateTimeText& out) const;
+    void AppendTime(DateTimeText& out) const;
+    void AppendZone(DateTimeText& out) const;
 
     DTCompareResult CompareFields(const CDateTime& other) const;
     void AddDateTimeSpan(const CDateTimeSpan& span);
