@@ -34,12 +34,12 @@ bool CElementInfo::ElementToXmlPrim(const CXmlSerializationContext&, const CXmlG
         WriteNil(writer, m_elementName, m_elementNamespace);
         return true;
     }
+    const ItemType type = value.GetTypeAsEnum();
     // Deliberate: a mandatory value that is not there is left out without a word.
-    if (value.GetTypeAsEnum() == ItemType_Invalid)
+    if (type == ItemType_Invalid)
         return false;
     // The facets come before the start tag, so that a bad value leaves no open element behind.
     CheckRestriction(value);
-    const ItemType type = value.GetTypeAsEnum();
     if (type == ItemType_string)
         writer->WriteLeaf(m_elementName, m_elementNamespace, value.GetStringRef(), type);
     else

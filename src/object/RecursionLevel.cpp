@@ -26,49 +26,51 @@ constexpr std::uint64_t leastReserve = 0;
 constexpr std::uint64_t leastReserve = 0;
 #endif
 
-struct Stack {
-    std::uintptr_t low;
-    std::uintptr_t size;
+} // namespace
+
+/// Without a destructor, which a thread would have to be told of.
+struct RecursionLevel::Thread {
+    std::uint32_t levels = 0;
+    bool isStackKnown = false;
+    std::uintptr_t stackLow = 0;
+    std::size_t stackSize = 0;
 
     /// Whether the caller stands in the part that is kept for reporting the failure. A coroutine runs on a
     /// stack elsewhere, which is not known.
-    bool IsUsedUp() const {
+    bool IsStackUsedUp() const {
         const std::uint64_t reserve = std::max(CurrentLimit(&Limits::stackReserve), leastReserve);
         // Not the address of a variable, which a sanitizer may keep off the stack.
         const auto here = reinterpret_cast<std::uintptr_t>(__builtin_frame_address(0));
-        return here - low <
-               std::min<std::uint64_t>(size / 2, reserve); // a small stack keeps half for the work
+        return here - stackLow <
+               std::min<std::uint64_t>(stackSize / 2, reserve); // a small stack keeps half for the work
+    }
+
+    [[gnu::noinline]] void FindStack() {
+        isStackKnown = true;
+        pthread_attr_t attributes;
+        if (pthread_getattr_np(pthread_self(), &attributes) != 0)
+            return;
+        void* low = nullptr;
+        pthread_attr_getstack(&attributes, &low, &stackSize);
+        pthread_attr_destroy(&attributes);
+        stackLow = reinterpret_cast<std::uintptr_t>(low);
     }
 };
 
-Stack FindStack() {
-    pthread_attr_t attributes;
-    if (pthread_getattr_np(pthread_self(), &attributes) != 0)
-        return {0, 0};
-    void* low = nullptr;
-    std::size_t size = 0;
-    pthread_attr_getstack(&attributes, &low, &size);
-    pthread_attr_destroy(&attributes);
-    return {reinterpret_cast<std::uintptr_t>(low), size};
-}
-
-} // namespace
-
-struct RecursionLevel::Thread {
-    std::uint32_t levels = 0;
-    const Stack stack = FindStack();
-};
-
 RecursionLevel::RecursionLevel() : m_thread(CurrentThread()) {
-    if (m_thread.levels >= CurrentLimit(&Limits::nestedObjects) || m_thread.stack.IsUsedUp())
-        Throw<CKzException>(messages::NestedTooDeep, m_thread.levels);
+    if (!m_thread.isStackKnown)
+        m_thread.FindStack();
+    if (m_thread.levels >= CurrentLimit(&Limits::nestedObjects) || m_thread.IsStackUsedUp())
+        FailTooDeep();
     ++m_thread.levels;
 }
+
+void RecursionLevel::FailTooDeep() const { Throw<CKzException>(messages::NestedTooDeep, m_thread.levels); }
 
 RecursionLevel::~RecursionLevel() { --m_thread.levels; }
 
 RecursionLevel::Thread& RecursionLevel::CurrentThread() {
-    thread_local Thread thread;
+    [[gnu::tls_model("initial-exec")]] static constinit thread_local Thread thread;
     return thread;
 }
 

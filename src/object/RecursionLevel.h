@@ -19,6 +19,7 @@ public:
 private:
     struct Thread;
     static Thread& CurrentThread();
+    [[noreturn]] void FailTooDeep() const;
 
     Thread& m_thread;
     PayloadMemory m_payloads;

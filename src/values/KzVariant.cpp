@@ -106,8 +106,6 @@ void KzVariant::Clear() {
         kind->letGo(cell.payload);
 }
 
-bool KzVariant::IsValid() const { return m_type != ItemType_Invalid || m_isNil; }
-
 void KzVariant::SetInvalid() { Clear(); }
 
 void KzVariant::SetNil() {
@@ -116,9 +114,6 @@ void KzVariant::SetNil() {
     m_type = type;
     m_isNil = true;
 }
-
-bool KzVariant::IsNil() const { return m_isNil; }
-ItemType KzVariant::GetTypeAsEnum() const { return m_type; }
 
 std::u16string KzVariant::GetType() const {
     if (m_type < ItemType_hexBinary || m_type > ItemType_integer)
@@ -307,6 +302,15 @@ void KzVariant::SetDateTime(CDateTime value) { SetValue(ItemType_datetime, std::
 void KzVariant::SetTime(CDateTime value) { SetValue(ItemType_time, std::move(value)); }
 void KzVariant::SetDecimal(CDecimal value) { SetValue(ItemType_decimal, std::move(value)); }
 void KzVariant::SetInteger(CBigInteger value) { SetValue(ItemType_integer, std::move(value)); }
+
+void KzVariant::CopyString(const std::u16string& value) {
+    std::u16string* const copy = TakeKeptText(value);
+    if (!copy)
+        return SetString(value);
+    Clear();
+    m_type = ItemType_string;
+    m_value.payload = copy;
+}
 
 std::u16string KzVariant::GetString() const { return GetStringRef(); }
 CBinaryData KzVariant::GetHexBinary() const { return GetValue<CBinaryData>(ItemType_hexBinary); }

@@ -4,6 +4,7 @@
 
 #include <memory>
 #include <new>
+#include <string>
 #include <utility>
 
 namespace KzXmlLib10 {
@@ -32,6 +33,18 @@ inline constexpr PayloadKind HeapValue = {
     [](void* payload) { return MakePayload<T>(*static_cast<const T*>(payload)); },
     [](void* payload) {
         static_cast<T*>(payload)->~T();
+        GiveBackPayloadMemory(payload);
+    },
+};
+
+/// A text, whose memory serves CopyString again.
+template <>
+inline constexpr PayloadKind HeapValue<std::u16string> = {
+    [](void* payload) { return MakePayload<std::u16string>(*static_cast<const std::u16string*>(payload)); },
+    [](void* payload) {
+        if (KeepText(static_cast<std::u16string*>(payload)))
+            return;
+        std::destroy_at(static_cast<std::u16string*>(payload));
         GiveBackPayloadMemory(payload);
     },
 };

@@ -1,5 +1,6 @@
 #include "support/Script.h"
 #include "support/Test.h"
+#include "values/PayloadMemory.h"
 
 namespace {
 
@@ -86,6 +87,16 @@ TEST(KzVariant, CopiesAreDeepAndMovesEmptyTheirSource) {
     source = std::move(moved);
     EXPECT_EQ(&source.GetStringRef(), payload);
     EXPECT_FALSE(moved.IsValid());
+
+    const PayloadMemory keeper; // by which the second text and those after it are kept
+    for (const std::u16string& text :
+         {std::u16string(700, u'x'), std::u16string(9, u'y'), std::u16string()}) {
+        KzVariant other = TextVariant(u"other");
+        source.CopyString(text);
+        other.CopyString(source.GetStringRef());
+        source.CopyString(source.GetStringRef());
+        EXPECT_EQ(other.GetString() + source.TakeString(), text + text);
+    }
 
     source.SetNil();
     copy.SetI4(1);

@@ -32,11 +32,12 @@ private:
 // To and from a variant: one pair for each kind of member. An optional member that is not set is an empty
 // variant.
 
-inline void ToVariant(std::u16string member, KzVariant& value) { value.SetString(std::move(member)); }
+inline void ToVariant(const std::u16string& member, KzVariant& value) { value.CopyString(member); }
+inline void ToVariant(std::u16string&& member, KzVariant& value) { value.SetString(std::move(member)); }
 inline void ToVariant(std::int32_t member, KzVariant& value) { value.SetI4(member); }
 inline void ToVariant(double member, KzVariant& value) { value.SetR8(member); }
 inline void ToVariant(bool member, KzVariant& value) { value.SetBoolean(member); }
-inline void ToVariant(CDecimal member, KzVariant& value) { value.SetDecimal(std::move(member)); }
+inline void ToVariant(const CDecimal& member, KzVariant& value) { value.SetDecimal(member); }
 inline void ToVariant(const CDateTime& member, KzVariant& value) {
     if (member.GetType() == CDateTime::DTType_date)
         value.SetDate(member);

@@ -53,12 +53,12 @@ public:
     /// Deliberate: without a kind it does nothing, and the nil flag stays.
     void Clear();
     /// True if a kind is set, or nil.
-    bool IsValid() const;
+    bool IsValid() const { return m_type != ItemType_Invalid || m_isNil; }
     void SetInvalid();
     /// Drops the value, keeps its kind.
     void SetNil();
-    bool IsNil() const;
-    ItemType GetTypeAsEnum() const;
+    bool IsNil() const { return m_isNil; }
+    ItemType GetTypeAsEnum() const { return m_type; }
     /// The name of the kind, which is the enumerator without `ItemType_`. Throws CKzException for no kind and
     /// for the object kinds.
     std::u16string GetType() const;
@@ -107,6 +107,8 @@ public:
 
     /// Moves the text in; pass an rvalue to spare the copy.
     void SetString(std::u16string value);
+    /// What SetString does with a copy, mostly without an allocation. For generated classes.
+    void CopyString(const std::u16string& value);
     std::u16string GetString() const;
     /// The text itself, valid until the variant changes.
     const std::u16string& GetStringRef() const;
