@@ -99,22 +99,25 @@ bool IsAscii(Char unit) {
     return static_cast<std::make_unsigned_t<Char>>(unit) < 0x80;
 }
 
-/// Writes a block of ASCII as bytes. False for any other block.
+/// Writes some blocks of ASCII as bytes. False if there is anything else among them.
+template <std::size_t blocks>
 bool NarrowAscii(char* to, const char16_t* from) {
-    typedef std::uint16_t Units __attribute__((vector_size(blockSize)));
-    typedef std::uint8_t Bytes __attribute__((vector_size(blockSize / 2)));
-    Units low, high;
-    std::memcpy(&low, from, sizeof low);
-    std::memcpy(&high, from + blockSize / 2, sizeof high);
-    std::uint64_t words[2];
-    const Units all = low | high;
+    typedef std::uint16_t Units __attribute__((vector_size(2 * blockSize)));
+    typedef std::uint8_t Bytes __attribute__((vector_size(blockSize)));
+    Units units, all{};
+    for (std::size_t i = 0; i < blocks; ++i) {
+        std::memcpy(&units, from + i * blockSize, sizeof units);
+        all |= units;
+    }
+    std::uint64_t words[4];
     std::memcpy(words, &all, sizeof words);
-    if (((words[0] | words[1]) & 0xFF80'FF80'FF80'FF80) != 0)
+    if (((words[0] | words[1] | words[2] | words[3]) & 0xFF80'FF80'FF80'FF80) != 0)
         return false;
-    const Bytes lowBytes = __builtin_convertvector(low, Bytes);
-    const Bytes highBytes = __builtin_convertvector(high, Bytes);
-    std::memcpy(to, &lowBytes, sizeof lowBytes);
-    std::memcpy(to + sizeof lowBytes, &highBytes, sizeof highBytes);
+    for (std::size_t i = 0; i < blocks; ++i) {
+        std::memcpy(&units, from + i * blockSize, sizeof units);
+        const Bytes bytes = __builtin_convertvector(units, Bytes);
+        std::memcpy(to + i * blockSize, &bytes, sizeof bytes);
+    }
     return true;
 }
 
@@ -162,7 +165,9 @@ Utf8Extent WriteUtf8(char* to, std::u16string_view text) {
     const char* const start = to;
     std::size_t at = 0;
     while (at < text.size()) {
-        if (text.size() - at >= blockSize && NarrowAscii(to, text.data() + at)) {
+        for (; text.size() - at >= 4 * blockSize && NarrowAscii<4>(to, text.data() + at); at += 4 * blockSize)
+            to += 4 * blockSize;
+        if (text.size() - at >= blockSize && NarrowAscii<1>(to, text.data() + at)) {
             at += blockSize;
             to += blockSize;
             continue;
