@@ -51,6 +51,20 @@ std::size_t PlaceOf(std::u16string_view localName) {
                                    23u * localName[localName.size() / 2];
 }
 
+[[gnu::noinline]] void AppendLongInteger(CBinaryData& out, const IntegerRule& rule, Byte bits,
+                                         std::uint64_t value) {
+    Byte* const octets = out.Reserve(IntegerRule::MaxOctets);
+    out.Commit(octets + rule.Encode(value, bits, octets));
+}
+
+/// Inline, so that what is known of the rule is known here.
+inline void AppendInteger(CBinaryData& out, const IntegerRule& rule, Byte bits, std::uint64_t value) {
+    if (value < rule.bands[1].first) // as most are
+        out.Append(static_cast<Byte>(bits | (value - 1)));
+    else
+        AppendLongInteger(out, rule, bits, value);
+}
+
 std::string_view AsText(const CBinaryData& data) {
     return {reinterpret_cast<const char*>(data.GetData()), data.GetLength()};
 }
@@ -169,19 +183,20 @@ void CFastInfosetWriter::EndElement() {
     LeaveContext();
 }
 
-bool CFastInfosetWriter::WriteLeafAtOnce(CXmlWriter& writer, const std::u16string& name,
+void CFastInfosetWriter::WriteLeafAtOnce(CXmlWriter& writer, const std::u16string& name,
                                          const std::u16string& namespaceUri, const std::u16string& text,
                                          ItemType type) {
-    return static_cast<CFastInfosetWriter&>(writer).TryWriteLeaf(name, namespaceUri, text, type);
+    static_cast<CFastInfosetWriter&>(writer).WritePlainLeaf(name, namespaceUri, text, type);
 }
 
-/// Writes an element in the namespace of its parent without a context of its own. False, and nothing written,
-/// for any other.
-bool CFastInfosetWriter::TryWriteLeaf(const std::u16string& name, const std::u16string& namespaceUri,
-                                      const std::u16string& text, ItemType type) {
-    FlushPendingElement(false);
-    if (!m_context || !m_context->IsPrefixKnown() || !SameText(namespaceUri, m_context->m_namespaceUri))
-        return false;
+/// Writes an element in the namespace of its parent without a context of its own, and any other by its parts.
+void CFastInfosetWriter::WritePlainLeaf(const std::u16string& name, const std::u16string& namespaceUri,
+                                        const std::u16string& text, ItemType type) {
+    if (m_pendingContext)
+        FlushPendingElement(false);
+    if (!m_context || m_context->StateOfPrefix() != m_context->GetNamespaceMap().State() ||
+        !SameText(namespaceUri, m_context->m_namespaceUri))
+        return WriteLeafByParts(name, namespaceUri, text, type);
     if (m_pendingTerminator) {
         WriteByte(End);
         m_pendingTerminator = false;
@@ -203,7 +218,6 @@ bool CFastInfosetWriter::TryWriteLeaf(const std::u16string& name, const std::u16
         throw;
     }
     m_pendingTerminator = true;
-    return true;
 }
 
 void CFastInfosetWriter::WriteAttribute(const std::u16string& name, const std::u16string& namespaceUri,
@@ -240,18 +254,26 @@ void CFastInfosetWriter::WriteXsiNil() {
 void CFastInfosetWriter::WriteElementName(unsigned char flag, const std::u16string* prefix,
                                           const std::u16string& uri, const std::u16string& localName,
                                           std::uint64_t namespaceState) {
-    auto& map = m_vocabulary->m_elementNameIndex;
-    RecentName& recent = m_recentNames[PlaceOf(localName) % m_recentNames.size()];
+    const RecentName& recent = m_recentNames[PlaceOf(localName) % m_recentNames.size()];
     if (recent.namespaceState == namespaceState && recent.prefix == prefix &&
         recent.hasNamespace != uri.empty() && recent.localLength == localName.size() &&
-        SameText(map.TextOf(recent.index).substr(0, localName.size()), localName))
-        return WriteIntegerBit3(flag, recent.index);
+        SameText({m_vocabulary->m_elementNameIndex.TextOf(recent.index).data(), localName.size()}, localName))
+        AppendInteger(m_stream->m_data, integerBit3, flag, recent.index);
+    else
+        WriteOtherElementName(flag, prefix, uri, localName, namespaceState);
+}
+
+void CFastInfosetWriter::WriteOtherElementName(unsigned char flag, const std::u16string* prefix,
+                                               const std::u16string& uri, const std::u16string& localName,
+                                               std::uint64_t namespaceState) {
+    auto& map = m_vocabulary->m_elementNameIndex;
     static const std::u16string none;
     const std::u16string& shownPrefix = prefix ? *prefix : none;
     CFIVocabulary::MakeKey(shownPrefix, uri, localName, m_key);
     std::uint32_t index;
     if (CFIVocabulary::FindIndex(map, m_key, index)) {
-        recent = {index, namespaceState, prefix, !uri.empty(), localName.size()};
+        m_recentNames[PlaceOf(localName) % m_recentNames.size()] = {index, namespaceState, prefix,
+                                                                    !uri.empty(), localName.size()};
         return WriteIntegerBit3(flag, index);
     }
     WriteQName(flag | LiteralElementName, shownPrefix, uri, localName);
@@ -344,20 +366,28 @@ bool CFastInfosetWriter::EncodedCharacterStringBit7(unsigned char bits, const st
 bool CFastInfosetWriter::EncodedCharacterString(const EncodedStringForm& form, unsigned char bits,
                                                 const std::u16string& text, ItemType type) {
     const auto& encoding = m_fiContext->GetEncoding(static_cast<unsigned long>(type));
+    if (encoding.m_type != CFastInfosetContext::EncodingType_Default)
+        return WriteInEncoding(form, bits, text, type);
+    if (m_fiContext->GetDefaultStringEncoding() != 0)
+        Throw<CKzException>(messages::Utf16NotWritten);
+    return WriteUtf8String(form.length, bits, text);
+}
+
+/// The same for a form other than the plain string.
+bool CFastInfosetWriter::WriteInEncoding(const EncodedStringForm& form, unsigned char bits,
+                                         const std::u16string& text, ItemType type) {
+    const auto& encoding = m_fiContext->GetEncoding(static_cast<unsigned long>(type));
+    const std::uint32_t index = encoding.m_index;
     switch (encoding.m_type) {
-    case CFastInfosetContext::EncodingType_Default:
-        if (m_fiContext->GetDefaultStringEncoding() != 0)
-            Throw<CKzException>(messages::Utf16NotWritten);
-        return WriteUtf8String(form.length, bits, text);
     case CFastInfosetContext::EncodingType_RestrictedAlphabet:
-        AppendRestrictedAlphabetString(encoding.m_index, text);
-        return WriteEncoded(form, KindRestrictedAlphabet, bits, encoding.m_index, m_octets);
+        AppendRestrictedAlphabetString(index, text);
+        return WriteEncoded(form, KindRestrictedAlphabet, bits, index, m_octets);
     case CFastInfosetContext::EncodingType_Algorithm: {
-        if (encoding.m_index < AlgorithmHexadecimal || encoding.m_index > AlgorithmCdata)
-            Throw<CKzException>(messages::WrittenAlgorithm, encoding.m_index);
+        if (index < AlgorithmHexadecimal || index > AlgorithmCdata)
+            Throw<CKzException>(messages::WrittenAlgorithm, index);
         CFastInfosetBinaryData encoded;
-        encoded.SetAsEncodedString(encoding.m_index, text.c_str());
-        return WriteEncoded(form, KindAlgorithm, bits, encoding.m_index, AsText(encoded));
+        encoded.SetAsEncodedString(index, text.c_str());
+        return WriteEncoded(form, KindAlgorithm, bits, index, AsText(encoded));
     }
     default:
         throw CKzException(form.unknownEncoding);
@@ -376,25 +406,30 @@ bool CFastInfosetWriter::WriteEncoded(const EncodedStringForm& form, unsigned ki
 /// False, and nothing written, if the text has no bytes.
 bool CFastInfosetWriter::WriteUtf8String(const IntegerRule& rule, unsigned char bits,
                                          const std::u16string& text) {
-    constexpr std::size_t room = 256;
+    constexpr std::size_t longestShort = 256;
     constexpr std::size_t bytesPerUnit = 3;
-    if (text.size() > room / bytesPerUnit) {
+    if (text.empty())
+        return false;
+    if (text.size() > longestShort) {
         m_octets.clear();
         AppendUtf8(m_octets, text);
         if (!m_octets.empty())
             WriteOctets(rule, bits, m_octets);
         return !m_octets.empty();
     }
-    // The length goes right in front of the bytes, once it is known.
-    char bytes[IntegerRule::MaxOctets + room];
-    char* const start = bytes + IntegerRule::MaxOctets;
-    const std::size_t count = WriteShortUtf8(start, text);
-    if (count == 0)
-        return false;
-    Byte length[IntegerRule::MaxOctets];
-    const unsigned lengthBytes = rule.Encode(count, bits, length);
-    std::memcpy(start - lengthBytes, length, lengthBytes);
-    m_stream->m_data.Append(reinterpret_cast<const unsigned char*>(start - lengthBytes), lengthBytes + count);
+    // Most texts are ASCII, so that the length is known before the bytes are.
+    CBinaryData& out = m_stream->m_data;
+    Byte* const start = out.Reserve(IntegerRule::MaxOctets + bytesPerUnit * text.size());
+    std::size_t count = text.size();
+    Byte* to = start + rule.Encode(count, bits, start);
+    if (!WriteAscii(reinterpret_cast<char*>(to), text)) {
+        count = MeasureUtf8(text).bytes;
+        if (count == 0)
+            return false;
+        to = start + rule.Encode(count, bits, start);
+        WriteUtf8(reinterpret_cast<char*>(to), text);
+    }
+    out.Commit(to + count);
     return true;
 }
 
@@ -415,23 +450,19 @@ void CFastInfosetWriter::WriteOctets(const IntegerRule& rule, unsigned char bits
 }
 
 void CFastInfosetWriter::WriteIntegerBit2(unsigned char bits, std::uint32_t value) {
-    WriteInteger(integerBit2, bits, value);
+    AppendInteger(m_stream->m_data, integerBit2, bits, value);
 }
 
 void CFastInfosetWriter::WriteIntegerBit3(unsigned char bits, std::uint32_t value) {
-    WriteInteger(integerBit3, bits, value);
+    AppendInteger(m_stream->m_data, integerBit3, bits, value);
 }
 
 void CFastInfosetWriter::WriteIntegerBit4(std::uint32_t value) {
-    WriteInteger(integerBit4, CharacterChunk | CharacterChunkIndex, value);
+    AppendInteger(m_stream->m_data, integerBit4, CharacterChunk | CharacterChunkIndex, value);
 }
 
 void CFastInfosetWriter::WriteInteger(const IntegerRule& rule, unsigned char bits, std::uint64_t value) {
-    if (value < rule.bands[1].first) // as most are
-        return WriteByte(static_cast<Byte>(bits | (value - 1)));
-    Byte octets[IntegerRule::MaxOctets];
-    const unsigned count = rule.Encode(value, bits, octets);
-    m_stream->m_data.Append(octets, count);
+    AppendInteger(m_stream->m_data, rule, bits, value);
 }
 
 void CFastInfosetWriter::WriteByte(unsigned char byte) { m_stream->m_data.Append(byte); }

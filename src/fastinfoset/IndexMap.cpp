@@ -43,9 +43,12 @@ std::uint64_t CFIVocabulary::IndexMap::HashOf(std::u16string_view text) const {
 }
 
 std::uint32_t CFIVocabulary::IndexMap::Find(std::u16string_view text) const {
+    return Find(text, HashOf(text));
+}
+
+std::uint32_t CFIVocabulary::IndexMap::Find(std::u16string_view text, std::uint64_t hash) const {
     if (m_slots.empty())
         return 0;
-    const std::uint64_t hash = HashOf(text);
     for (std::size_t slot = hash & (m_slots.size() - 1);; slot = (slot + 1) & (m_slots.size() - 1)) {
         const std::uint32_t index = m_slots[slot];
         if (index == 0 || (m_entries[index - 1].hash == hash && SameText(TextOf(index), text)))
@@ -54,7 +57,8 @@ std::uint32_t CFIVocabulary::IndexMap::Find(std::u16string_view text) const {
 }
 
 void CFIVocabulary::IndexMap::Add(std::u16string_view text) {
-    if (m_entries.size() == MaxEntries || Find(text) != 0)
+    const std::uint64_t hash = HashOf(text);
+    if (m_entries.size() == MaxEntries || Find(text, hash) != 0)
         return;
     if (m_slots.empty())
         m_texts.reserve(fewestSlots * 4);
@@ -65,7 +69,7 @@ void CFIVocabulary::IndexMap::Add(std::u16string_view text) {
         for (std::uint32_t index = 1; index <= m_entries.size(); ++index)
             Place(index);
     }
-    m_entries.push_back({m_texts.size(), text.size(), HashOf(text)});
+    m_entries.push_back({m_texts.size(), text.size(), hash});
     try {
         m_texts += text;
     } catch (...) {
@@ -73,11 +77,6 @@ void CFIVocabulary::IndexMap::Add(std::u16string_view text) {
         throw;
     }
     Place(static_cast<std::uint32_t>(m_entries.size()));
-}
-
-std::u16string_view CFIVocabulary::IndexMap::TextOf(std::uint32_t index) const {
-    const Entry& entry = m_entries[index - 1];
-    return {m_texts.data() + entry.start, entry.length};
 }
 
 /// Puts an index into the first free slot for it.

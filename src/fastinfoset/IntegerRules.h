@@ -33,8 +33,9 @@ struct IntegerRule {
     Byte mask;               ///< the bits of the first byte that belong to the rule
     const char16_t* failure; ///< what a reader says of a pattern that has no band
 
-    /// Writes an integer of at least 1 behind leading bits of the first byte. Returns the number of bytes.
-    constexpr unsigned Encode(std::uint64_t value, Byte leadingBits, Byte (&octets)[MaxOctets]) const {
+    /// Writes an integer of at least 1 behind leading bits of the first byte, where there is room for
+    /// MaxOctets. Returns the number of bytes.
+    constexpr unsigned Encode(std::uint64_t value, Byte leadingBits, Byte* octets) const {
         const Band& band = LastUpTo(value, &Band::first);
         const std::uint64_t distance = (value - band.writtenFrom) & band.Mask();
         unsigned shift = 8u * band.followingBytes;

@@ -60,35 +60,47 @@ struct Utf16Extent {
 /// units as the text has bytes.
 Utf16Extent WriteUtf16(char16_t* to, std::string_view text);
 
-/// Writes eight code units as bytes. Returns all their bits, four units in each lane.
-inline std::uint64_t Narrow8(char* to, const char16_t* from) {
+/// Eight code units.
+typedef std::uint16_t UnitsOfAscii __attribute__((vector_size(16)));
+
+/// The low bytes of eight code units.
+inline std::uint64_t NarrowUnits(UnitsOfAscii units) {
     typedef unsigned char Bytes __attribute__((vector_size(8)));
-    typedef unsigned short Units __attribute__((vector_size(16)));
-    Units units;
-    std::memcpy(&units, from, sizeof units);
-    const Bytes bytes = __builtin_convertvector(units, Bytes);
-    std::memcpy(to, &bytes, sizeof bytes);
-    std::uint64_t words[2];
-    std::memcpy(words, &units, sizeof words);
-    return words[0] | words[1];
+    return std::bit_cast<std::uint64_t>(__builtin_convertvector(units, Bytes));
 }
 
-/// What WriteUtf8 does, quicker for a short text that is ASCII. Returns the bytes written.
-inline std::size_t WriteShortUtf8(char* to, std::u16string_view text) {
+/// Writes a text that is ASCII as bytes, by blocks that overlap at the end. False for any other text, and
+/// what was written is of no use then. Inline, since the texts of documents are short.
+inline bool WriteAscii(char* to, std::u16string_view text) {
     const char16_t* from = text.data();
     const std::size_t size = text.size();
-    std::uint64_t found = 0;
+    std::uint64_t words[2]{};
     if (size >= 8) {
+        UnitsOfAscii found{};
+        const auto narrow = [&](std::size_t at) {
+            UnitsOfAscii units;
+            std::memcpy(&units, from + at, sizeof units);
+            found |= units;
+            const std::uint64_t bytes = NarrowUnits(units);
+            std::memcpy(to + at, &bytes, sizeof bytes);
+        };
         for (std::size_t at = 0; at + 8 < size; at += 8)
-            found |= Narrow8(to + at, from + at);
-        found |= Narrow8(to + size - 8, from + size - 8);
+            narrow(at);
+        narrow(size - 8);
+        std::memcpy(words, &found, sizeof words);
+    } else if (size >= 4) {
+        std::memcpy(&words[0], from, sizeof words[0]);
+        std::memcpy(&words[1], from + size - 4, sizeof words[1]);
+        const std::uint64_t bytes = NarrowUnits(std::bit_cast<UnitsOfAscii>(words));
+        std::memcpy(to, &bytes, 4);
+        std::memcpy(to + size - 4, reinterpret_cast<const char*>(&bytes) + 4, 4);
     } else {
         for (std::size_t at = 0; at < size; ++at) {
             to[at] = static_cast<char>(from[at]);
-            found |= from[at];
+            words[0] |= from[at];
         }
     }
-    return (found & 0xFF80'FF80'FF80'FF80) == 0 ? size : WriteUtf8(to, text).bytes;
+    return ((words[0] | words[1]) & 0xFF80'FF80'FF80'FF80) == 0;
 }
 
 /// Writes the 16-bit form of a text that is ASCII, by blocks that overlap at the end. False for any other

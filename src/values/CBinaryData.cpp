@@ -119,6 +119,15 @@ void CBinaryData::MakePrivate() {
         Drop(std::exchange(m_buffer, Copy(m_buffer->m_data, m_buffer->m_length)));
 }
 
+void CBinaryData::MakeRoom(unsigned long count) {
+    if (!m_buffer)
+        SetBuffer(nullptr, 0);
+    const std::uint32_t sum = Checked(std::min<std::uint64_t>(count, maxLength + 1) + m_buffer->m_length);
+    MakePrivate();
+    if (sum > m_buffer->m_capacity)
+        MoveToArrayOf(Doubled(sum));
+}
+
 void CBinaryData::MoveToArrayOf(std::uint32_t capacity) {
     auto* array = new unsigned char[capacity];
     std::copy_n(m_buffer->m_data, m_buffer->m_length, array);

@@ -36,13 +36,13 @@ char16_t* PutIndent(char16_t* to, std::size_t depth) {
 }
 
 char16_t* PutUpToZero(char16_t* to, std::u16string_view text) {
-    return to + CopyUntil<u'\0'>(to, text.data(), text.size());
+    return to + CopyUntil<StopAtZero>(to, text.data(), text.size());
 }
 
 /// Copies up to a unit that needs an escape or ends the text.
 std::size_t CopyUnescaped(char16_t* to, std::u16string_view text, bool inAttribute) {
-    return inAttribute ? CopyUntil<u'\0', u'\n', u'\r', u'"', u'&', u'<', u'>'>(to, text.data(), text.size())
-                       : CopyUntil<u'\0', u'\n', u'\r', u'&', u'<', u'>'>(to, text.data(), text.size());
+    return inAttribute ? CopyUntil<StopInAttribute>(to, text.data(), text.size())
+                       : CopyUntil<StopInContent>(to, text.data(), text.size());
 }
 
 } // namespace
@@ -134,7 +134,7 @@ void CXmlTextWriter::StartElement(const std::u16string& name, const std::u16stri
     to = PutIndent(to, depth);
     *to++ = u'<';
     to = PutPrefix(to, prefix.prefix);
-    context->m_nameLength = CopyUntil<u'\0'>(to, name.data(), name.size());
+    context->m_nameLength = CopyUntil<StopAtZero>(to, name.data(), name.size());
     Buffer().Commit(to + context->m_nameLength);
     if (prefix.isNew) {
         Buffer().AppendChar(u' ');
@@ -189,7 +189,7 @@ void CXmlTextWriter::WriteEndTag(CXmlWriterContext& context) {
     *to++ = u'<';
     *to++ = u'/';
     to = PutPrefix(to, context.m_prefix);
-    to += CopyUntil<>(to, name.data(), name.size());
+    to += CopyUntil<StopAtZero>(to, name.data(), name.size());
     *to++ = u'>';
     Buffer().Commit(PutEol(to));
 }
@@ -200,47 +200,54 @@ bool CXmlTextWriter::WouldFlush(std::size_t count) const {
     return Buffer().GetLength() + count >= flushThreshold && typeid(*m_stream) != typeid(CTextStream);
 }
 
-bool CXmlTextWriter::WriteLeafAtOnce(CXmlWriter& writer, const std::u16string& name,
+void CXmlTextWriter::WriteLeafAtOnce(CXmlWriter& writer, const std::u16string& name,
                                      const std::u16string& namespaceUri, const std::u16string& text,
-                                     ItemType) {
-    return static_cast<CXmlTextWriter&>(writer).TryWriteLeaf(name, namespaceUri, text);
+                                     ItemType type) {
+    static_cast<CXmlTextWriter&>(writer).WritePlainLeaf(name, namespaceUri, text, type);
 }
 
-/// Writes an element in the namespace of its parent at one go, where nobody could tell the difference. False,
-/// and nothing written, for any other.
-bool CXmlTextWriter::TryWriteLeaf(const std::u16string& name, const std::u16string& namespaceUri,
-                                  const std::u16string& text) {
-    if (!m_context || text.empty() || text.front() == u'<' || text.size() > sliceSize ||
-        !m_context->IsPrefixKnown() || !SameText(namespaceUri, m_context->m_namespaceUri))
-        return false;
+/// Writes an element in the namespace of its parent at one go, where nobody could tell the difference, and
+/// any other by its parts.
+void CXmlTextWriter::WritePlainLeaf(const std::u16string& name, const std::u16string& namespaceUri,
+                                    const std::u16string& text, ItemType type) {
+    const std::size_t size = text.size();
+    if (!m_context || size == 0 || size > sliceSize || text.front() == u'<' ||
+        m_context->StateOfPrefix() != m_context->GetNamespaceMap().State() ||
+        !SameText(namespaceUri, m_context->m_namespaceUri))
+        return WriteLeafByParts(name, namespaceUri, text, type);
     const std::u16string* const prefix = m_context->m_prefix;
     const std::size_t depth = m_formatted ? static_cast<std::size_t>(m_context->m_depth) + 1 : 0;
-    const std::size_t endRoom = PrefixRoom(prefix) + name.size() + m_eol.size() + 3;
-    const std::size_t room = IndentRoom(depth) + text.size() + 2 * endRoom;
-    if (WouldFlush(room + (longestEscape - 1) * text.size()))
-        return false;
+    constexpr std::size_t marksRoom = 16; // brackets and line ends
+    const std::size_t endRoom = PrefixRoom(prefix) + name.size() + marksRoom + unitsAtOnce;
+    const std::size_t room = IndentRoom(depth) + size + 2 * endRoom;
+    if (WouldFlush(room + (longestEscape - 1) * size))
+        return WriteLeafByParts(name, namespaceUri, text, type);
 
-    char16_t* to = PutStartTagEnd(Buffer().Reserve(room));
+    CStringBuffer& buffer = Buffer();
+    char16_t* to = PutStartTagEnd(buffer.Reserve(room));
     to = PutIndent(to, depth);
     *to++ = u'<';
     const char16_t* const tag = to;
     to = PutPrefix(to, prefix);
-    to += CopyUntil<u'\0'>(to, name.data(), name.size());
-    const std::u16string_view fullName(tag, to);
+    to += CopyUntil<StopAtZero>(to, name.data(), name.size());
+    const auto tagSize = static_cast<std::size_t>(to - tag);
     *to++ = u'>';
-    const std::size_t copied = CopyUnescaped(to, text, false);
+    const std::size_t copied = CopyUntil<StopInContent>(to, text.data(), size);
     to += copied;
-    if (copied < text.size()) {
-        Buffer().Commit(to);
+    if (copied < size) {
+        buffer.Commit(to);
         WriteEscaped(std::u16string_view(text).substr(copied), false);
-        to = Buffer().Reserve(endRoom);
+        to = buffer.Reserve(endRoom);
     }
     *to++ = u'<';
     *to++ = u'/';
-    to += CopyUntil<>(to, fullName.data(), fullName.size());
+    to = PutBlocks(to, tag, tagSize);
     *to++ = u'>';
-    Buffer().Commit(PutEol(to));
-    return true;
+    if (m_formatted) { // one or two units; behind the only one stands a zero
+        std::memcpy(to, m_eol.data(), 2 * sizeof *to);
+        to += m_eol.size();
+    }
+    buffer.Commit(to);
 }
 
 void CXmlTextWriter::WriteAttribute(const std::u16string& name, const std::u16string& namespaceUri,

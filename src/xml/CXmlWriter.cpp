@@ -40,8 +40,14 @@ void CXmlWriter::AddNamespace(const std::u16string& alias, const std::u16string&
 
 void CXmlWriter::WriteLeaf(const std::u16string& name, const std::u16string& namespaceUri,
                            const std::u16string& text, ItemType type) {
-    if (m_leafClass && *m_leafClass == typeid(*this) && m_writeLeaf(*this, name, namespaceUri, text, type))
-        return;
+    if (m_leafClass == &typeid(*this)) // a class whose information is elsewhere too would only be slower
+        m_writeLeaf(*this, name, namespaceUri, text, type);
+    else
+        WriteLeafByParts(name, namespaceUri, text, type);
+}
+
+void CXmlWriter::WriteLeafByParts(const std::u16string& name, const std::u16string& namespaceUri,
+                                  const std::u16string& text, ItemType type) {
     StartElement(name, namespaceUri);
     WriteText(text, type);
     EndElement();

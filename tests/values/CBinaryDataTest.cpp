@@ -28,6 +28,11 @@ TEST(CBinaryData, ChangesOfACopyLeaveTheSource) {
 
     CBinaryData indexed = source;
     indexed[1] = 'X';
+    CBinaryData written = source;
+    unsigned char* const to = written.Reserve(10'000);
+    *to = 'e';
+    written.Commit(to + 1);
+    EXPECT_EQ(FromBinary(written), "abce");
     CBinaryData assigned;
     assigned = source;
     std::unique_ptr<unsigned char[]> released(assigned.ReleaseData());

@@ -114,7 +114,10 @@ private:
         /// Enters a text that is not there, unless the table is full.
         void Add(std::u16string_view text);
         /// The text of an index that Find has given. Valid until the next Add.
-        std::u16string_view TextOf(std::uint32_t index) const;
+        std::u16string_view TextOf(std::uint32_t index) const {
+            const Entry& entry = m_entries[index - 1];
+            return {m_texts.data() + entry.start, entry.length};
+        }
 
     private:
         struct Entry {
@@ -122,6 +125,8 @@ private:
             std::size_t length;
             std::uint64_t hash;
         };
+
+        std::uint32_t Find(std::u16string_view text, std::uint64_t hash) const;
 
         std::uint64_t HashOf(std::u16string_view text) const;
         void Place(std::uint32_t index);

@@ -70,11 +70,11 @@ private:
         std::size_t localLength = 0;
     };
 
-    static bool WriteLeafAtOnce(CXmlWriter& writer, const std::u16string& name,
+    static void WriteLeafAtOnce(CXmlWriter& writer, const std::u16string& name,
                                 const std::u16string& namespaceUri, const std::u16string& text,
                                 ItemType type);
-    bool TryWriteLeaf(const std::u16string& name, const std::u16string& namespaceUri,
-                      const std::u16string& text, ItemType type);
+    void WritePlainLeaf(const std::u16string& name, const std::u16string& namespaceUri,
+                        const std::u16string& text, ItemType type);
 
     void WriteHeader(FInfoDecl declaration);
     void WriteDocumentEnd();
@@ -86,6 +86,8 @@ private:
 
     void WriteElementName(unsigned char flag, const std::u16string* prefix, const std::u16string& uri,
                           const std::u16string& localName, std::uint64_t namespaceState);
+    void WriteOtherElementName(unsigned char flag, const std::u16string* prefix, const std::u16string& uri,
+                               const std::u16string& localName, std::uint64_t namespaceState);
     void WriteAttributeName(const std::u16string& prefix, const std::u16string& uri,
                             const std::u16string& localName);
     void WriteQName(unsigned char literal, const std::u16string& prefix, const std::u16string& uri,
@@ -100,6 +102,8 @@ private:
     bool EncodedCharacterStringBit7(unsigned char bits, const std::u16string& text, ItemType type);
     bool EncodedCharacterString(const fastinfoset::EncodedStringForm& form, unsigned char bits,
                                 const std::u16string& text, ItemType type);
+    bool WriteInEncoding(const fastinfoset::EncodedStringForm& form, unsigned char bits,
+                         const std::u16string& text, ItemType type);
     bool WriteEncoded(const fastinfoset::EncodedStringForm& form, unsigned kind, unsigned char bits,
                       std::uint32_t index, std::string_view octets);
     void AppendRestrictedAlphabetString(std::uint32_t index, const std::u16string& text);

@@ -61,6 +61,17 @@ public:
     void Append(char16_t unit);
     void Append(const char16_t* text);
     void Append(const std::u16string& text);
+    /// Room for `count` bytes behind the others, to be written in place. What was written becomes part of the
+    /// data by Commit, up to `end`, which has to be the next operation.
+    unsigned char* Reserve(unsigned long count) {
+        if (!m_buffer || count > m_buffer->m_capacity - m_buffer->m_length ||
+            m_buffer->m_refCount.load(std::memory_order_acquire) != 1)
+            MakeRoom(count);
+        return m_buffer->m_data + m_buffer->m_length;
+    }
+    void Commit(const unsigned char* end) {
+        m_buffer->m_length = static_cast<std::uint32_t>(end - m_buffer->m_data);
+    }
     /// Adds the bytes of another object, or of this one.
     void Append(const CBinaryData& other);
 
@@ -110,6 +121,7 @@ private:
     }
 
     void MakePrivate();
+    void MakeRoom(unsigned long count);
     void MoveToArrayOf(std::uint32_t capacity);
 
     CBinaryDataBuffer* m_buffer = nullptr;

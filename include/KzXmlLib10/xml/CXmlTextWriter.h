@@ -72,11 +72,11 @@ public:
     void CloseStartTag();
 
 private:
-    static bool WriteLeafAtOnce(CXmlWriter& writer, const std::u16string& name,
+    static void WriteLeafAtOnce(CXmlWriter& writer, const std::u16string& name,
                                 const std::u16string& namespaceUri, const std::u16string& text,
                                 ItemType type);
-    bool TryWriteLeaf(const std::u16string& name, const std::u16string& namespaceUri,
-                      const std::u16string& text);
+    void WritePlainLeaf(const std::u16string& name, const std::u16string& namespaceUri,
+                        const std::u16string& text, ItemType type);
     bool WouldFlush(std::size_t count) const;
     CStringBuffer& Buffer() const { return m_stream->GetBuffer(); }
     void WriteEscaped(std::u16string_view text, bool inAttribute);

@@ -151,8 +151,8 @@ protected:
         std::uint64_t m_stateOfPrefix = 0; ///< the namespace state in which `m_prefix` was found
     };
 
-    /// Writes a leaf at one go. False, and nothing written, for one that it is not made for.
-    using LeafOperation = bool (*)(CXmlWriter& writer, const std::u16string& name,
+    /// Writes a leaf at one go, or by its parts if it is not made for this one.
+    using LeafOperation = void (*)(CXmlWriter& writer, const std::u16string& name,
                                    const std::u16string& namespaceUri, const std::u16string& text,
                                    ItemType type);
 
@@ -214,6 +214,10 @@ protected:
     std::u16string m_defaultNamespace;
     std::unique_ptr<CXmlWriterContext> m_context;
     std::map<std::u16string, std::u16string> m_namespaces;
+
+    /// What WriteLeaf stands for.
+    void WriteLeafByParts(const std::u16string& name, const std::u16string& namespaceUri,
+                          const std::u16string& text, ItemType type);
 
 private:
     std::unique_ptr<CXmlWriterContext> MakeContext(const std::u16string& name,
