@@ -92,11 +92,13 @@ const Substitution* FindSubstitution(std::string_view text) {
     return found == std::end(substitutions) ? nullptr : found;
 }
 
+constexpr std::size_t anchors = 2; // which Translate adds
+
 bool MayNeedSubstitution(char c) { return c == '\\' || c == '\x01'; }
 
 std::string Substitute(std::string_view pattern) {
     std::string result;
-    result.reserve(pattern.size());
+    result.reserve(pattern.size() + anchors);
     for (;;) {
         const auto plain = std::ranges::find_if(pattern, MayNeedSubstitution);
         result.append(pattern.begin(), plain);

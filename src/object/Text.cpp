@@ -185,8 +185,14 @@ Utf8Extent WriteUtf8(char* to, std::u16string_view text) {
 }
 
 std::size_t AppendUtf8(std::string& out, std::u16string_view text) {
-    const Utf8Extent extent = MeasureUtf8(text);
+    constexpr std::size_t longestShort = 256;
     const std::size_t start = out.size();
+    if (text.size() <= longestShort) {
+        out.resize(start + text.size());
+        if (WriteAscii(out.data() + start, text))
+            return text.size();
+    }
+    const Utf8Extent extent = MeasureUtf8(text);
     out.resize(start + extent.bytes);
     WriteUtf8(out.data() + start, text.substr(0, extent.units));
     return extent.units;
