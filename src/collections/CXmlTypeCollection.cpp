@@ -1,7 +1,9 @@
 #include <KzXmlLib10/collections/CXmlTypeCollection.h>
 
 #include "object/NotNull.h"
+#include "object/TextScan.h"
 
+#include <KzXmlLib10/object/CXmlSerializationContext.h>
 #include <KzXmlLib10/xml/CXmlElement.h>
 
 namespace KzXmlLib10 {
@@ -25,7 +27,9 @@ CXmlTypeCollection::~CXmlTypeCollection() = default;
 CXmlElement* CXmlTypeCollection::FromXml_Int(CXmlElement*, CXmlElement* current,
                                              const CXmlSerializationContext& context, bool) {
     const std::u16string name = GetElementName();
-    while (current && DoesElementNameMatch(context, current, name.c_str(), m_elementNamespace.c_str())) {
+    const bool ignoresNamespaces = context.GetIgnoreNamespaces();
+    while (current && SameText(current->GetLocalName(), name) &&
+           (ignoresNamespaces || SameText(current->GetNamespaceURI(), m_elementNamespace))) {
         AddFromString(current->GetText());
         current = current->GetNextSiblingElement();
     }

@@ -57,14 +57,14 @@ bool RecordParser::Step() {
 
 void RecordParser::ReadBlock() {
     const std::uint64_t before = m_hasStarted ? m_source->GetPosition() : 0;
-    m_document.m_bufferSize =
+    m_document.m_inputSize =
         static_cast<std::uint32_t>(m_source->Read({m_document.m_buffer.get(), BlockSize}));
     m_handedIn = m_source->GetPosition() - before;
-    m_isLast = m_document.m_bufferSize < BlockSize;
+    m_isLast = m_document.m_inputSize < BlockSize;
 }
 
 void RecordParser::ParseBlock() {
-    m_sinceChild += m_document.m_bufferSize;
+    m_sinceChild += m_document.m_inputSize;
     {
         const AtWork atWork(this);
         m_reader.ParseChunk(m_isLast, m_handedIn);
@@ -81,7 +81,7 @@ bool RecordParser::TakeChild(const CXmlElement& element) {
         return false; // the root, or what is inside a child
     m_showChild(element);
     m_document.m_elementStack.front()->ClearText();
-    m_reader.RenewBudget(m_handedIn, m_document.m_bufferSize); // what was charged goes with the child
+    m_reader.RenewBudget(m_handedIn, m_document.m_inputSize); // what was charged goes with the child
     m_sinceChild = 0;
     return true;
 }
@@ -97,7 +97,7 @@ void RecordParser::LoadFastInfoset() {
     std::vector<unsigned char> bytes;
     for (;;) {
         const unsigned char* block = m_document.m_buffer.get();
-        bytes.insert(bytes.end(), block, block + m_document.m_bufferSize);
+        bytes.insert(bytes.end(), block, block + m_document.m_inputSize);
         CheckInflatedSize(bytes.size());
         if (const std::uint64_t limit = CurrentLimit(&Limits::inputBytes); bytes.size() > limit)
             Throw<CKzException>(messages::InputTooLarge, std::uint64_t{bytes.size()}, limit);

@@ -4,6 +4,7 @@
 #include "fastinfoset/Declarations.h"
 #include "fastinfoset/Messages.h"
 #include "fastinfoset/RestrictedAlphabet.h"
+#include "object/TextScan.h"
 #include "object/Throw.h"
 #include "object/Utf8.h"
 #include "xml/TreeBuilding.h"
@@ -44,8 +45,8 @@ bool IsOneOf(Byte byte, Byte markWithParts) { return (byte & ~PartsMask) == mark
 CFastInfosetReader::CFastInfosetReader(const CFastInfosetContext* context, CXmlDocument* document,
                                        std::uint64_t handedIn)
     : CInstanceMonitor(u"CFastInfosetReader"), m_fiContext(context), m_document(document),
-      m_next(document->m_buffer.get()), m_end(m_next + document->m_bufferSize) {
-    m_budget.Extend(handedIn, document->m_bufferSize);
+      m_next(document->m_input), m_end(m_next + document->m_inputSize) {
+    m_budget.Extend(handedIn, document->m_inputSize);
 }
 
 CFastInfosetReader::~CFastInfosetReader() = default;
@@ -276,7 +277,13 @@ void CFastInfosetReader::ParseAttribute(Byte first) {
 
 void CFastInfosetReader::ParseCharacterChunk(Byte first) {
     std::u16string_view text;
-    if (first & CharacterChunkIndex) {
+    if ((first & ~CharacterChunkLength) == CharacterChunk) { // UTF-8 that enters no table
+        const std::span<const Byte> octets = ReadBytes(ReadInteger(characterChunkForm.length, first));
+        if (AppendPlainText(AsText(octets)))
+            return;
+        DecodeUtf8(octets);
+        text = m_value;
+    } else if (first & CharacterChunkIndex) {
         text = EntryAt(m_vocabulary->m_characterChunks.m_values, ReadInteger(integerBit4, first));
     } else {
         ParseEncodedString(characterChunkForm, first);
@@ -286,6 +293,23 @@ void CFastInfosetReader::ParseCharacterChunk(Byte first) {
     }
     m_budget.Charge(text.size());
     CXmlDocument::AppendTextExcludingCR(m_document->m_elementStack.back(), text);
+}
+
+/// Appends a text that becomes the element's as it is. False for any other, and nothing is changed.
+bool CFastInfosetReader::AppendPlainText(std::string_view text) {
+    TextArena& texts = m_document->m_memory->texts;
+    if (text.size() > std::size(m_short))
+        return false;
+    texts.MakeRoom(text.size());
+    if (!texts.TryWriteAscii(text))
+        return false;
+    if (HoldsZeroOr(u'\r', texts.Written())) {
+        texts.Discard();
+        return false;
+    }
+    m_budget.Charge(text.size());
+    texts.Commit(m_document->m_elementStack.back()->m_text);
+    return true;
 }
 
 /// Reads a qualified name, an index or a literal. `shared` are the names in the tree for those entries of the
@@ -458,9 +482,12 @@ std::span<const Byte> CFastInfosetReader::ReadBytes(std::uint64_t count) {
 }
 
 /// Reads an integer that starts in a byte read already.
-std::uint64_t CFastInfosetReader::ReadInteger(const IntegerRule& rule, Byte first) {
-    if (const Byte pattern = first & rule.mask; pattern < rule.bands[1].mark) // as most are
-        return pattern + 1u;
+inline std::uint64_t CFastInfosetReader::ReadInteger(const IntegerRule& rule, Byte first) {
+    const Byte pattern = first & rule.mask;
+    return pattern < rule.bands[1].mark ? pattern + 1u : ReadLongInteger(rule, first); // mostly the first
+}
+
+std::uint64_t CFastInfosetReader::ReadLongInteger(const IntegerRule& rule, Byte first) {
     const Band* band = rule.AnnouncedBy(first);
     if (!band)
         throw CKzException(rule.failure);

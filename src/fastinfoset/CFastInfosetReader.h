@@ -69,6 +69,7 @@ private:
     bool ParseAttributes();
     void ParseAttribute(fastinfoset::Byte first);
     void ParseCharacterChunk(fastinfoset::Byte first);
+    bool AppendPlainText(std::string_view text);
     void PopElement();
 
     const SharedName& ParseName(fastinfoset::Byte first, fastinfoset::Byte literal, fastinfoset::Byte mask,
@@ -85,6 +86,7 @@ private:
     fastinfoset::Byte ReadByte();
     std::span<const fastinfoset::Byte> ReadBytes(std::uint64_t count);
     std::uint64_t ReadInteger(const fastinfoset::IntegerRule& rule, fastinfoset::Byte first);
+    std::uint64_t ReadLongInteger(const fastinfoset::IntegerRule& rule, fastinfoset::Byte first);
 
     const CFastInfosetContext* m_fiContext;
     CXmlDocument* m_document;

@@ -64,5 +64,6 @@ inline constexpr Byte CharacterChunkMask = 0xC0;
 inline constexpr Byte CharacterChunk = 0x80;
 inline constexpr Byte CharacterChunkIndex = 0x20;
 inline constexpr Byte AddChunkToTable = 0x10;
+inline constexpr Byte CharacterChunkLength = 0x03; // of a literal, the start of it
 
 } // namespace KzXmlLib10::fastinfoset

@@ -61,7 +61,7 @@ void CXmlObjectBase::FromXmlStream(unsigned char* const data, unsigned long size
 }
 
 void CXmlObjectBase::FromXmlStream(const CBinaryData& data, const CXmlSerializationContext& context) {
-    // Loading copies the bytes and changes none of them.
+    // Loading changes none of the bytes.
     FromXmlStream(const_cast<unsigned char*>(data.GetData()), data.GetLength(), context);
 }
 

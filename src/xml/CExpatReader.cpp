@@ -64,17 +64,17 @@ void CExpatReader::Initialize(const char* protocolEncoding) {
 }
 
 void CExpatReader::ParseChunk(bool isFinal, std::uint64_t handedIn) {
-    m_budget.Extend(handedIn, m_document->m_bufferSize);
-    std::span<unsigned char> left =
-        m_surrogates.Take({m_document->m_buffer.get(), m_document->m_bufferSize}, isFinal);
+    m_budget.Extend(handedIn, m_document->m_inputSize);
+    std::span<const unsigned char> left =
+        m_surrogates.Take({m_document->m_input, m_document->m_inputSize}, isFinal);
     expat::wasRefusedMemory = false;
     do {
-        const std::span<unsigned char> slice = left.first(std::min(left.size(), SliceSize));
+        const std::span<const unsigned char> slice = left.first(std::min(left.size(), SliceSize));
         left = left.subspan(slice.size());
         const bool isLast = isFinal && left.empty();
         const XML_Status status = XML_Parse(m_parser.get(), reinterpret_cast<const char*>(slice.data()),
                                             static_cast<int>(slice.size()), isLast);
-        const std::size_t units = CloseText();
+        const std::size_t units = CommitText();
         if (status != XML_STATUS_OK || m_failure)
             Fail();
         m_budget.Charge(units);
@@ -115,12 +115,14 @@ void CExpatReader::Handle(void* userData, Action action) noexcept {
 }
 
 void CExpatReader::StartElement(const XML_Char* name, const XML_Char** attributes) {
-    ChargeText();
     const bool isRoot = !m_document->m_documentElement;
-    if (isRoot)
+    if (isRoot) {
         m_document->StartTree();
+        m_texts = &m_document->m_memory->texts;
+    }
+    const std::size_t units = CommitText();
     const SharedName& shared = m_names.Find(name, m_document->m_memory->names);
-    m_budget.Charge(shared.Size(), sizeof(CXmlElement));
+    m_budget.Charge(units + shared.Size(), sizeof(CXmlElement));
     CXmlElement* element = isRoot ? m_document->AddDocElement(shared) : m_document->AddChildElement(shared);
     if (*attributes)
         AddAttributes(*element, attributes);
@@ -141,37 +143,34 @@ void CExpatReader::AddAttributes(CXmlElement& element, const XML_Char** attribut
     }
 }
 
-/// Appends to the innermost element, to whose text no run is open that has the room.
-void CExpatReader::AppendText(std::string_view text) {
-    if (text.size() > TextSliceSize)
-        return AppendLongText(text);
-    ChargeText();
-    m_text = m_document->m_memory->texts.Open(m_document->m_elementStack.back()->m_text, text.size());
-    m_text.AppendUtf8(text);
+/// Appends to the text of the innermost element.
+inline void CExpatReader::AppendText(std::string_view text) {
+    if (m_texts->HasRoom(text.size()))
+        m_texts->WriteUtf8(text);
+    else
+        AppendTextWithoutRoom(text);
 }
 
-void CExpatReader::AppendLongText(std::string_view text) {
-    while (text.size() > TextSliceSize) {
-        std::size_t size = TextSliceSize;
-        while ((text[size] & 0xC0) == 0x80) // within a character
+/// Appends it in slices, each of which is charged before the next one.
+void CExpatReader::AppendTextWithoutRoom(std::string_view text) {
+    while (!text.empty()) {
+        std::size_t size = std::min(text.size(), TextSliceSize);
+        while (size < text.size() && (text[size] & 0xC0) == 0x80) // within a character
             --size;
-        AppendText(text.substr(0, size));
+        ChargeText();
+        m_texts->MakeRoom(size);
+        m_texts->WriteUtf8(text.substr(0, size));
         text.remove_prefix(size);
     }
-    AppendText(text);
 }
 
-/// Returns the number of code units that have become part of the tree.
-inline std::size_t CExpatReader::CloseText() {
-    if (!m_text.piece)
-        return 0;
-    const std::size_t units = m_document->m_memory->texts.Close(m_text);
-    m_text = TextRun();
-    return units;
+/// Makes what was appended part of the tree. Returns the number of its code units.
+inline std::size_t CExpatReader::CommitText() {
+    return m_texts && m_texts->HasText() ? m_texts->Commit(m_document->m_elementStack.back()->m_text) : 0;
 }
 
 inline void CExpatReader::ChargeText() {
-    if (const std::size_t units = CloseText())
+    if (const std::size_t units = CommitText())
         m_budget.Charge(units);
 }
 
@@ -205,12 +204,15 @@ void XMLCALL CExpatReader::EndNamespaceDeclHandler(void*, const XML_Char*) {}
 void XMLCALL CExpatReader::CharacterDataHandler(void* reader, const XML_Char* text, int length) {
     auto& self = *static_cast<CExpatReader*>(reader);
     const std::string_view piece(text, static_cast<std::size_t>(length));
+    TextArena& texts = *self.m_texts;
     if (length == 1 && *text == '\r')
         return;
-    if (self.m_text.HasRoom(piece.size()))
-        self.m_text.AppendUtf8(piece);
+    if (length == 1 && texts.HasRoom(1)) // a line feed mostly, which is ASCII as all that is one byte
+        texts.WriteUnit(static_cast<unsigned char>(*text));
+    else if (texts.HasRoom(piece.size()))
+        texts.WriteUtf8(piece);
     else
-        Handle(reader, [piece](CExpatReader& reading) { reading.AppendText(piece); });
+        Handle(reader, [piece](CExpatReader& reading) { reading.AppendTextWithoutRoom(piece); });
 }
 
 /// The same for a text that may hold carriage returns in its midst.

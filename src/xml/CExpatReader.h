@@ -68,8 +68,8 @@ private:
     void StartElement(const XML_Char* name, const XML_Char** attributes);
     void AddAttributes(CXmlElement& element, const XML_Char** attributes);
     void AppendText(std::string_view text);
-    void AppendLongText(std::string_view text);
-    std::size_t CloseText();
+    void AppendTextWithoutRoom(std::string_view text);
+    std::size_t CommitText();
     void ChargeText();
     [[noreturn]] void Fail();
 
@@ -79,7 +79,7 @@ private:
     std::exception_ptr m_failure;
     ParserNames m_names;
     TreeBudget m_budget;
-    TextRun m_text; ///< of the innermost element, if it is open
+    TextArena* m_texts = nullptr; ///< of the tree, from its root on
 };
 
 } // namespace KzXmlLib10

@@ -2,6 +2,7 @@
 
 #include "object/CurrentLimit.h"
 #include "object/NotNull.h"
+#include "object/TextScan.h"
 #include "object/Throw.h"
 #include "xml/AsyncFiles.h"
 #include "xml/CExpatReader.h"
@@ -67,23 +68,32 @@ void CXmlDocument::LoadXml(const char16_t* text) {
     ParseText(size, "UTF-16");
 }
 
-/// An array for an input of `size` bytes.
-std::unique_ptr<unsigned char[]> CXmlDocument::NewBuffer(std::uint64_t size) {
+void CXmlDocument::RequireInputSize(std::uint64_t size) {
     if (const std::uint64_t limit = CurrentLimit(&Limits::inputBytes); size > limit)
         Throw<CKzException>(messages::InputTooLarge, size, limit);
+}
+
+/// An array for an input of `size` bytes.
+std::unique_ptr<unsigned char[]> CXmlDocument::NewBuffer(std::uint64_t size) {
+    RequireInputSize(size);
     return std::make_unique_for_overwrite<unsigned char[]>(size);
 }
 
 unsigned char* CXmlDocument::SetBuffer(std::unique_ptr<unsigned char[]> buffer, std::uint64_t size) {
     m_buffer = std::move(buffer);
-    m_bufferSize = static_cast<std::uint32_t>(size);
+    SetInput(m_buffer.get(), size);
     return m_buffer.get();
+}
+
+void CXmlDocument::SetInput(const unsigned char* input, std::uint64_t size) {
+    m_input = input;
+    m_inputSize = static_cast<std::uint32_t>(size);
 }
 
 /// The tree does not refer to the input.
 void CXmlDocument::ReleaseBuffer() {
     m_buffer.reset();
-    m_bufferSize = 0;
+    SetInput(nullptr, 0);
 }
 
 void CXmlDocument::ParseText(std::uint64_t handedIn, const char* protocolEncoding) {
@@ -132,6 +142,8 @@ void CXmlDocument::OfferElement(CXmlElement* element) {
 ///
 /// Deliberate: all carriage returns are left out.
 void CXmlDocument::AppendTextExcludingCR(CXmlElement* element, std::u16string_view text) {
+    if (!HoldsZeroOr(u'\r', text)) // as is usual
+        return element->AppendText(text);
     for (std::size_t start = 0, at = 0;; start = ++at) {
         while (at < text.size() && text[at] != u'\0' && text[at] != u'\r')
             ++at;

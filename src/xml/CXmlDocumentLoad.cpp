@@ -7,11 +7,12 @@
 #include "object/Throw.h"
 #include "xml/AsyncFiles.h"
 #include "xml/CExpatReader.h"
+#include "xml/Inflate.h"
 #include "xml/Messages.h"
 
 #include <KzXmlLib10/object/CXmlSerializationContext.h>
+#include <KzXmlLib10/values/CBinaryData.h>
 #include <KzXmlLib10/xml/AsyncFiles.h>
-#include <KzXmlLib10/xml/Compression.h>
 
 #include <cerrno>
 #include <cstring>
@@ -67,7 +68,12 @@ void CXmlDocument::LoadXmlStream(const unsigned char* data, unsigned long size) 
     if (size == 0)
         Throw<CKzException>(messages::XmlStreamIsEmpty);
     NotNull(data, u"data");
-    std::memcpy(SetBuffer(NewBuffer(size), size), data, size);
+    if (m_elementCallback) { // which may do to the bytes what it likes
+        std::memcpy(SetBuffer(NewBuffer(size), size), data, size);
+    } else {
+        RequireInputSize(size);
+        SetInput(data, size);
+    }
     Parse();
 }
 
@@ -92,7 +98,7 @@ void CXmlDocument::LoadWhole(const std::u16string& fileName) {
 
 /// Reads the form that the buffer turns out to have; text is what is nothing else.
 void CXmlDocument::Parse() {
-    const std::uint64_t handedIn = m_bufferSize;
+    const std::uint64_t handedIn = m_inputSize;
     DecompressBuffer();
     CFastInfosetReader reader(&m_context->GetFIContext(), this, handedIn);
     if (!reader.IsFastInfoset())
@@ -102,15 +108,13 @@ void CXmlDocument::Parse() {
     ReleaseBuffer();
 }
 
-/// Replaces the buffer by its content if it is a complete gzip or zlib stream.
+/// Replaces the input by its content if it is a complete gzip or zlib stream.
 void CXmlDocument::DecompressBuffer() {
-    unsigned char* data = m_buffer.get();
-    unsigned long size = m_bufferSize;
-    Decompress(&data, &size);
-    if (data == m_buffer.get())
+    CBinaryData content;
+    if (!Inflate(m_input, m_inputSize, content))
         return;
-    (void)m_buffer.release(); // freed by Decompress
-    SetBuffer(std::unique_ptr<unsigned char[]>(data), size);
+    const std::uint64_t size = content.GetLength();
+    SetBuffer(std::unique_ptr<unsigned char[]>(content.ReleaseData()), size);
 }
 
 void CXmlDocument::LoadInBlocks(const std::u16string& fileName) {
@@ -123,7 +127,7 @@ void CXmlDocument::LoadInBlocks(const std::u16string& fileName) {
     if (const int error = m_file->Finish(count))
         Throw<CKzException>(messages::FileNotRead, fileName, error);
     m_readOffset += count;
-    m_bufferSize = static_cast<std::uint32_t>(count);
+    SetInput(m_buffer.get(), count);
     AsyncParse(count < readBlockSize);
 }
 
@@ -144,17 +148,17 @@ void CXmlDocument::AsyncParse(bool isLast) {
         reader.Initialize();
         while (!isLast) {
             ReadChunkFromFile(spare.get());
-            reader.ParseChunk(false, m_bufferSize);
+            reader.ParseChunk(false, m_inputSize);
             std::size_t count = 0;
             // Deliberate: a file that ends with a full block fails here, since only a short one is the last.
             if (const int error = m_file->Finish(count))
                 Throw<CKzException>(messages::FileBlockNotRead, error);
             std::swap(m_buffer, spare);
             m_readOffset += count;
-            m_bufferSize = static_cast<std::uint32_t>(count);
+            SetInput(m_buffer.get(), count);
             isLast = count < readBlockSize;
         }
-        reader.ParseChunk(true, m_bufferSize);
+        reader.ParseChunk(true, m_inputSize);
         if (!m_documentElement)
             Throw<CKzException>(messages::NoRootElement);
     } catch (...) {

@@ -96,8 +96,9 @@ void CXmlElement::ReserveAttributes(std::size_t count) {
 }
 
 void CXmlElement::AddAttribute(const SharedName& name, std::u16string value) {
+    constexpr std::size_t first = 3; // which a block of the heap has room for at least
     if (!m_attributes || m_attributes->size() == m_attributes->capacity())
-        ReserveAttributes(m_attributes ? 2 * m_attributes->size() : 1);
+        ReserveAttributes(m_attributes ? 2 * m_attributes->size() : first);
     // Nothing fails from here on, once there is room.
     void* room = m_document->m_memory->attributes.Take();
     m_attributes->push_back(::new (room) CXmlAttribute(name, std::move(value)));

@@ -3,6 +3,7 @@
 #include "object/CurrentLimit.h"
 #include "object/NotNull.h"
 #include "object/Throw.h"
+#include "xml/Inflate.h"
 #include "xml/Messages.h"
 
 #include <zlib.h>
@@ -26,8 +27,8 @@ using ByteArray = std::unique_ptr<unsigned char[]>;
 template <int (*End)(z_stream*)>
 class Stream : public z_stream {
 public:
-    Stream(unsigned char* input, unsigned long size) : z_stream{} {
-        next_in = input;
+    Stream(const unsigned char* input, unsigned long size) : z_stream{} {
+        next_in = const_cast<unsigned char*>(input); // zlib changes nothing there
         avail_in = static_cast<uInt>(size);
     }
     Stream(const Stream&) = delete;
@@ -53,6 +54,12 @@ void RequireArray(unsigned char** data, const unsigned long* size) {
         NotNull(*data, u"data");
     if (*size > std::numeric_limits<std::uint32_t>::max())
         Throw<CKzException>(messages::StreamTooLong);
+}
+
+/// Whether the first byte is that of gzip or tells the method of zlib. Most inputs need no more than this
+/// look.
+bool MayBeCompressed(const unsigned char* data, unsigned long size) {
+    return size > 0 && (data[0] == 0x1F || (data[0] & 0x0F) == Z_DEFLATED);
 }
 
 [[noreturn]] void FailToCompress(int code) { Throw<CKzException>(messages::CompressionFailed, code); }
@@ -95,14 +102,14 @@ void CompressBuffer(unsigned char** data, unsigned long* size, CompressionType t
     *size = stream.total_out;
 }
 
-void Decompress(unsigned char** data, unsigned long* size) {
-    RequireArray(data, size);
+bool Inflate(const unsigned char* data, unsigned long size, CBinaryData& content) {
+    if (!MayBeCompressed(data, size))
+        return false;
     const std::uint64_t limit = CurrentLimit(&Limits::inflatedBytes);
-    Stream<inflateEnd> stream(*data, *size);
+    Stream<inflateEnd> stream(data, size);
     if (Checked(inflateInit2(&stream, eitherFormat)) != Z_OK)
-        return;
+        return false;
     const ByteArray block(new unsigned char[blockSize]);
-    CBinaryData content;
     int result;
     do { // anything but Z_OK ends it: a stream that asks for a dictionary would ask for ever
         stream.SetOutput(block.get(), blockSize);
@@ -111,11 +118,17 @@ void Decompress(unsigned char** data, unsigned long* size) {
             Throw<CKzException>(messages::InflatedTooLong, limit);
         content.Append(block.get(), blockSize - stream.avail_out);
     } while (result == Z_OK);
-    if (result != Z_STREAM_END)
+    return result == Z_STREAM_END;
+}
+
+void Decompress(unsigned char** data, unsigned long* size) {
+    RequireArray(data, size);
+    CBinaryData content;
+    if (!Inflate(*data, *size, content))
         return;
     delete[] * data;
+    *size = content.GetLength();
     *data = content.ReleaseData();
-    *size = stream.total_out;
 }
 
 } // namespace KzXmlLib10

@@ -2,7 +2,7 @@
 
 namespace KzXmlLib10 {
 
-std::span<unsigned char> SurrogateCheck::Take(std::span<unsigned char> chunk, bool isFinal) {
+std::span<const unsigned char> SurrogateCheck::Take(std::span<const unsigned char> chunk, bool isFinal) {
     if (m_encoding == Encoding::Other)
         return chunk;
     if (!m_held.empty()) {
@@ -28,8 +28,8 @@ SurrogateCheck::Encoding SurrogateCheck::Recognise(std::span<const unsigned char
     return Encoding::Other;
 }
 
-/// Returns the size of what can be parsed without knowing what follows.
-std::size_t SurrogateCheck::Mend(std::span<unsigned char> input) const {
+/// Returns the size of what can be parsed without knowing what follows. Only what has to be mended is copied.
+std::size_t SurrogateCheck::Mend(std::span<const unsigned char>& input) {
     if (m_encoding == Encoding::Unknown)
         return 0;
     if (m_encoding == Encoding::Other)
@@ -44,9 +44,17 @@ std::size_t SurrogateCheck::Mend(std::span<unsigned char> input) const {
         if ((input[at + 2 + high] & 0xFC) == 0xDC)
             at += 2;
         else
-            input[at + high] |= 0x04;
+            MakeLow(input, at + high);
     }
     return at;
+}
+
+void SurrogateCheck::MakeLow(std::span<const unsigned char>& input, std::size_t at) {
+    if (input.data() != m_joined.data()) {
+        m_joined.assign(input.begin(), input.end());
+        input = m_joined;
+    }
+    m_joined[at] |= 0x04;
 }
 
 } // namespace KzXmlLib10

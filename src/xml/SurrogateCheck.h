@@ -17,13 +17,14 @@ public:
     /// The bytes to be parsed next: those that were held back, and the chunk up to a character that goes on
     /// in the next one. An unpaired high surrogate has become a low one, which expat takes nowhere. They
     /// stand in the chunk or in the object.
-    std::span<unsigned char> Take(std::span<unsigned char> chunk, bool isFinal);
+    std::span<const unsigned char> Take(std::span<const unsigned char> chunk, bool isFinal);
 
 private:
     enum class Encoding { Unknown, BigEndian, LittleEndian, Other };
 
     static Encoding Recognise(std::span<const unsigned char> input);
-    std::size_t Mend(std::span<unsigned char> input) const;
+    std::size_t Mend(std::span<const unsigned char>& input);
+    void MakeLow(std::span<const unsigned char>& input, std::size_t at);
 
     Encoding m_encoding = Encoding::Unknown;
     std::vector<unsigned char> m_held;

@@ -1,11 +1,11 @@
 #pragma once
 
 #include "object/AddressSanitizer.h"
+#include "object/TextScan.h"
 #include "object/Utf8.h"
 
 #include <cstddef>
 #include <cstdint>
-#include <cstring>
 #include <memory>
 #include <new>
 #include <string_view>
@@ -36,25 +36,9 @@ struct TextPiece {
     bool IsAlone() const { return next == this && times == 1; }
 };
 
-/// What is being written behind the end of a text.
-struct TextRun {
-    TextPiece* piece = nullptr;
-    char16_t* to = nullptr;
-    char16_t* limit = nullptr;
-    TextPiece** last = nullptr;  ///< where the text refers to the piece
-    TextPiece* before = nullptr; ///< the piece before, if this one is new
-
-    /// Whether there is room for so many code units and the zero behind them.
-    bool HasRoom(std::size_t units) const { return limit - to > static_cast<std::ptrdiff_t>(units); }
-
-    /// Appends UTF-8 without a fault, where there is room for a code unit for each byte.
-    void AppendUtf8(std::string_view text) {
-        to += WriteAscii(to, text) ? text.size() : WriteUtf16(to, text).units;
-    }
-};
-
-/// The texts of a tree: pieces behind each other in chunks of memory. The newest piece grows in place, any
-/// other is continued by one more, so nothing is ever copied.
+/// The texts of a tree: pieces behind each other in chunks of memory. A text is written behind the newest
+/// piece and becomes a piece of its own there, or part of the last piece of its element, so nothing is copied
+/// as a rule.
 ///
 /// Under the address sanitizer each piece is a block of the heap, so that it sees a text used after its end.
 class TextArena {
@@ -63,37 +47,43 @@ public:
     TextArena(const TextArena&) = delete;
     TextArena& operator=(const TextArena&) = delete;
 
-    /// Starts a run at the end of the text of which `last` is the last piece, null if it is empty. It has
-    /// room for so many code units at least. Nothing else may happen to the texts until it is closed.
-    TextRun Open(TextPiece*& last, std::size_t units) {
-        if (last && last == m_newest) {
-            const TextRun run{last, last->End(), m_limit, &last, nullptr};
-            if (run.HasRoom(units))
-                return run;
+    /// Whether there is room to write so many code units and the zero behind them.
+    bool HasRoom(std::size_t units) const { return m_limit - m_to > static_cast<std::ptrdiff_t>(units); }
+    /// Makes that room, where nothing is written that was not committed.
+    void MakeRoom(std::size_t units) {
+        if (!HasRoom(units))
+            AddChunk(units);
+    }
+    /// Writes UTF-8 without a fault, where there is room for a code unit for each byte.
+    void WriteUtf8(std::string_view text) {
+        m_to += WriteAscii(m_to, text) ? text.size() : WriteUtf16(m_to, text).units;
+    }
+    /// Writes a text if it is ASCII, where there is room for it.
+    bool TryWriteAscii(std::string_view text) {
+        const bool isAscii = WriteAscii(m_to, text);
+        m_to += isAscii ? text.size() : 0;
+        return isAscii;
+    }
+    void WriteUnit(char16_t unit) { *m_to++ = unit; }
+    /// What is written and was not committed.
+    std::u16string_view Written() const { return {m_next, static_cast<std::size_t>(m_to - m_next)}; }
+    bool HasText() const { return m_to != m_next; }
+    void Discard() { m_to = m_next; }
+    /// Appends what has been written to the text of which `last` is the last piece, null if it is empty.
+    /// Returns the number of its code units, which is not 0.
+    std::size_t Commit(TextPiece*& last) {
+        const auto size = static_cast<std::size_t>(m_to - m_next);
+        if (last && IsOneMore(*last, size)) {
+            ++last->times;
+            m_to = m_next;
+        } else if (last && last == m_newest && last->times == 1) {
+            GrowNewest(size);
+        } else {
+            AddPiece(last, size);
         }
-        TextRun run{nullptr, m_next, m_limit, &last, last};
-        if (!run.HasRoom(units))
-            AddChunk(run, units);
-        run.piece = ::new (reinterpret_cast<std::byte*>(run.to) - TextPiece::headerSize) TextPiece;
-        run.piece->size = 0;
-        run.piece->times = 1;
-        run.piece->next = last ? std::exchange(last->next, run.piece) : run.piece;
-        m_newest = last = run.piece;
-        return run;
+        return size;
     }
-    /// Makes a run part of its text. Returns the number of its code units.
-    std::size_t Close(const TextRun& run) {
-        const auto size = static_cast<std::uint32_t>(run.to - run.piece->Units());
-        const std::size_t units = size - run.piece->size;
-        run.piece->size = size & TextPiece::mostUnits;
-        *run.to = u'\0';
-        if (run.before && run.before->size == size && IsOneMore(run))
-            Drop(run);
-        else
-            m_next = Behind(run.to);
-        return units;
-    }
-    /// Appends to a text.
+    /// Appends to a text, where nothing is written that was not committed.
     void Append(TextPiece*& last, std::u16string_view text);
 
     /// Empties a text. Its memory serves again once its last piece is the newest.
@@ -121,24 +111,27 @@ private:
         const auto free = reinterpret_cast<std::uintptr_t>(end + 1);
         return reinterpret_cast<char16_t*>((free + unit - 1) / unit * unit + TextPiece::headerSize);
     }
-    void AddChunk(TextRun& run, std::size_t units);
-
-    /// Whether the piece of a run is like the one before it, which is as long.
-    static bool IsOneMore(const TextRun& run) {
-        return run.before->times < TextPiece::mostTimes &&
-               std::memcmp(run.before->Units(), run.piece->Units(), run.piece->size * sizeof(char16_t)) == 0;
+    /// Whether what is written is like the last piece.
+    bool IsOneMore(TextPiece& last, std::size_t size) const {
+        return last.size == size && last.times < TextPiece::mostTimes &&
+               SameText(last.View(), {m_next, size});
     }
-    void Drop(const TextRun& run) {
-        ++run.before->times;
-        run.before->next = run.piece->next;
-        *run.last = run.before;
-        m_newest = nullptr;
-        m_next = run.piece->Units();
+    void AddPiece(TextPiece*& last, std::size_t size) {
+        auto* piece = ::new (reinterpret_cast<std::byte*>(m_next) - TextPiece::headerSize) TextPiece;
+        piece->size = static_cast<std::uint32_t>(size) & TextPiece::mostUnits;
+        piece->times = 1;
+        piece->next = last ? std::exchange(last->next, piece) : piece;
+        *m_to = u'\0';
+        m_newest = last = piece;
+        m_next = m_to = Behind(m_to);
     }
+    void GrowNewest(std::size_t size);
+    void AddChunk(std::size_t units);
 
     std::vector<Chunk> m_chunks;
-    TextPiece* m_newest = nullptr; ///< in the last chunk; null if it was dropped
+    TextPiece* m_newest = nullptr; ///< in the last chunk; null if that has none
     char16_t* m_next = nullptr;    ///< where the code units of the next piece go, if there is room
+    char16_t* m_to = nullptr;      ///< the end of what is written there
     char16_t* m_limit = nullptr;   ///< the end of that chunk
 };
 

@@ -65,9 +65,9 @@ public:
     ///
     /// A whole file may be in any form that LoadXmlStream takes.
     void Load(const char16_t* fileName);
-    /// Reads a copy of `size` bytes: text, in the encoding that its mark or its declaration tells, or a Fast
-    /// Infoset document (ITU-T X.891), or a gzip or zlib stream of either, which is found out by trying.
-    /// No bytes fail with "XML Stream is empty!".
+    /// Reads `size` bytes, which may go afterwards: text, in the encoding that its mark or its declaration
+    /// tells, or a Fast Infoset document (ITU-T X.891), or a gzip or zlib stream of either, which is found
+    /// out by trying. No bytes fail with "XML Stream is empty!".
     ///
     /// For Fast Infoset the callback is not called, SchemaType_NoNamespaces leaves its namespaces, and its
     /// strings may hold what XML forbids.
@@ -99,9 +99,11 @@ private:
     void LoadInBlocks(const std::u16string& fileName);
     void ReadChunkFromFile(unsigned char* block);
     void AsyncParse(bool isLast);
+    static void RequireInputSize(std::uint64_t size);
     static std::unique_ptr<unsigned char[]> NewBuffer(std::uint64_t size);
     void ReleaseBuffer();
     unsigned char* SetBuffer(std::unique_ptr<unsigned char[]> buffer, std::uint64_t size);
+    void SetInput(const unsigned char* input, std::uint64_t size);
 
     /// Makes the memory of the tree, before the name of its root is shared.
     void StartTree();
@@ -119,7 +121,9 @@ private:
     std::vector<CXmlElement*> m_elementStack;
     std::map<std::u16string, std::u16string, std::less<>> m_namespaceAliases;
     std::unique_ptr<unsigned char[]> m_buffer;
-    std::uint32_t m_bufferSize = 0;
+    /// What is parsed: in the buffer, or the bytes of the caller.
+    const unsigned char* m_input = nullptr;
+    std::uint32_t m_inputSize = 0;
     SchemaType m_schemaType;
     bool (*m_elementCallback)(CXmlElement*);
     const CXmlSerializationContext* m_context;
