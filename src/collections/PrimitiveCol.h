@@ -64,7 +64,7 @@ void CPrimitiveCol<Collection, T>::AddAt(int index, T value) {
     FireOnCollectionAdd(&value); // Deliberate: also for an index that is refused below.
     RequireInsertIndex(index, GetCount());
     if constexpr (!std::is_null_pointer_v<decltype(primitiveColFacts<Collection>.check)>)
-        primitiveColFacts<Collection>.check(GetElementName().c_str(), value, m_restrictions);
+        primitiveColFacts<Collection>.check(ElementName().c_str(), value, m_restrictions);
     // Listeners still see the value afterwards; without any it is moved.
     m_items.Insert(index, HasEventListeners() ? value : std::move(value));
     FireOnCollectionAddComplete(&value);
@@ -99,7 +99,8 @@ void CPrimitiveCol<Collection, T>::Remove(int index) {
 template <class Collection, class T>
 void CPrimitiveCol<Collection, T>::AddFromString(std::u16string text) {
     if constexpr (std::is_same_v<T, std::u16string>)
-        Add(ApplyRuleTo(std::move(text), m_whitespaceRule));
+        Add(IsLeftAlone(text, m_whitespaceRule) ? std::move(text)
+                                                : CWhitespaceUtils::ApplyRule(m_whitespaceRule, text));
     else
         Add(primitiveColFacts<Collection>.fromText(text, m_whitespaceRule));
 }

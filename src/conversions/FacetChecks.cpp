@@ -2,11 +2,10 @@
 
 #include <KzXmlLib10/conversions/CConversions.h>
 #include <KzXmlLib10/conversions/CPrimitiveRestrictions.h>
-#include <KzXmlLib10/conversions/XsdPattern.h>
-#include <KzXmlLib10/object/Text.h>
 #include <KzXmlLib10/values/KzVariant.h>
 
 #include "conversions/Messages.h"
+#include "conversions/PatternMatching.h"
 #include "object/Digit.h"
 #include "object/Throw.h"
 
@@ -33,7 +32,7 @@ std::partial_ordering CompareExact(const T& value, const T& bound) {
     return value < bound ? std::partial_ordering::less : std::partial_ordering::greater;
 }
 std::partial_ordering Compare(const CDecimal& value, const CDecimal& bound) {
-    return CompareExact(value, bound);
+    return value > bound ? std::partial_ordering::greater : CompareExact(value, bound);
 }
 std::partial_ordering Compare(const CBigInteger& value, const CBigInteger& bound) {
     return CompareExact(value, bound);
@@ -120,7 +119,7 @@ bool HasLengthWithin(std::size_t length, const CPrimitiveRestrictions& restricti
 
 bool MatchesPattern(const char16_t* name, const std::u16string& value, const std::u16string& pattern) {
     try {
-        return MatchXsdPattern(ConvertToUtf8(pattern), value);
+        return MatchXsdPatternOf(pattern, value);
     } catch (CKzException& failure) {
         Throw<CKzException>(messages::PatternFailed, failure.GetFullMessage(), name, value);
     }

@@ -81,11 +81,26 @@ private:
     const char* m_end;
 };
 
+/// As many digits make an integer that a double holds exactly.
+constexpr std::size_t exactDigits = 15;
+
 /// The parts of a real without its sign, such as 0 / 00250 / 3 for 0.00250e3.
 struct Decimal {
     std::u16string_view whole;
     std::u16string_view fraction;
     std::int64_t exponent = 0;
+
+    /// The value of up to exactDigits digits without an exponent: two numbers that are exact, so that their
+    /// quotient is the nearest double.
+    double ExactValue() const {
+        constexpr double powersOfTen[] = {1e0, 1e1, 1e2,  1e3,  1e4,  1e5,  1e6,  1e7,
+                                          1e8, 1e9, 1e10, 1e11, 1e12, 1e13, 1e14, 1e15};
+        std::int64_t digits = 0;
+        for (const std::u16string_view part : {whole, fraction})
+            for (const char16_t digit : part)
+                digits = digits * 10 + (digit - u'0');
+        return static_cast<double>(digits) / powersOfTen[fraction.size()];
+    }
 
     /// Whether the value is 1 or more, for a value that is not zero. It decides where a number beyond the
     /// range of double went.
@@ -132,6 +147,12 @@ ScannedInteger ScanInteger(std::u16string_view text) {
     if (digits.empty())
         cursor.GoTo(0);
     result.complete = cursor.Peek() == u'\0';
+    constexpr std::size_t fitting = 19; // digits, of any number that fits
+    if (digits.size() <= fitting) {
+        for (const char16_t digit : digits)
+            result.magnitude = result.magnitude * 10 + static_cast<unsigned>(digit - u'0');
+        return result;
+    }
     for (const char16_t digit : digits)
         if (__builtin_mul_overflow(result.magnitude, 10u, &result.magnitude) ||
             __builtin_add_overflow(result.magnitude, static_cast<unsigned>(digit - u'0'),
@@ -158,6 +179,11 @@ ScannedReal ScanReal(std::u16string_view text) {
     }
     parts.exponent = ReadExponent(cursor);
     result.complete = cursor.Peek() == u'\0';
+    if (parts.exponent == 0 && parts.whole.size() + parts.fraction.size() <= exactDigits) {
+        const double magnitude = parts.ExactValue();
+        result.value = negative ? -magnitude : magnitude;
+        return result;
+    }
     const Narrowed narrow(cursor.From(start));
     double magnitude = 0;
     if (std::from_chars(narrow.begin(), narrow.end(), magnitude).ec == std::errc::result_out_of_range)

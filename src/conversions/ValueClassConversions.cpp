@@ -2,6 +2,7 @@
 
 #include <KzXmlLib10/conversions/CConversions.h>
 
+#include "conversions/FromText.h"
 #include "conversions/NumberText.h"
 #include "conversions/WorkingText.h"
 
@@ -16,9 +17,9 @@ using WhitespaceRule = CWhitespaceUtils::WhitespaceRule;
 
 /// What the operation makes of the text, which ends at its first NUL.
 template <auto Set>
-CBinaryData ReadBinary(const std::u16string& given, WhitespaceRule rule) {
+CBinaryData ReadBinary(std::u16string_view given, WhitespaceRule rule) {
     const WorkingText working(given, rule);
-    const std::u16string& text = working.Get();
+    const std::u16string text(working.Get());
     CBinaryData value;
     if (text.find(u'\0') == std::u16string::npos)
         (value.*Set)(text);
@@ -29,9 +30,9 @@ CBinaryData ReadBinary(const std::u16string& given, WhitespaceRule rule) {
 
 /// What the parser makes of a value of that kind, which need not be of that kind any more.
 template <auto Parse>
-CDateTime ReadDateTime(CDateTime::DTType kind, const std::u16string& text, WhitespaceRule rule) {
+CDateTime ReadDateTime(CDateTime::DTType kind, std::u16string_view text, WhitespaceRule rule) {
     CDateTime value(kind);
-    (value.*Parse)(WorkingText(text, rule).Get().c_str());
+    (value.*Parse)(WorkingText(text, rule).c_str());
     return value;
 }
 
@@ -49,21 +50,19 @@ int LeadingInteger(const std::u16string& text) {
 
 std::u16string CConversions::hexBinaryToString(const CBinaryData& value) { return value.GetAsHexString(); }
 
-CBinaryData CConversions::hexBinaryFromString(const std::u16string& text, WhitespaceRule rule) {
+CBinaryData fromText::hexBinary(Text text, Rule rule) {
     return ReadBinary<&CBinaryData::SetAsHexString>(text, rule);
 }
 
 std::u16string CConversions::base64BinaryToString(const CBinaryData& value) { return value.GetAsBase64(); }
 
-CBinaryData CConversions::base64BinaryFromString(const std::u16string& text, WhitespaceRule rule) {
+CBinaryData fromText::base64Binary(Text text, Rule rule) {
     return ReadBinary<&CBinaryData::SetAsBase64>(text, rule);
 }
 
 std::u16string CConversions::integerToString(const CBigInteger& value) { return value.ToString(); }
 
-CBigInteger CConversions::integerFromString(const std::u16string& text, WhitespaceRule rule) {
-    return CBigInteger(WorkingText(text, rule).Get().c_str());
-}
+CBigInteger fromText::integer(Text text, Rule rule) { return CBigInteger(WorkingText(text, rule).c_str()); }
 
 std::u16string CConversions::decimalToString(const CDecimal& value) { return value.ToString(); }
 
@@ -71,15 +70,13 @@ std::u16string CConversions::decimalToString(const CDecimal& value, const std::u
     return format.empty() ? value.ToString() : value.ToString(LeadingInteger(format));
 }
 
-CDecimal CConversions::decimalFromString(const std::u16string& text, WhitespaceRule rule) {
-    return CDecimal(WorkingText(text, rule).Get().c_str());
-}
+CDecimal fromText::decimal(Text text, Rule rule) { return CDecimal(WorkingText(text, rule).c_str()); }
 
 std::u16string CConversions::durationToString(const CDateTimeSpan& value) { return value.ToString(); }
 
-CDateTimeSpan CConversions::durationFromString(const std::u16string& text, WhitespaceRule rule) {
+CDateTimeSpan fromText::duration(Text text, Rule rule) {
     CDateTimeSpan value;
-    value.ParseXSDDuration(WorkingText(text, rule).Get().c_str());
+    value.ParseXSDDuration(WorkingText(text, rule).c_str());
     return value;
 }
 
@@ -89,36 +86,34 @@ std::u16string CConversions::timeToString(const CDateTime& value) { return value
 std::u16string CConversions::yearMonthToString(const CDateTime& value) { return value.ToString(); }
 std::u16string CConversions::monthDayToString(const CDateTime& value) { return value.ToString(); }
 
-CDateTime CConversions::datetimeFromString(const std::u16string& text, WhitespaceRule rule) {
+CDateTime fromText::datetime(Text text, Rule rule) {
     return ReadDateTime<&CDateTime::ParseXSDDateTime>(CDateTime::DTType_dateTime, text, rule);
 }
 
-CDateTime CConversions::timeFromString(const std::u16string& text, WhitespaceRule rule) {
+CDateTime fromText::time(Text text, Rule rule) {
     return ReadDateTime<&CDateTime::ParseXSDTime>(CDateTime::DTType_time, text, rule);
 }
 
-CDateTime CConversions::dateFromString(const std::u16string& text, WhitespaceRule rule) {
-    return ReadDate(CDateTime::DTType_date, text, rule);
-}
+CDateTime fromText::date(Text text, Rule rule) { return ReadDate(CDateTime::DTType_date, text, rule); }
 
-CDateTime CConversions::yearMonthFromString(const std::u16string& text, WhitespaceRule rule) {
+CDateTime fromText::yearMonth(Text text, Rule rule) {
     return ReadDate(CDateTime::DTType_gYearMonth, text, rule);
 }
 
-CDateTime CConversions::monthDayFromString(const std::u16string& text, WhitespaceRule rule) {
+CDateTime fromText::monthDay(Text text, Rule rule) {
     return ReadDate(CDateTime::DTType_gMonthDay, text, rule);
 }
 
-std::uint16_t CConversions::yearFromString(const std::u16string& text, WhitespaceRule rule) {
+std::uint16_t fromText::year(Text text, Rule rule) {
     // Deliberate: a negative year reads as its two's complement.
     return static_cast<std::uint16_t>(ReadDate(CDateTime::DTType_gYear, text, rule).GetYear());
 }
 
-std::uint8_t CConversions::monthFromString(const std::u16string& text, WhitespaceRule rule) {
+std::uint8_t fromText::month(Text text, Rule rule) {
     return ReadDate(CDateTime::DTType_gMonth, text, rule).GetMonth();
 }
 
-std::uint8_t CConversions::dayFromString(const std::u16string& text, WhitespaceRule rule) {
+std::uint8_t fromText::day(Text text, Rule rule) {
     return ReadDate(CDateTime::DTType_gDay, text, rule).GetDay();
 }
 

@@ -4,40 +4,42 @@
 
 #include "object/TextScan.h"
 
-#include <algorithm>
 #include <string>
+#include <string_view>
 
 namespace KzXmlLib10 {
 
 /// A text after its whitespace rule. Nothing is copied where the rule has nothing to change, as is usual for
-/// numbers; the given text must outlive the object.
+/// numbers; the given text, which a zero follows, must outlive the object.
 class WorkingText {
 public:
-    WorkingText(const std::u16string& given, CWhitespaceUtils::WhitespaceRule rule)
-        : m_changed(!LeavesAlone(given, rule)),
-          m_made(m_changed ? CWhitespaceUtils::ApplyRule(rule, given) : std::u16string()), m_given(given) {}
+    WorkingText(std::u16string_view given, CWhitespaceUtils::WhitespaceRule rule) : m_text(given) {
+        if (!LeavesAlone(given, rule))
+            m_text = m_made = CWhitespaceUtils::ApplyRule(rule, std::u16string(given));
+    }
+    WorkingText(const WorkingText&) = delete;
+    WorkingText& operator=(const WorkingText&) = delete;
 
-    const std::u16string& Get() const { return m_changed ? m_made : m_given; }
+    /// A zero follows it.
+    std::u16string_view Get() const { return m_text; }
+    const char16_t* c_str() const { return m_text.data(); }
 
 private:
-    static bool LeavesAlone(const std::u16string& text, CWhitespaceUtils::WhitespaceRule rule) {
+    static bool LeavesAlone(std::u16string_view text, CWhitespaceUtils::WhitespaceRule rule) {
         if (rule == CWhitespaceUtils::WhitespaceRule_None)
             return true;
         const bool known = rule > 0 && rule <= CWhitespaceUtils::WhitespaceRule_Collapse;
-        return known && std::ranges::all_of(text, [](char16_t unit) { return unit > u' '; });
+        return known && !HoldsUnitBelow(u' ' + 1, text);
     }
 
-    bool m_changed;
+    std::u16string_view m_text;
     std::u16string m_made;
-    const std::u16string& m_given;
 };
 
-/// The text after its whitespace rule, without a copy where the rule has nothing to change.
-inline std::u16string ApplyRuleTo(std::u16string text, CWhitespaceUtils::WhitespaceRule rule) {
-    if (rule == CWhitespaceUtils::WhitespaceRule_None ||
-        (rule == CWhitespaceUtils::WhitespaceRule_Preserve && !MayHold(text, '\r')))
-        return text;
-    return CWhitespaceUtils::ApplyRule(rule, text);
+/// Whether a string has the same text after its whitespace rule.
+inline bool IsLeftAlone(std::u16string_view text, CWhitespaceUtils::WhitespaceRule rule) {
+    return rule == CWhitespaceUtils::WhitespaceRule_None ||
+           (rule == CWhitespaceUtils::WhitespaceRule_Preserve && !MayHold(text, '\r'));
 }
 
 } // namespace KzXmlLib10

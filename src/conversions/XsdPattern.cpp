@@ -4,8 +4,10 @@
 
 #include "conversions/LenientPattern.h"
 #include "conversions/Messages.h"
+#include "conversions/PatternMatching.h"
 #include "object/CurrentLimit.h"
 #include "object/Throw.h"
+#include "object/Utf8.h"
 
 #define PCRE2_CODE_UNIT_WIDTH 8
 #include <pcre2.h>
@@ -92,28 +94,59 @@ const Substitution* FindSubstitution(std::string_view text) {
     return found == std::end(substitutions) ? nullptr : found;
 }
 
-constexpr std::size_t anchors = 2; // which Translate adds
-
-bool MayNeedSubstitution(char c) { return c == '\\' || c == '\x01'; }
-
-std::string Substitute(std::string_view pattern) {
-    std::string result;
-    result.reserve(pattern.size() + anchors);
+/// Appends the pattern with all substitutions.
+void AppendSubstituted(std::string& to, std::string_view pattern) {
+    const bool holdsMark = pattern.find('\x01') != pattern.npos;
     for (;;) {
-        const auto plain = std::ranges::find_if(pattern, MayNeedSubstitution);
-        result.append(pattern.begin(), plain);
-        pattern.remove_prefix(static_cast<std::size_t>(plain - pattern.begin()));
+        const std::size_t plain =
+            std::min(holdsMark ? pattern.find_first_of("\\\x01") : pattern.find('\\'), pattern.size());
+        to.append(pattern, 0, plain);
+        pattern.remove_prefix(plain);
         if (pattern.empty())
-            return result;
+            return;
         const Substitution* substitution = FindSubstitution(pattern);
-        result.append(substitution ? substitution->to : pattern.substr(0, 1));
+        to.append(substitution ? substitution->to : pattern.substr(0, 1));
         pattern.remove_prefix(substitution ? substitution->from.size() : 1);
     }
 }
 
 std::string Translate(std::string_view pattern) {
+    std::string result;
+    result.reserve(pattern.size() + 2);
     // Deliberate: no group; each branch but the outer ones stands without an anchor.
-    return '^' + MakeLenientPattern(Substitute(pattern)) + '$';
+    result += '^';
+    AppendSubstituted(result, pattern);
+    result = MakeLenientPattern(std::move(result));
+    result += '$';
+    return result;
+}
+
+/// The UTF-8 form of a text up to its first lone surrogate, on the stack if it is short.
+class Utf8Text {
+public:
+    explicit Utf8Text(std::u16string_view text) {
+        constexpr std::size_t mostBytesOfUnit = 3;
+        if (text.size() <= sizeof m_short / mostBytesOfUnit)
+            m_text = {m_short, WriteAscii(m_short, text) ? text.size() : WriteUtf8(m_short, text).bytes};
+        else
+            m_text = m_long = ConvertToUtf8(text);
+    }
+    Utf8Text(const Utf8Text&) = delete;
+    Utf8Text& operator=(const Utf8Text&) = delete;
+
+    std::string_view Get() const { return m_text; }
+
+private:
+    char m_short[192];
+    std::string m_long;
+    std::string_view m_text;
+};
+
+bool IsAscii(std::string_view text) {
+    unsigned char found = 0;
+    for (const char c : text) // all of them, so that many are looked at together
+        found |= static_cast<unsigned char>(c);
+    return (found & 0x80) == 0;
 }
 
 template <class T>
@@ -133,25 +166,22 @@ std::u16string ErrorText(int error) {
 /// saves, as does the search for what cannot backtrack: both are made for patterns that match often.
 constexpr std::uint32_t compileOptions = PCRE2_UTF | PCRE2_NO_START_OPTIMIZE | PCRE2_NO_AUTO_POSSESS;
 
-Code Compile(const std::string& pattern, const std::u16string& value, pcre2_general_context* memory) {
+Code Compile(const std::string& pattern, std::u16string_view value, pcre2_general_context* memory) {
     const CompileContext context(NotOutOfMemory(pcre2_compile_context_create(memory)));
-    const bool isAscii = std::ranges::none_of(pattern, [](char c) { return (c & 0x80) != 0; });
     int error = 0;
     PCRE2_SIZE offset = 0;
     // Deliberate: a NUL ends the pattern.
     Code code(pcre2_compile(reinterpret_cast<PCRE2_SPTR>(pattern.c_str()), PCRE2_ZERO_TERMINATED,
-                            compileOptions | (isAscii ? PCRE2_NO_UTF_CHECK : 0), &error, &offset,
+                            compileOptions | (IsAscii(pattern) ? PCRE2_NO_UTF_CHECK : 0), &error, &offset,
                             context.get()));
     if (!code && error == PCRE2_ERROR_HEAP_FAILED)
         throw std::bad_alloc();
     if (!code) // Deliberate: the message shows the value, not the pattern.
-        Throw<CKzException>(messages::InvalidPattern, value, ErrorText(error));
+        Throw<CKzException>(messages::InvalidPattern, std::u16string(value), ErrorText(error));
     return code;
 }
 
-} // namespace
-
-bool MatchXsdPattern(std::string pattern, std::u16string value) {
+bool Match(std::string_view pattern, std::u16string_view value) {
     MatchMemory memory;
     const GeneralContext general(
         NotOutOfMemory(pcre2_general_context_create(MatchMemory::Allocate, MatchMemory::Free, &memory)));
@@ -160,7 +190,8 @@ bool MatchXsdPattern(std::string pattern, std::u16string value) {
     pcre2_set_heap_limit(context.get(),
                          static_cast<std::uint32_t>(CurrentLimit(&Limits::patternHeapBytes) / 1024));
     const MatchData data(NotOutOfMemory(pcre2_match_data_create_from_pattern(code.get(), general.get())));
-    const std::string subject = ConvertToUtf8(value); // always well formed
+    const Utf8Text text(value); // always well formed
+    const std::string_view subject = text.Get();
     const int result = pcre2_match(code.get(), reinterpret_cast<PCRE2_SPTR>(subject.data()), subject.size(),
                                    0, PCRE2_ANCHORED | PCRE2_NO_UTF_CHECK, data.get(), context.get());
     if (result == PCRE2_ERROR_NOMEMORY)
@@ -170,6 +201,14 @@ bool MatchXsdPattern(std::string pattern, std::u16string value) {
     // The end is compared because $ also matches in front of a final line feed.
     const PCRE2_SIZE* offsets = pcre2_get_ovector_pointer(data.get());
     return offsets[0] == 0 && offsets[1] == subject.size();
+}
+
+} // namespace
+
+bool MatchXsdPattern(std::string pattern, std::u16string value) { return Match(pattern, value); }
+
+bool MatchXsdPatternOf(std::u16string_view pattern, std::u16string_view value) {
+    return Match(Utf8Text(pattern).Get(), value);
 }
 
 } // namespace KzXmlLib10

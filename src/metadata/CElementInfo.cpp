@@ -2,7 +2,6 @@
 
 #include "metadata/Messages.h"
 #include "object/NotNull.h"
-#include "object/TextScan.h"
 
 #include <KzXmlLib10/conversions/FacetChecks.h>
 #include <KzXmlLib10/object/CXmlGeneratedClass.h>
@@ -47,12 +46,6 @@ void CElementInfo::CheckRestriction(const KzVariant& value) const {
     if (!m_isPrimitive)
         Throw<CKzException>(messages::CannotCheckRestriction, value.GetType());
     CheckPrimitiveRestrictions(m_elementName.c_str(), value, m_itemType, m_restrictions);
-}
-
-bool CElementInfo::IsThisElement(const CXmlSerializationContext& context, const CXmlElement* element) const {
-    if (!element || !SameText(element->GetLocalName(), m_elementName))
-        return false;
-    return context.GetIgnoreNamespaces() || SameText(element->GetNamespaceURI(), m_elementNamespace);
 }
 
 std::u16string CElementInfo::GetAnyDefaultNamespace(const char16_t* namespaceConstraint,

@@ -2,9 +2,9 @@
 
 #include <KzXmlLib10/metadata/CElementInfo.h>
 
-#include "conversions/WorkingText.h"
 #include "metadata/Messages.h"
 #include "object/SchemaInstance.h"
+#include "object/TextScan.h"
 #include "object/Throw.h"
 
 #include <KzXmlLib10/collections/CElement.h>
@@ -34,6 +34,12 @@ CSmartPtr<CXmlObjectBase> RequireObjectIn(const KzVariant& value, const std::u16
 
 } // namespace
 
+bool CElementInfo::IsThisElement(const CXmlSerializationContext& context, const CXmlElement* element) const {
+    if (!element || !SameText(element->GetLocalName(), m_elementName))
+        return false;
+    return context.GetIgnoreNamespaces() || SameText(element->GetNamespaceURI(), m_elementNamespace);
+}
+
 bool CElementInfo::SeekElement(const CXmlSerializationContext& context, CXmlElement** current) const {
     while (!IsThisElement(context, *current)) {
         if (context.GetIgnoreMissingMandatoryElements())
@@ -60,12 +66,11 @@ bool CElementInfo::IsNil(const CXmlElement& element) const {
 
 bool CElementInfo::TakePrimitive(CXmlGeneratedClass* object, CXmlElement** current) {
     KzVariant value;
+    std::u16string room;
     if (IsNil(**current))
         value.SetNil();
-    else if (m_itemType == ItemType_string)
-        value.SetString(ApplyRuleTo((*current)->GetText(), m_whitespaceRule));
     else
-        value.FromString((*current)->GetText(), m_itemType, m_whitespaceRule);
+        value.FromText((*current)->ViewText(room), m_itemType, m_whitespaceRule);
     return StoreAndAdvance(object, value, current);
 }
 

@@ -11,10 +11,12 @@ namespace {
 using View = std::u16string_view;
 
 /// Whether `text` has the given form: # stands for an ASCII digit, ? for any character.
-bool HasForm(View text, View form) {
-    if (text.size() != form.size())
+template <std::size_t formSize>
+bool HasForm(View text, const char16_t (&form)[formSize]) {
+    constexpr std::size_t size = formSize - 1;
+    if (text.size() != size)
         return false;
-    for (std::size_t i = 0; i < text.size(); ++i)
+    for (std::size_t i = 0; i < size; ++i)
         if (form[i] == u'#' ? !IsDigit(text[i]) : form[i] != u'?' && text[i] != form[i])
             return false;
     return true;
@@ -68,6 +70,10 @@ void CDateTime::ReadDate(View text) {
         Throw<CKzInvalidValueException>(messages::EmptyDate);
     if (text.find(u'T') != View::npos)
         Throw<CKzInvalidValueException>(messages::DateWithT);
+    if (HasForm(text, u"####-##-##")) { // as most have
+        ReadDateBody(text);
+        return;
+    }
     const bool endsInZ = text.back() == u'Z';
     const bool hasColon = text.find(u':') != View::npos;
     if (endsInZ && hasColon)
@@ -123,15 +129,15 @@ bool CDateTime::ReadDateBody(View body) {
 void CDateTime::ReadTime(View text) {
     if (text.empty())
         Throw<CKzInvalidValueException>(messages::EmptyTime);
-    constexpr View form = u"##:##:##";
-    if (!HasForm(text.substr(0, form.size()), form) || Number(text, 0) > 23 || Number(text, 3) > 59 ||
+    constexpr char16_t form[] = u"##:##:##";
+    if (!HasForm(text.substr(0, View(form).size()), form) || Number(text, 0) > 23 || Number(text, 3) > 59 ||
         Number(text, 6) > 59)
         Throw<CKzInvalidValueException>(messages::MalformedTime, std::u16string(text));
     m_hour = static_cast<std::uint8_t>(Number(text, 0));
     m_minute = static_cast<std::uint8_t>(Number(text, 3));
     m_second = static_cast<std::uint8_t>(Number(text, 6));
 
-    std::size_t end = form.size();
+    std::size_t end = View(form).size();
     if (end < text.size() && text[end] == u'.')
         end = ReadFraction(text);
     if (end < text.size())

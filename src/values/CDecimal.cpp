@@ -61,6 +61,16 @@ void AppendDigits(std::u16string& text, const Digits& digits) {
                    [](std::uint16_t digit) { return static_cast<char16_t>(u'0' + digit); });
 }
 
+/// Makes the digits of text that is nothing else.
+void TakeDigits(std::u16string_view text, Digits& digits) {
+    text.remove_prefix(std::min(text.find_first_not_of(u'0'), text.size()));
+    if (text.empty())
+        text = u"0";
+    digits.resize(text.size());
+    std::transform(text.rbegin(), text.rend(), digits.begin(),
+                   [](char16_t unit) { return static_cast<char16_t>(unit - u'0'); });
+}
+
 int MaxPlaces() { return std::clamp(CDecimal::GetMaxDecimalPlaces(), 0, largestPlaces); }
 
 } // namespace
@@ -119,8 +129,8 @@ bool CDecimal::ParsePlain(const char16_t* text) {
     const char16_t* const end = skipDigits(fraction);
     if (*end || end - text > longestPlainText)
         return false;
-    CBigInteger::Build({text, point}, m_integral.m_digits);
-    CBigInteger::Build({fraction, end}, m_fractional.m_digits);
+    TakeDigits({text, point}, m_integral.m_digits);
+    TakeDigits({fraction, end}, m_fractional.m_digits);
     m_divider = std::max(1, static_cast<int>(end - fraction));
     return true;
 }

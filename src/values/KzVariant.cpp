@@ -2,6 +2,7 @@
 
 #include <KzXmlLib10/conversions/CConversions.h>
 
+#include "conversions/FromText.h"
 #include "object/NotNull.h"
 #include "object/Throw.h"
 #include "values/Messages.h"
@@ -177,61 +178,65 @@ std::u16string KzVariant::ToString(const char16_t* format) const {
     }
 }
 
-// Each conversion runs before its setter, so that a bad text leaves the old value in place.
 void KzVariant::FromString(const std::u16string& text, ItemType type, CWhitespaceUtils::WhitespaceRule rule) {
+    FromText(text, type, rule);
+}
+
+// Each conversion runs before its setter, so that a bad text leaves the old value in place.
+void KzVariant::FromText(std::u16string_view text, ItemType type, CWhitespaceUtils::WhitespaceRule rule) {
     switch (type) {
     case ItemType_hexBinary:
-        return SetHexBinary(CConversions::hexBinaryFromString(text, rule));
+        return SetMade(type, [&] { return fromText::hexBinary(text, rule); });
     case ItemType_base64Binary:
-        return SetBase64Binary(CConversions::base64BinaryFromString(text, rule));
+        return SetMade(type, [&] { return fromText::base64Binary(text, rule); });
     case ItemType_i1:
-        return SetI1(CConversions::i1FromString(text, rule));
+        return SetI1(fromText::i1(text, rule));
     case ItemType_i2:
-        return SetI2(CConversions::i2FromString(text, rule));
+        return SetI2(fromText::i2(text, rule));
     case ItemType_i4:
-        return SetI4(CConversions::i4FromString(text, rule));
+        return SetI4(fromText::i4(text, rule));
     case ItemType_i8:
-        return SetI8(CConversions::i8FromString(text, rule));
+        return SetI8(fromText::i8(text, rule));
     case ItemType_ui1:
-        return SetUI1(CConversions::ui1FromString(text, rule));
+        return SetUI1(fromText::ui1(text, rule));
     case ItemType_ui2:
-        return SetUI2(CConversions::ui2FromString(text, rule));
+        return SetUI2(fromText::ui2(text, rule));
     case ItemType_ui4:
-        return SetUI4(CConversions::ui4FromString(text, rule));
+        return SetUI4(fromText::ui4(text, rule));
     case ItemType_ui8:
-        return SetUI8(CConversions::ui8FromString(text, rule));
+        return SetUI8(fromText::ui8(text, rule));
     case ItemType_r4:
-        return SetR4(CConversions::r4FromString(text, rule));
+        return SetR4(fromText::r4(text, rule));
     case ItemType_r8:
-        return SetR8(CConversions::r8FromString(text, rule));
+        return SetR8(fromText::r8(text, rule));
     case ItemType_duration:
-        return SetDuration(CConversions::durationFromString(text, rule));
+        return SetMade(type, [&] { return fromText::duration(text, rule); });
     case ItemType_yearMonth:
-        return SetYearMonth(CConversions::yearMonthFromString(text, rule));
+        return SetMade(type, [&] { return fromText::yearMonth(text, rule); });
     case ItemType_monthDay:
-        return SetMonthDay(CConversions::monthDayFromString(text, rule));
+        return SetMade(type, [&] { return fromText::monthDay(text, rule); });
     case ItemType_year:
-        return SetYear(CConversions::yearFromString(text, rule));
+        return SetYear(fromText::year(text, rule));
     case ItemType_month:
-        return SetMonth(CConversions::monthFromString(text, rule));
+        return SetMonth(fromText::month(text, rule));
     case ItemType_day:
-        return SetDay(CConversions::dayFromString(text, rule));
+        return SetDay(fromText::day(text, rule));
     case ItemType_date:
-        return SetDate(CConversions::dateFromString(text, rule));
+        return SetMade(type, [&] { return fromText::date(text, rule); });
     case ItemType_datetime:
-        return SetDateTime(CConversions::datetimeFromString(text, rule));
+        return SetMade(type, [&] { return fromText::datetime(text, rule); });
     case ItemType_time:
-        return SetTime(CConversions::timeFromString(text, rule));
+        return SetMade(type, [&] { return fromText::time(text, rule); });
     case ItemType_char:
-        return SetChar(CConversions::charFromString(text, rule));
+        return SetChar(fromText::character(text, rule));
     case ItemType_string:
-        return SetString(CConversions::stringFromString(text, rule));
+        return SetMade(type, [&] { return fromText::string(text, rule); });
     case ItemType_boolean:
-        return SetBoolean(CConversions::booleanFromString(text, rule));
+        return SetBoolean(fromText::boolean(text, rule));
     case ItemType_decimal:
-        return SetDecimal(CConversions::decimalFromString(text, rule));
+        return SetMade(type, [&] { return fromText::decimal(text, rule); });
     case ItemType_integer:
-        return SetInteger(CConversions::integerFromString(text, rule));
+        return SetMade(type, [&] { return fromText::integer(text, rule); });
     default:
         // Deliberate: the number is that of the kind held, not of the one asked for.
         Throw<CKzException>(messages::InvalidTypeToConvert, m_type);
@@ -249,6 +254,15 @@ void KzVariant::SetValue(ItemType type, T&& value) {
     Clear();
     m_type = type;
     m_value.payload = MakePayload<T>(std::move(value));
+}
+
+/// Takes what the operation makes, which is made in its place.
+template <class Make>
+void KzVariant::SetMade(ItemType type, Make make) {
+    void* payload = MakePayloadBy(make);
+    Clear();
+    m_type = type;
+    m_value.payload = payload;
 }
 
 /// `type` is what the caller hoped for. Any kind with a payload of its class will do.
@@ -326,8 +340,8 @@ CBigInteger KzVariant::GetInteger() const { return GetIntegerRef(); }
 
 const std::u16string& KzVariant::GetStringRef() const { return GetValue<std::u16string>(ItemType_string); }
 // A payload is the variant's own, so the variant decides on whether it can change.
-std::u16string KzVariant::TakeString() { return std::move(const_cast<std::u16string&>(GetStringRef())); }
-CDecimal KzVariant::TakeDecimal() { return std::move(const_cast<CDecimal&>(GetDecimalRef())); }
+std::u16string&& KzVariant::TakeString() { return std::move(const_cast<std::u16string&>(GetStringRef())); }
+CDecimal&& KzVariant::TakeDecimal() { return std::move(const_cast<CDecimal&>(GetDecimalRef())); }
 
 const CDecimal& KzVariant::GetDecimalRef() const { return GetValue<CDecimal>(ItemType_decimal); }
 const CBigInteger& KzVariant::GetIntegerRef() const { return GetValue<CBigInteger>(ItemType_integer); }

@@ -15,16 +15,23 @@ struct PayloadKind {
     void (*letGo)(void* payload);
 };
 
-/// A new value on the heap.
-template <class T, class... Arguments>
-void* MakePayload(Arguments&&... arguments) {
+/// What an operation makes, as a new value on the heap.
+template <class Make>
+void* MakePayloadBy(Make make) {
+    using T = decltype(make());
     static_assert(sizeof(T) <= payloadSize);
     struct GiveBack {
         void operator()(void* memory) const noexcept { GiveBackPayloadMemory(memory); }
     };
     std::unique_ptr<void, GiveBack> memory(TakePayloadMemory());
-    ::new (memory.get()) T(std::forward<Arguments>(arguments)...);
+    ::new (memory.get()) T(make());
     return memory.release();
+}
+
+/// A new value on the heap.
+template <class T, class... Arguments>
+void* MakePayload(Arguments&&... arguments) {
+    return MakePayloadBy([&] { return T(std::forward<Arguments>(arguments)...); });
 }
 
 /// A value on the heap, copied with the variant.

@@ -13,6 +13,7 @@
 
 #include <cstdint>
 #include <string>
+#include <string_view>
 
 namespace KzXmlLib10 {
 
@@ -72,6 +73,8 @@ public:
     /// the kind throws for a text of another form, CKzException for a kind that cannot come from text; the
     /// variant is unchanged then.
     void FromString(const std::u16string& text, ItemType type, CWhitespaceUtils::WhitespaceRule rule);
+    /// The same for a text wherever it lies, which a zero follows.
+    void FromText(std::u16string_view text, ItemType type, CWhitespaceUtils::WhitespaceRule rule);
 
     void SetI1(std::int8_t value);
     void SetI2(std::int16_t value);
@@ -112,8 +115,8 @@ public:
     std::u16string GetString() const;
     /// The text itself, valid until the variant changes.
     const std::u16string& GetStringRef() const;
-    /// Moves the text out, and leaves an empty one. For generated classes, which need not copy it.
-    std::u16string TakeString();
+    /// The text itself, to be moved from. For generated classes, which need not copy it.
+    std::u16string&& TakeString();
 
     // Setters move the value in; getters copy it.
 
@@ -142,8 +145,8 @@ public:
     /// The numbers themselves, valid until the variant changes.
     const CDecimal& GetDecimalRef() const;
     const CBigInteger& GetIntegerRef() const;
-    /// Moves the number out, and leaves one to be assigned or destroyed.
-    CDecimal TakeDecimal();
+    /// The number itself, to be moved from.
+    CDecimal&& TakeDecimal();
 
     /// Adds a reference to the object, which may be null.
     void SetXmlObject(CXmlObjectBase* object);
@@ -167,6 +170,8 @@ private:
     void SetBits(ItemType type, std::uint64_t bits);
     template <class T>
     void SetValue(ItemType type, T&& value);
+    template <class Make>
+    void SetMade(ItemType type, Make make);
     template <class T>
     const T& GetValue(ItemType type) const;
     void SetCounted(ItemType type, CXmlObjectBase* object);
