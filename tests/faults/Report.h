@@ -4,7 +4,6 @@
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
-#include <ctime>
 
 namespace faults {
 
@@ -35,27 +34,11 @@ inline long Option(int argc, char** argv, const char* name, long otherwise) {
     return otherwise;
 }
 
-/// The seconds of processor time that an action takes; what else the machine does counts little.
-template <class Action>
-double Seconds(Action action) {
-    const auto now = [] {
-        timespec time;
-        clock_gettime(CLOCK_THREAD_CPUTIME_ID, &time);
-        return static_cast<double>(time.tv_sec) + static_cast<double>(time.tv_nsec) * 1e-9;
-    };
-    const double start = now();
-    action();
-    return now() - start;
-}
-
-#if defined(__SANITIZE_ADDRESS__)
+#if !defined(__has_feature)
+#    define __has_feature(name) 0
+#endif
+#if defined(__SANITIZE_ADDRESS__) || __has_feature(address_sanitizer) || __has_feature(thread_sanitizer)
 constexpr bool isSanitized = true;
-#elif defined(__has_feature)
-#    if __has_feature(address_sanitizer) || __has_feature(thread_sanitizer)
-constexpr bool isSanitized = true;
-#    else
-constexpr bool isSanitized = false;
-#    endif
 #else
 constexpr bool isSanitized = false;
 #endif

@@ -2,20 +2,10 @@
 // mask of signals, locale and directory that it had before. Nothing that a document names is opened.
 #include "faults/Report.h"
 #include "faults/Scenarios.h"
-#include "support/TempDir.h"
-
-#include <KzXmlLib10/KzXmlLib10.h>
+#include "support/Test.h"
 
 #include <clocale>
 #include <csignal>
-#include <filesystem>
-#include <iterator>
-#include <string>
-
-#include <sys/stat.h>
-#include <unistd.h>
-
-using namespace KzXmlLib10;
 
 namespace {
 
@@ -49,7 +39,7 @@ struct State {
 
 /// A document that names pipes: whoever opened one to read would wait for ever.
 void LoadWithExternalNames() {
-    const support::TempDir directory;
+    const TempDir directory;
     const std::string pipe = directory.Path("pipe");
     if (mkfifo(pipe.c_str(), 0600) != 0)
         std::abort();
@@ -57,14 +47,12 @@ void LoadWithExternalNames() {
     const std::string document = "<!DOCTYPE r SYSTEM " + name + " [<!ENTITY e SYSTEM " + name +
                                  "><!ENTITY % p SYSTEM '" + pipe + "'>%p;]><r>a&e;b</r>";
     std::string outcome;
-    const double seconds = faults::Seconds([&] {
-        try {
+    const double seconds = Seconds([&] {
+        outcome = Outcome([&] {
             CXmlDocument loaded;
             loaded.LoadXml(document.c_str());
-            outcome = ToUtf8(loaded.GetDocumentElement()->GetText());
-        } catch (const CKzException& failure) {
-            outcome = ToUtf8(failure.GetMessageW());
-        }
+            return ToUtf8(loaded.GetDocumentElement()->GetText());
+        });
     });
     report.Line(true, "external names: %s, in %.3f s", outcome.c_str(), seconds);
 }

@@ -1,19 +1,7 @@
 // Every system call of every scenario with files fails in every way that it can.
 #include "faults/Report.h"
 #include "faults/Scenarios.h"
-#include "support/TempDir.h"
-#include "xml/AsyncFiles.h"
-
-#include <KzXmlLib10/KzXmlLib10.h>
-
-#include <cerrno>
-#include <cstddef>
-#include <string>
-
-using KzXmlLib10::CKzException;
-using KzXmlLib10::systemCalls;
-using KzXmlLib10::SystemCalls;
-using KzXmlLib10::ToUtf8;
+#include "support/FileTest.h"
 
 namespace {
 
@@ -64,7 +52,7 @@ void InstallFaultyCalls() {
         return Fails(false) ? errno : real.advise(file, offset, length, advice);
     };
     systemCalls.pread = [](int file, void* buffer, std::size_t length, off_t offset) {
-        return Transferred(length, KzXmlLib10::AsyncFile::EndOfFile,
+        return Transferred(length, AsyncFile::EndOfFile,
                            [&](std::size_t n) { return real.pread(file, buffer, n, offset); });
     };
     systemCalls.pwrite = [](int file, const void* bytes, std::size_t length, off_t offset) {
@@ -74,14 +62,6 @@ void InstallFaultyCalls() {
         const int result = real.close(file); // it is closed in any case
         return Fails(true) ? -1 : result;
     };
-}
-
-std::string Outcome(const faults::Scenario& scenario) {
-    try {
-        return scenario.run();
-    } catch (const CKzException& failure) {
-        return ToUtf8(failure.GetFullMessage());
-    }
 }
 
 /// Whether a message is one of those about files, with the number of the cause.
@@ -102,10 +82,10 @@ struct Tally {
 /// Runs with one fault; false if there is no such call.
 bool RunWithFault(const faults::Scenario& scenario, const std::string& expected, Tally& tally) {
     calls = cause = 0;
-    const auto descriptors = KzXmlLib10::support::OpenDescriptors();
+    const auto descriptors = OpenDescriptors();
     std::string outcome;
     InstallFaultyCalls();
-    tally.slowest = std::max(tally.slowest, faults::Seconds([&] { outcome = Outcome(scenario); }));
+    tally.slowest = std::max(tally.slowest, Seconds([&] { outcome = Outcome(scenario.run); }));
     systemCalls = real;
     if (calls < faultyCall)
         return false;
@@ -116,8 +96,7 @@ bool RunWithFault(const faults::Scenario& scenario, const std::string& expected,
     tally.reported += isReported;
     tally.correct += isCorrect;
     const bool isGood = (isReported || isCorrect) && (cause != 0 || isCorrect) &&
-                        KzXmlLib10::support::OpenDescriptors() == descriptors &&
-                        Outcome(scenario) == expected;
+                        OpenDescriptors() == descriptors && Outcome(scenario.run) == expected;
     if (!isGood && ++tally.wrong == 1)
         std::printf("      %s, call %ld, %s: %.200s\n", scenario.name, faultyCall, names[fault],
                     outcome.c_str());
@@ -127,13 +106,13 @@ bool RunWithFault(const faults::Scenario& scenario, const std::string& expected,
 } // namespace
 
 int main() {
-    KzXmlLib10::Register(10, 1);
+    Register(10, 1);
     long points = 0;
     for (const faults::Scenario& scenario : faults::Scenarios()) {
         if (!scenario.usesFiles)
             continue;
         scenario.run();
-        const std::string expected = Outcome(scenario);
+        const std::string expected = Outcome(scenario.run);
         Tally tally;
         for (const Fault each : {Eio, Enospc, Eintr, Short, Zero}) {
             fault = each;

@@ -8,10 +8,7 @@
 #include <KzXmlLib10/KzXmlLib10.h>
 
 #include <cerrno>
-#include <cstddef>
-#include <cstdint>
 #include <new>
-#include <string>
 
 extern "C" {
 void* __libc_malloc(std::size_t size);

@@ -1,6 +1,8 @@
 #pragma once
 
-#include "support/Test.h"
+#include <KzXmlLib10/KzXmlLib10.h>
+
+#include <string>
 
 namespace KzXmlLib10::support {
 
@@ -18,6 +20,10 @@ inline std::string Compressed(const std::string& bytes, CompressionType type) {
     CBinaryData data = ToBinary(bytes);
     Compress(data, type);
     return FromBinary(data);
+}
+
+inline void LoadBytes(CXmlDocument& document, const std::string& bytes) {
+    document.LoadXmlStream(reinterpret_cast<const unsigned char*>(bytes.data()), bytes.size());
 }
 
 } // namespace KzXmlLib10::support

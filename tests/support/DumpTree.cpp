@@ -1,7 +1,5 @@
 #include "support/DumpTree.h"
 
-#include "support/Test.h"
-
 namespace KzXmlLib10::support {
 
 namespace {
@@ -9,14 +7,8 @@ namespace {
 std::string Visible(const std::u16string& text) {
     std::string result;
     for (const char c : ToUtf8(text)) {
-        if (c == '\n')
-            result += "\\n";
-        else if (c == '\r')
-            result += "\\r";
-        else if (c == '\t')
-            result += "\\t";
-        else
-            result += c;
+        const std::size_t at = "\n\r\t"sv.find(c);
+        result += at == std::string::npos ? std::string(1, c) : "\\"s + "nrt"[at];
     }
     return result;
 }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "support/Test.h"
+#include "support/Basics.h"
 
 namespace KzXmlLib10::support {
 

@@ -21,4 +21,16 @@ std::string Failure(Action action) {
     return "no failure";
 }
 
+inline constexpr auto InvalidValue = [](auto action) { return Failure<CKzInvalidValueException>(action); };
+inline constexpr auto InvalidState = [](auto action) { return Failure<CKzInvalidStateException>(action); };
+inline constexpr auto InvalidParam = [](auto action) { return Failure<CKzInvalidParamException>(action); };
+
+/// What the action gives as text, or the message of its failure.
+template <class E = CKzException, class Action>
+std::string Outcome(Action action) {
+    std::string result;
+    const std::string failure = Failure<E>([&] { result = action(); });
+    return failure == "no failure" ? result : failure;
+}
+
 } // namespace KzXmlLib10::support

@@ -1,6 +1,5 @@
 #pragma once
 
-#include "support/TempDir.h"
 #include "support/Test.h"
 #include "xml/AsyncFiles.h"
 

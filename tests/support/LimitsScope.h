@@ -1,8 +1,6 @@
 #pragma once
 
-#include "support/Test.h"
-
-#include <cstdint>
+#include "support/Basics.h"
 
 namespace KzXmlLib10::support {
 

@@ -65,10 +65,10 @@ void CModelObject::AccessProperty(int propertyIndex, bool read, KzVariant& value
 
 void CModelObject::Init() {
     std::vector<KzVariant> fresh(properties.size());
-    for (const Model::Held& held : m_model.m_held) {
-        const auto index = static_cast<std::size_t>(held.property);
-        if (held.renewed)
-            fresh[index].SetXmlObject(held.make());
+    for (const auto& [property, make, renewed] : m_model.m_held) {
+        const auto index = static_cast<std::size_t>(property);
+        if (renewed)
+            fresh[index].SetXmlObject(make());
         else
             fresh[index] = properties[index];
     }
@@ -137,18 +137,6 @@ Model::~Model() {
         delete attribute;
 }
 
-Model& Model::AllowUnknownAttributes() {
-    m_failIfAttributeUnknown = false;
-    return *this;
-}
-Model& Model::HasBaseClasses() {
-    m_hasBaseClasses = true;
-    return *this;
-}
-Model& Model::Nillable() {
-    m_nillable = true;
-    return *this;
-}
 Model& Model::Content(ItemType type, const char16_t* format, bool asText) {
     m_contentProperty = AddProperty();
     m_contentType = type;
@@ -180,14 +168,15 @@ Model& Model::ColourAttribute(const char16_t* name, Use use, const char16_t* def
 
 Model& Model::Element(CElementInfo* descriptor, Make make) {
     AddTo(m_elements, descriptor);
-    const int property = AddProperty();
-    if (make)
-        m_held.push_back({property, std::move(make), true});
-    return *this;
+    return Hold(std::move(make));
 }
 
 Model& Model::AddAttribute(CAttributeInfo* descriptor, Make make) {
     AddTo(m_attributes, descriptor);
+    return Hold(std::move(make));
+}
+
+Model& Model::Hold(Make make) {
     const int property = AddProperty();
     if (make)
         m_held.push_back({property, std::move(make), true});

@@ -104,9 +104,9 @@ public:
     Model(const Model&) = delete;
     Model& operator=(const Model&) = delete;
 
-    Model& AllowUnknownAttributes();
-    Model& HasBaseClasses();
-    Model& Nillable();
+    Model& AllowUnknownAttributes() { return Set(m_failIfAttributeUnknown, false); }
+    Model& HasBaseClasses() { return Set(m_hasBaseClasses, true); }
+    Model& Nillable() { return Set(m_nillable, true); }
     /// The class has a text of its own.
     Model& Content(ItemType type, const char16_t* format = u"", bool asText = false);
 
@@ -139,6 +139,11 @@ private:
     using Check = std::function<void(const KzVariant&)>;
     bool IsPseudo() const { return m_type != XmlElementType_Element; }
     int AddProperty(Check check = nullptr);
+    Model& Hold(Make make);
+    Model& Set(bool& flag, bool value) {
+        flag = value;
+        return *this;
+    }
 
     CModelObject* NewRaw(const char16_t* elementName) const;
     static CSmartPtr<CXmlObjectBase> Create(int classId, const char16_t* elementName);

@@ -66,14 +66,21 @@ std::u16string Read(const Model& model, const std::u16string& xml, Flag flag) {
     return failure.empty() ? Show(*object) : failure;
 }
 
-void ExpectReads(const Model& model, std::initializer_list<support::Row> rows, Flag flag) {
+namespace {
+
+/// What a row tells of an element of that name.
+std::u16string Meant(const std::u16string& row, const char16_t* name) {
+    return row[0] == u'!'   ? FailedToRead(name, Meant(row.substr(1), name))
+           : row[0] == u'+' ? LeftOver(name, row.c_str() + 1)
+                            : row;
+}
+
+} // namespace
+
+void ExpectReads(const Model& model, std::initializer_list<Row> rows, Flag flag) {
     for (const auto& [xml, row] : rows) {
         const std::u16string root = xml.substr(1, xml.find_first_of(u" />") - 1);
-        const std::u16string rest = FromUtf8(row.substr(1));
-        EXPECT_EQ(Read(model, xml, flag), row[0] == '!'   ? FailedToRead(root.c_str(), rest)
-                                          : row[0] == '+' ? LeftOver(root.c_str(), rest.c_str())
-                                                          : FromUtf8(row))
-            << ToUtf8(xml);
+        EXPECT_EQ(Read(model, xml, flag), Meant(FromUtf8(row), root.c_str())) << ToUtf8(xml);
     }
 }
 

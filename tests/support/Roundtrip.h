@@ -1,6 +1,5 @@
 #pragma once
 
-#include "support/Model.h"
 #include "support/Test.h"
 
 /// Whole documents in, one line of text out: what tests of content models compare.
@@ -36,7 +35,7 @@ std::u16string Read(const Model& model, const std::u16string& xml, Flag flag = n
 
 /// Compares what Read gives for each document. In the rows "!cause" is FailedToRead the root, and "+child" is
 /// LeftOver in the root.
-void ExpectReads(const Model& model, std::initializer_list<support::Row> rows, Flag flag = none);
+void ExpectReads(const Model& model, std::initializer_list<Row> rows, Flag flag = none);
 
 /// The object as unformatted text, or the full message of the failure.
 std::u16string Write(const CXmlObjectBase& object, const CXmlSerializationContext& context = {});

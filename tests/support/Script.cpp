@@ -1,7 +1,5 @@
 #include "support/Script.h"
 
-#include "support/Test.h"
-
 namespace KzXmlLib10::support {
 
 namespace {

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "support/Test.h"
+#include "support/Basics.h"
 
 namespace KzXmlLib10::support {
 
@@ -11,6 +11,16 @@ namespace KzXmlLib10::support {
 ///     @b=v  @{uri}b=v   WriteAttribute     'x  "x   WriteText of a string, of a char
 ///     type={uri}T   WriteXsiType     nil   WriteXsiNil
 void RunScript(CXmlWriter& writer, const std::string& words);
+
+/// Writes an element with nothing but text, at one go or by the three calls that it stands for.
+inline void WriteLeaf(CXmlWriter& writer, bool atOnce, const std::u16string& name, const char16_t* uri,
+                      const std::u16string& text) {
+    if (atOnce)
+        return writer.WriteLeaf(name, uri, text, ItemType_string);
+    writer.StartElement(name, uri);
+    writer.WriteText(text, ItemType_string);
+    writer.EndElement();
+}
 
 /// An object that writes itself by a function, or by such a text.
 class ScriptedObject : public CXmlObjectBase {

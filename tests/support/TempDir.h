@@ -1,10 +1,6 @@
 #pragma once
 
-#include "support/Test.h"
-
-#include <filesystem>
-#include <fstream>
-#include <stdlib.h>
+#include "support/Basics.h"
 
 namespace KzXmlLib10::support {
 

@@ -1,7 +1,6 @@
 #pragma once
 
 #include "support/Script.h"
-#include "support/Test.h"
 
 namespace KzXmlLib10::support {
 
@@ -14,13 +13,14 @@ struct ColArguments {
     const char16_t* minInclusive = u"";
     const char16_t* maxInclusive = u"";
     const char16_t* format = nullptr;
+    const char16_t* elementNamespace = u"";
 };
 
-/// A collection of elements <i> without a namespace.
+/// A collection of elements <i>.
 template <class Collection>
 Collection Make(const ColArguments& with = {}) {
-    return Collection(u"i", u"", with.minOccurs, with.maxOccurs, with.pattern, with.minLength, -1,
-                      with.minInclusive, with.maxInclusive, u"", u"", -1,
+    return Collection(u"i", with.elementNamespace, with.minOccurs, with.maxOccurs, with.pattern,
+                      with.minLength, -1, with.minInclusive, with.maxInclusive, u"", u"", -1,
                       CWhitespaceUtils::WhitespaceRule_Collapse, with.format);
 }
 
