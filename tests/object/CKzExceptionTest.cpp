@@ -1,8 +1,5 @@
 #include "object/Throw.h"
 #include "support/Test.h"
-#include "support/Threads.h"
-
-#include <exception>
 
 namespace {
 

@@ -1,16 +1,13 @@
 #include "object/RecursionLevel.h"
-#include "support/Bytes.h"
-#include "support/LimitsScope.h"
-#include "support/Threads.h"
+#include "support/Test.h"
 
 namespace {
 
 constexpr std::uint64_t most = std::numeric_limits<std::uint64_t>::max();
 
 std::string LoadFailure(const std::string& bytes) {
-    return Failure([&] {
-        CXmlDocument().LoadXmlStream(reinterpret_cast<const unsigned char*>(bytes.data()), bytes.size());
-    });
+    CXmlDocument document;
+    return Failure([&] { LoadBytes(document, bytes); });
 }
 
 /// Begins a level of nesting on a thread that has used 40 MiB of its 64 MiB of stack.
@@ -26,36 +23,31 @@ std::string NestOnUsedStack() {
 }
 
 TEST(Limits, EachFigureBoundsItsWork) {
-    std::string elements = "<r>";
-    for (int i = 0; i < 5000; ++i)
-        elements += "<a b=''/>";
-    const std::string compressed = Compressed(elements + "</r>", CompressionType_GZip);
+    const std::string elements = Repeat<std::string>("<a b=''/>", 5000);
+    const std::string compressed = Compressed("<r>" + elements + "</r>", CompressionType_GZip);
     const std::string text = "<a>" + std::string(1000, 'b') + "</a>";
     const auto load = [](const std::string& bytes) { return [&] { return LoadFailure(bytes); }; };
     const auto decimal = [] { return Failure<CKzInvalidValueException>([] { CDecimal(u"1E3"); }); };
-    const auto write = [] { return Failure([] { CElement(u"a").ToXml(false, false, EOLType_LF, {}); }); };
+    const auto write = [] { return Failure([] { Text(CElement(u"a")); }); };
     const auto match = [] {
         return MatchXsdPattern("(a|b)*", std::u16string(10000, u'a')) ? "no failure" : "no match";
     };
-    const struct {
-        std::uint64_t Limits::*figure;
-        std::uint64_t value;
-        std::function<std::string()> work;
-        std::string failure;
-    } rows[] = {
-        {&Limits::inputBytes, 1006, load(text), "The XML input has 1007 bytes; the limit is 1006"},
-        {&Limits::inflatedBytes, 45006, load(compressed),
-         "The content of the compressed stream is larger than the limit of 45006 bytes"},
-        {&Limits::treeTextBytesPerInputByte, 1, load(text),
-         "The names, values and texts of the document come to more than 1007 bytes"},
-        {&Limits::treeBytesPerInputByte, 100, load(compressed),
-         "The tree of the document comes to more than " + std::to_string(100 * compressed.size()) + " bytes"},
-        {&Limits::decimalExponent, 2, decimal,
-         "The string representing a Decimal, contained an exponent above 2 [1E3]"},
-        {&Limits::nestedObjects, 0, write, "The elements are nested too deep (0 levels)"},
-        {&Limits::stackReserve, most, NestOnUsedStack, "The elements are nested too deep (0 levels)"},
-        {&Limits::patternHeapBytes, 1024, match, "no match"},
-    };
+    const std::tuple<std::uint64_t Limits::*, std::uint64_t, std::function<std::string()>, std::string>
+        rows[] = {
+            {&Limits::inputBytes, 1006, load(text), "The XML input has 1007 bytes; the limit is 1006"},
+            {&Limits::inflatedBytes, 45006, load(compressed),
+             "The content of the compressed stream is larger than the limit of 45006 bytes"},
+            {&Limits::treeTextBytesPerInputByte, 1, load(text),
+             "The names, values and texts of the document come to more than 1007 bytes"},
+            {&Limits::treeBytesPerInputByte, 100, load(compressed),
+             "The tree of the document comes to more than " + std::to_string(100 * compressed.size()) +
+                 " bytes"},
+            {&Limits::decimalExponent, 2, decimal,
+             "The string representing a Decimal, contained an exponent above 2 [1E3]"},
+            {&Limits::nestedObjects, 0, write, "The elements are nested too deep (0 levels)"},
+            {&Limits::stackReserve, most, NestOnUsedStack, "The elements are nested too deep (0 levels)"},
+            {&Limits::patternHeapBytes, 1024, match, "no match"},
+        };
     for (const auto& [figure, value, work, failure] : rows) {
         EXPECT_EQ(work(), "no failure");
         LimitsScope limits(&Limits::treeTextBytes, 0); // leaves what the size of the input allows

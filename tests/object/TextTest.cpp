@@ -3,20 +3,17 @@
 namespace {
 
 TEST(Text, EveryLengthOfUtf8GoesBothWays) {
-    const struct {
-        std::u16string wide;
-        std::string narrow;
-    } cases[] = {
+    const std::pair<std::u16string, std::string> cases[] = {
         {u"", ""},
         {std::u16string(u"a\0\x7F", 3), std::string("a\0\x7F", 3)},
         {u"\u0080\u07FF", "\xC2\x80\xDF\xBF"},
         {u"\u0800\uD7FF\uE000\uFFFF", "\xE0\xA0\x80\xED\x9F\xBF\xEE\x80\x80\xEF\xBF\xBF"},
         {u"\U00010000\U0010FFFFz", "\xF0\x90\x80\x80\xF4\x8F\xBF\xBFz"},
     };
-    for (const auto& c : cases) {
-        EXPECT_EQ(ConvertToUtf8(c.wide), c.narrow);
-        EXPECT_EQ(ToUtf8(c.wide), c.narrow);
-        EXPECT_EQ(FromUtf8(c.narrow), c.wide);
+    for (const auto& [wide, narrow] : cases) {
+        EXPECT_EQ(ConvertToUtf8(wide), narrow);
+        EXPECT_EQ(ToUtf8(wide), narrow);
+        EXPECT_EQ(FromUtf8(narrow), wide);
     }
 }
 

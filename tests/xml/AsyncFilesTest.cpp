@@ -1,11 +1,5 @@
 #include "xml/AsyncFiles.h"
 #include "support/FileTest.h"
-#include "support/Test.h"
-
-#include <cerrno>
-#include <fcntl.h>
-#include <sys/stat.h>
-#include <unistd.h>
 
 namespace {
 
@@ -80,57 +74,6 @@ TEST_F(AsyncFileTest, PipesNeitherHangNorKill) {
     EXPECT_EQ(std::string(received, static_cast<std::size_t>(read(reader, received, 8))), "abcdef");
     close(reader);
     EXPECT_EQ(Write(out, 6, "ghi"), EPIPE);
-}
-
-TEST_F(AsyncFileTest, InterruptedAndShortTransfersGoOnAndErrorsEndThem) {
-    static int calls;
-    calls = 0;
-    static constexpr auto interrupted = [] { return ++calls % 2 == 1 && (errno = EINTR); };
-    systemCalls.pread = [](int file, void* buffer, std::size_t length, off_t offset) {
-        return interrupted() ? -1 : pread(file, buffer, std::min<std::size_t>(length, 3), offset);
-    };
-    systemCalls.pwrite = [](int file, const void* bytes, std::size_t length, off_t offset) {
-        return interrupted() ? -1 : pwrite(file, bytes, std::min<std::size_t>(length, 3), offset);
-    };
-    systemCalls.open = [](const char* name, int flags, mode_t mode) {
-        return interrupted() ? -1 : open(name, flags, mode);
-    };
-    AsyncFile file;
-    ASSERT_EQ(file.OpenForWriting(m_dir.Path16("f")), 0);
-    EXPECT_EQ(Write(file, 0, "0123456789"), 0);
-    systemCalls.pwrite = [](int, const void*, std::size_t, off_t) { return ssize_t{0}; };
-    EXPECT_EQ(Write(file, 10, "a"), EIO); // what moves nothing must not be tried for ever
-
-    ASSERT_EQ(file.OpenForReading(m_dir.Path16("f")), 0);
-    EXPECT_EQ(ReadBlock(file, 1, 9), "123456789");
-    systemCalls.pread = [](int in, void* buffer, std::size_t, off_t offset) {
-        return offset > 0 ? (errno = EIO, ssize_t{-1}) : pread(in, buffer, 3, offset);
-    };
-    EXPECT_EQ(ReadBlock(file, 0, 10), '[' + std::to_string(EIO) + ']');
-}
-
-TEST_F(AsyncFileTest, ClosesOnceAndReportsTheFirstClose) {
-    static int closed, closeError;
-    systemCalls.close = [](int file) {
-        ++closed;
-        close(file);
-        errno = closeError;
-        return closeError ? -1 : 0;
-    };
-    for (const int error : {0, EIO, EINTR}) {
-        closed = 0;
-        closeError = error;
-        AsyncFile file;
-        ASSERT_EQ(file.OpenForWriting(m_dir.Path16("f")), 0);
-        EXPECT_EQ(file.Close(), error == EINTR ? 0 : error);
-        EXPECT_EQ(file.Close(), 0);
-        EXPECT_EQ(closed, 1);
-    }
-    systemCalls.fstat = [](int, struct stat*) { return errno = EOVERFLOW, -1; };
-    AsyncFile file;
-    EXPECT_EQ(file.OpenForReading(m_dir.Path16("f")), EOVERFLOW);
-    EXPECT_FALSE(file.IsOpen());
-    EXPECT_EQ(closed, 2);
 }
 
 } // namespace

@@ -31,21 +31,6 @@ TEST(CStringBuffer, GathersTextAcrossChunks) {
     }
 }
 
-TEST(CStringBuffer, StreamOpenEmptiesAndReusesASingleChunk) {
-    CTextStream stream(XmlEncoding_None);
-    CStringBuffer& buffer = stream.GetBuffer();
-    buffer.Append(u"first");
-    const char16_t* chunk = buffer.GetString();
-    for (const std::u16string& text :
-         {std::u16string(u"2nd"), std::u16string(10'000, u'x'), std::u16string(u"y")}) {
-        stream.Open();
-        EXPECT_EQ(TextOf(buffer), u"");
-        buffer.Append(text);
-        EXPECT_EQ(TextOf(buffer), text);
-        EXPECT_TRUE(text != u"2nd" || buffer.GetString() == chunk);
-    }
-}
-
 TEST(CStringBuffer, RefusesMoreCharactersThanItsLengthCounts) {
     CStringBuffer buffer;
     buffer.Append(u"abc");

@@ -1,7 +1,4 @@
-#include "support/Script.h"
 #include "support/Test.h"
-
-using namespace std::literals;
 
 namespace {
 
@@ -54,12 +51,7 @@ TEST(CXmlTextWriter, FormatsMixedContentAndLeavesTheStartTagOpenAtEmptyText) {
 TEST(CXmlTextWriter, EscapesTextAndAttributes) {
     const std::u16string value = u"a\r\nb\nc\rd\t\"'&<>\x01\u00e9\U0001F600]]>";
     const std::string tail = "\x01\xC3\xA9\xF0\x9F\x98\x80]]&gt;";
-    const struct {
-        EOLType eol;
-        std::u16string attribute;
-        std::vector<std::u16string> texts;
-        std::string xml;
-    } rows[] = {
+    const std::tuple<EOLType, std::u16string, std::vector<std::u16string>, std::string> rows[] = {
         {EOLType_LF,
          value,
          {value},
@@ -181,7 +173,7 @@ TEST(CXmlTextWriter, GeneratedPrefixesRunThroughPairsOfLettersAndStopAtTheSurrog
     EXPECT_THROW(DerivedWriter::MakeAlias(end), CKzException);
 }
 
-/// Records what a stream is asked to do.
+/// Records what a stream is asked to do, and keeps what it flushes.
 struct RecordingStream : CTextStream {
     RecordingStream() : CTextStream(XmlEncoding_UTF8) {}
     void Open() override {
@@ -191,9 +183,11 @@ struct RecordingStream : CTextStream {
     void Close() override { log += "close "; }
     void Flush() override {
         log += std::to_string(GetBuffer().GetLength()) + " ";
+        text.append(GetBuffer().GetString(), GetBuffer().GetLength());
         CTextStream::Open();
     }
     std::string log;
+    std::u16string text;
 };
 
 TEST(CXmlTextWriter, FlushesAfterTheOperationThatReachesTheMark) {
@@ -217,30 +211,8 @@ TEST(CXmlTextWriter, FlushesAfterTheOperationThatReachesTheMark) {
     EXPECT_EQ(stream.log, "open 4100 4097 4101 4099 close 4106 4098 close ");
 }
 
-TEST(CXmlTextWriter, ManyOpenElementsNeedNoStack) {
-    Output out;
-    for (int i = 0; i < 250'000; ++i)
-        out.writer.StartElement(u"e", u"urn:x");
-    out.Run("@n=1 > >");
-    const std::u16string_view text = out.stream.GetBuffer().GetString();
-    EXPECT_TRUE(text.starts_with(u"<AA:e xmlns:AA=\"urn:x\"><AA:e><AA:e>"));
-    EXPECT_TRUE(text.ends_with(u"<AA:e><AA:e n=\"1\"/></AA:e>"));
-}
-
-TEST(CXmlTextWriter, ManyNestedNamespacesStayCheap) {
-    constexpr int depth = 5'000;
-    Output out;
-    for (int i = 0; i < depth; ++i)
-        out.writer.StartElement(u"e", u"urn:" + FromUtf8(std::to_string(i)));
-    const std::string last = ToUtf8(DerivedWriter::MakeAlias(depth - 1));
-    EXPECT_TRUE(out.Run("<{urn:7}e >").ends_with("<" + last + ":e xmlns:" + last + "=\"urn:4999\"><AH:e/>"));
-    for (int i = 0; i < depth - 1; ++i)
-        out.writer.EndElement();
-    EXPECT_TRUE(out.Run("<{urn:new}e").ends_with("<AB:e xmlns:AB=\"urn:new\""));
-}
-
-/// Makes the calls that a leaf stands for, one by one.
-struct ThreeCallsWriter : CXmlTextWriter {
+/// Its leaves are three calls each, one of which is its own.
+struct DerivedTextWriter : CXmlTextWriter {
     using CXmlTextWriter::CXmlTextWriter;
     void WriteText(const std::u16string& text, ItemType type) override {
         CXmlTextWriter::WriteText(text, type);
@@ -248,46 +220,32 @@ struct ThreeCallsWriter : CXmlTextWriter {
 };
 
 TEST(CXmlTextWriter, WritesALeafAsThreeOperationsWould) {
-    const std::u16string names[] = {u"e", u"name", u"customer", u"a_rather_long_name", u"cut\0off"s};
-    const std::u16string texts[] = {u"",
-                                    u"x",
-                                    u"a<b",
-                                    u"12345678",
-                                    u"one & two\n\r'\"",
-                                    u"<![CDATA[<]]>",
-                                    u"<",
-                                    u"\0"s,
-                                    u"seven77\0x"s,
-                                    std::u16string(1'100, u'>'),
-                                    std::u16string(300, u'&') + u"\u00e9"};
+    std::vector<std::u16string> texts = {
+        u"", u"x", u"a<b", u"12345678", u"one & two\n\r'\"", u"<![CDATA[<]]>", u"<", u"\0"s, u"seven77\0x"s};
+    texts.push_back(std::u16string(1'100, u'>'));
+    texts.push_back(std::u16string(300, u'&') + u"\u00e9");
+    const auto write = [&](CXmlTextWriter&& writer, bool atOnce, const char* before, const char16_t* uri) {
+        RunScript(writer, before);
+        for (const std::u16string& name :
+             {u"e"s, u"name"s, u"customer"s, u"a_rather_long_name"s, u"cut\0off"s})
+            for (const std::u16string& text : texts)
+                WriteLeaf(writer, atOnce, name, uri, text);
+    };
     for (const auto* before : {"", "<r ", "<r 'x ", "<r <s <t > ", "<r nil <{urn:x}s ", "+=urn:x <{urn:x}r ",
                                "+p=urn:x <{urn:x}r <s ", "+p=urn:x <{urn:x}r +p=urn:y +q=urn:x ",
                                "<a <a <a <a <a <a <a <a <a <a <a <a <a <a <a <a <a <a <{urn:x}a "})
-        for (const auto* uri : {u"", u"urn:x", u"urn:y"})
-            for (const bool formatted : {false, true}) {
-                RecordingStream streams[2];
-                CXmlTextWriter inBlocks(&streams[0]);
-                ThreeCallsWriter callsInBlocks(&streams[1]);
-                Output leaves(formatted, EOLType_CRLF), calls(formatted, EOLType_CRLF);
-                for (CXmlTextWriter* writer : {&inBlocks, static_cast<CXmlTextWriter*>(&callsInBlocks),
-                                               &leaves.writer, &calls.writer}) {
-                    writer->SetFormatted(formatted);
-                    RunScript(*writer, before);
-                    for (const std::u16string& name : names)
-                        for (const std::u16string& text : texts) {
-                            if (writer != &calls.writer) {
-                                writer->WriteLeaf(name, uri, text, ItemType_string);
-                                continue;
-                            }
-                            writer->StartElement(name, uri);
-                            writer->WriteText(text, ItemType_string);
-                            writer->EndElement();
-                        }
-                }
-                EXPECT_EQ(leaves.Text(), calls.Text()) << before;
-                EXPECT_EQ(streams[0].log, streams[1].log) << before;
-                EXPECT_GT(streams[1].log.size(), 10u);
+        for (const auto* uri : {u"", u"urn:x", u"urn:y"}) {
+            RecordingStream atOnce, derived, calls;
+            write(CXmlTextWriter(&atOnce), true, before, uri);
+            write(DerivedTextWriter(&derived), true, before, uri);
+            write(CXmlTextWriter(&calls), false, before, uri);
+            calls.Flush();
+            for (RecordingStream* stream : {&atOnce, &derived}) {
+                stream->Flush();
+                EXPECT_EQ(stream->text, calls.text) << before;
+                EXPECT_EQ(stream->log, calls.log) << before;
             }
+        }
 }
 
 } // namespace

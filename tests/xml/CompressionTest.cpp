@@ -1,5 +1,3 @@
-#include "support/Bytes.h"
-#include "support/LimitsScope.h"
 #include "support/Test.h"
 
 namespace {
@@ -99,11 +97,10 @@ TEST(Compression, OnlyTheFirstStreamCounts) {
 
 TEST(Compression, RefusesMoreThanTheLimit) {
     const std::string bomb = Compressed(std::string(1000000, ' '), CompressionType_GZip);
-    LimitsScope limits;
-    limits.Set(&Limits::inflatedBytes, 1000000);
+    Array array(bomb);
+    LimitsScope limits(&Limits::inflatedBytes, 1000000);
     EXPECT_EQ(Decompressed(bomb).size(), 1000000u);
     limits.Set(&Limits::inflatedBytes, 999999);
-    Array array(bomb);
     EXPECT_EQ(Failure([&] { Decompress(&array.data, &array.size); }),
               "The content of the compressed stream is larger than the limit of 999999 bytes");
     EXPECT_EQ(array.Bytes(), bomb);

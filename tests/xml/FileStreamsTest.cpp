@@ -1,10 +1,6 @@
 // The two roads of text into a file: whole, by CFileBinaryStream, and block by block, by CFileTextStream.
 
 #include "support/FileTest.h"
-#include "support/Test.h"
-
-#include <cerrno>
-#include <unistd.h>
 
 namespace {
 
@@ -59,11 +55,7 @@ TEST_F(FileStreams, Utf8HasNoMarkAndUtf16Has) {
 }
 
 TEST_F(FileStreams, LoneSurrogatesEndUtf8ForGoodWhereverBlocksEnd) {
-    const struct {
-        Pieces pieces;
-        const char* utf8;
-        std::size_t units;
-    } rows[] = {
+    const std::tuple<Pieces, const char*, std::size_t> rows[] = {
         {{u"a\xD83D", u"\xDE00z"}, "a\xF0\x9F\x98\x80z", 4},
         {{u"\xD83D", u"", u"\xDE00"}, "\xF0\x9F\x98\x80", 2},
         {{u"a\xD83D", u"b", u"c"}, "a", 4},
@@ -72,9 +64,9 @@ TEST_F(FileStreams, LoneSurrogatesEndUtf8ForGoodWhereverBlocksEnd) {
         {{u"ab", u"\xDE00", u"c"}, "ab", 4},
         {{u"\xD83D"}, "", 1},
     };
-    for (const auto& row : rows) {
-        EXPECT_EQ(BothRoads(row.pieces, XmlEncoding_UTF8), row.utf8);
-        EXPECT_EQ(BothRoads(row.pieces, XmlEncoding_UTF16).size(), 2 + 2 * row.units);
+    for (const auto& [pieces, utf8, units] : rows) {
+        EXPECT_EQ(BothRoads(pieces, XmlEncoding_UTF8), utf8);
+        EXPECT_EQ(BothRoads(pieces, XmlEncoding_UTF16).size(), 2 + 2 * units);
     }
 }
 
