@@ -1,6 +1,5 @@
 #include "support/Test.h"
 
-using namespace std::literals;
 using W = CWhitespaceUtils;
 
 namespace {

@@ -1,7 +1,5 @@
 #include "support/Test.h"
 
-using namespace std::literals;
-
 namespace {
 
 using C = CConversions;
@@ -13,12 +11,10 @@ TEST(ValueClassConversions, YearsMonthsAndDaysComeFromAnyFormThatHasThem) {
     EXPECT_EQ(C::yearFromString(u"-0001", none), 65535);
     EXPECT_EQ(C::monthFromString(u"--05-06", none), 5);
     EXPECT_EQ(C::dayFromString(u"2010-05-06Z", none), 6);
-    EXPECT_EQ(InvalidState([] { C::yearFromString(u"--05", none); }),
-              "Failed to GetYear. Invalid Date Type: gMonth.");
-    EXPECT_EQ(InvalidState([] { C::monthFromString(u"2001", none); }),
-              "Failed to GetMonth. Invalid Date Type: gYear.");
     EXPECT_EQ(InvalidState([] { C::dayFromString(u"2001-05", none); }),
               "Failed to GetDay. Invalid Date Type: gYearMonth.");
+    EXPECT_EQ(InvalidValue([] { C::durationFromString(u" P ", collapse); }),
+              "Invalid XSD Duration [P] expected [-]P[nY][nM][nD][T[nH][nM][nS.ff]]");
 }
 
 TEST(ValueClassConversions, TheFormOfADateDecidesOnItsKind) {
@@ -29,14 +25,6 @@ TEST(ValueClassConversions, TheFormOfADateDecidesOnItsKind) {
     for (const auto write :
          {C::datetimeToString, C::dateToString, C::timeToString, C::yearMonthToString, C::monthDayToString})
         EXPECT_EQ(write(time), u"12:00:00");
-}
-
-TEST(ValueClassConversions, FailuresOfTheClassesPassUnchanged) {
-    EXPECT_EQ(Failure([] { C::hexBinaryFromString(u" 00 ", none); }), "Invalid char in hex string [ ]");
-    EXPECT_EQ(C::base64BinaryFromString(u"AQ*=", none).GetLength(), 0u);
-    EXPECT_EQ(InvalidValue([] { C::durationFromString(u" P ", collapse); }),
-              "Invalid XSD Duration [P] expected [-]P[nY][nM][nD][T[nH][nM][nS.ff]]");
-    EXPECT_EQ(InvalidValue([] { C::timeFromString(u"", none); }), "Invalid XSD Time (Empty String)");
 }
 
 TEST(ValueClassConversions, TextsEndAtTheirFirstNul) {

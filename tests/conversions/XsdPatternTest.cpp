@@ -1,7 +1,5 @@
 #include "support/Test.h"
 
-using namespace std::literals;
-
 namespace {
 
 /// Rows of a pattern and a value, and whether they match.
@@ -50,9 +48,7 @@ TEST(XsdPattern, LenientFormsKeepWorking) {
 }
 
 TEST(XsdPattern, BrokenPatternsReportTheValue) {
-    const struct {
-        const char *pattern, *value, *error;
-    } rows[] = {
+    const std::array<const char*, 3> rows[] = {
         {"(", "value", "missing closing parenthesis"},
         {R"(\p{IsGreek})", "v", "unknown property after \\P or \\p"},
         {"\xFF", "%s", "UTF-8 error: illegal byte (0xfe or 0xff)"},

@@ -1,7 +1,4 @@
-#include "support/Bytes.h"
 #include "support/Test.h"
-
-#include <thread>
 
 namespace {
 

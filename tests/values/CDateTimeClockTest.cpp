@@ -1,9 +1,6 @@
 #include "values/Dates.h"
 
-#include <chrono>
-#include <cstdlib>
 #include <cstring>
-#include <ctime>
 
 namespace {
 

@@ -4,9 +4,7 @@ namespace {
 
 /// The text of what is read, or the message of the failure.
 std::string Read(const char16_t* text) {
-    CDateTimeSpan span;
-    const std::string failure = InvalidValue([&] { span.ParseXSDDuration(text); });
-    return failure != "no failure" ? failure : ToUtf8(span.ToString());
+    return Outcome<CKzInvalidValueException>([&] { return ToUtf8(Span(text).ToString()); });
 }
 
 TEST(CDateTimeSpan, WhatIsReadIsWritten) {

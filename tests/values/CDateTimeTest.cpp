@@ -200,19 +200,18 @@ int Access(CDateTime& value, int number) {
 
 TEST(CDateTime, GettersAndSettersAskTheKindAndNotTheRange) {
     using D = CDateTime;
-    const struct {
-        std::string name, kinds; // the numbers of the kinds that have the field
-        int (*access)(D&, int number);
-    } rows[] = {{"Year", "1234", Access<&D::GetYear, &D::SetYear>},
-                {"Month", "12378", Access<&D::GetMonth, &D::SetMonth>},
-                {"Day", "1268", Access<&D::GetDay, &D::SetDay>},
-                {"Hour", "15", Access<&D::GetHour, &D::SetHour>},
-                {"Minute", "15", Access<&D::GetMinute, &D::SetMinute>},
-                {"Second", "15", Access<&D::GetSecond, &D::SetSecond>},
-                {"MilliSecond", "15", Access<&D::GetMilliSecond, &D::SetMilliSecond>},
-                {"MicroSecond", "15", Access<&D::GetMicroSecond, &D::SetMicroSecond>},
-                {"NanoSecond", "15", Access<&D::GetNanoSecond, &D::SetNanoSecond>},
-                {"RealSecond", "15", [](D& d, int) { return static_cast<int>(d.GetRealSecond()); }}};
+    // The name, the numbers of the kinds that have the field, the access.
+    const std::tuple<std::string, std::string, int (*)(D&, int)> rows[] = {
+        {"Year", "1234", Access<&D::GetYear, &D::SetYear>},
+        {"Month", "12378", Access<&D::GetMonth, &D::SetMonth>},
+        {"Day", "1268", Access<&D::GetDay, &D::SetDay>},
+        {"Hour", "15", Access<&D::GetHour, &D::SetHour>},
+        {"Minute", "15", Access<&D::GetMinute, &D::SetMinute>},
+        {"Second", "15", Access<&D::GetSecond, &D::SetSecond>},
+        {"MilliSecond", "15", Access<&D::GetMilliSecond, &D::SetMilliSecond>},
+        {"MicroSecond", "15", Access<&D::GetMicroSecond, &D::SetMicroSecond>},
+        {"NanoSecond", "15", Access<&D::GetNanoSecond, &D::SetNanoSecond>},
+        {"RealSecond", "15", [](D& d, int) { return static_cast<int>(d.GetRealSecond()); }}};
     D full(2001, 5, 12, 13, 20, 1);
     for (const auto& [name, kinds, access] : rows) {
         for (char kind = '0'; kind <= '8'; ++kind) {
@@ -226,7 +225,7 @@ TEST(CDateTime, GettersAndSettersAskTheKindAndNotTheRange) {
         }
     }
     for (int i = 0; i < 9; ++i)
-        EXPECT_EQ(rows[i].access(full, 11 + i), 11 + i);
+        EXPECT_EQ(std::get<2>(rows[i])(full, 11 + i), 11 + i);
     EXPECT_EQ(full.ToString(), u"0011-12-13T14:15:16.017018019");
     EXPECT_EQ(full.GetRealSecond(), 17 / 1000.0 + 16 + 18 / 1e6 + 19 / 1e9);
     EXPECT_EQ(D(static_cast<D::DTType>(9)).GetTypeAsString(), u"");

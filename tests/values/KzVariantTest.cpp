@@ -1,4 +1,3 @@
-#include "support/Script.h"
 #include "support/Test.h"
 #include "values/PayloadMemory.h"
 
@@ -79,14 +78,11 @@ TEST(KzVariant, CopiesAreDeepAndMovesEmptyTheirSource) {
     KzVariant copy(source);
     source.SetString(u"other");
     EXPECT_EQ(copy.GetString(), u"text");
-
     const std::u16string* payload = &copy.GetStringRef();
     KzVariant moved(std::move(copy));
-    EXPECT_EQ(&moved.GetStringRef(), payload);
-    EXPECT_FALSE(copy.IsValid());
     source = std::move(moved);
     EXPECT_EQ(&source.GetStringRef(), payload);
-    EXPECT_FALSE(moved.IsValid());
+    EXPECT_FALSE(copy.IsValid() || moved.IsValid());
 
     const PayloadMemory keeper; // by which the second text and those after it are kept
     for (const std::u16string& text :

@@ -2,8 +2,6 @@
 
 #include "support/Test.h"
 
-#include <cmath>
-
 namespace KzXmlLib10::support {
 
 /// The texts of numbers, with a blank between.
