@@ -1,4 +1,3 @@
-#include "support/Model.h"
 #include "support/Test.h"
 
 namespace {
@@ -13,8 +12,8 @@ TEST(AdditionalRootAttributes, PrecedeTheRootsOwnAndStandOnTheRootOnly) {
     object->FromXml(u"<order id='7'><line no='1'/></order>", context);
     context.GetAdditionalRootAttributes()->Add(u"lang", u"en");
     context.GetAdditionalRootAttributes()->Add(u"v", u"1", u"urn:v");
-    EXPECT_EQ(object->ToXml(false, false, EOLType_LF, context),
-              u"<order lang=\"en\" xmlns:AA=\"urn:v\" AA:v=\"1\" id=\"7\"><line no=\"1\"/></order>");
+    EXPECT_EQ(Text(*object, context),
+              "<order lang=\"en\" xmlns:AA=\"urn:v\" AA:v=\"1\" id=\"7\"><line no=\"1\"/></order>");
 }
 
 TEST(AdditionalRootAttributes, AreSharedByCopiesMadeAfterwards) {

@@ -2,24 +2,13 @@
 
 namespace {
 
-/// A collection, so also an object, with what it inherits in the open. It takes the first child that it is
-/// offered.
-class CChoice : public CXmlCollection {
-public:
-    explicit CChoice(int minOccurs = 0) : CXmlCollection(u"c", u"", minOccurs, -1) {}
-
+/// An object with what it inherits in the open.
+struct CChoice : ScriptedObject {
+    CChoice() : ScriptedObject("") {}
     using CXmlObjectBase::Choice_CollectionChanged;
     using CXmlObjectBase::Choice_Read_Collection;
     using CXmlObjectBase::Choice_SelectElement;
     using CXmlObjectBase::Choice_SetElementValid;
-
-protected:
-    void ToXml_Int(CXmlWriter*, bool, const char16_t*, const CXmlSerializationContext&, bool) const override {
-    }
-    CXmlElement* FromXml_Int(CXmlElement*, CXmlElement* current, const CXmlSerializationContext&,
-                             bool) override {
-        return current ? current->GetNextSiblingElement() : nullptr;
-    }
 };
 
 /// In each row the record of the choice, what is set, and behind the arrow the record after `helper` has been
@@ -58,11 +47,12 @@ TEST(ChoiceHelpers, KeepTheRecordOfTheOneMemberThatIsSet) {
 }
 
 TEST(ChoiceHelpers, ReadCollectionTakesOneRunAndChecksItsNumber) {
+    const kit::Model item(u"x");
     CXmlDocument document;
     document.LoadXml(u"<r><x/><y/></r>");
     CXmlElement* root = document.GetDocumentElement();
     const auto read = [&](int minOccurs, CXmlElement* current, long count) {
-        CChoice collection(minOccurs);
+        kit::CModelCol collection(item, u"x", u"", minOccurs, -1);
         std::string result = Failure<CKzValidationException>([&] {
             CChoice::Choice_Read_Collection(&collection, root, current, count, CXmlSerializationContext());
         });
@@ -72,7 +62,7 @@ TEST(ChoiceHelpers, ReadCollectionTakesOneRunAndChecksItsNumber) {
     EXPECT_EQ(read(0, root->GetFirstElement(), 1), "1x no failure");
     EXPECT_EQ(read(5, nullptr, 0), "0null no failure") << "nothing taken, nothing counted";
     EXPECT_EQ(read(5, root->GetFirstElement(), 0),
-              "0y The Minimum number of [c] elements allowed in this collection is 5");
+              "0y The Minimum number of [x] elements allowed in this collection is 5");
 }
 
 } // namespace

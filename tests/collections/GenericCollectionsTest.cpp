@@ -2,8 +2,6 @@
 
 namespace {
 
-const CXmlSerializationContext& Defaults() { return CXmlSerializationContext::GetDefaultContext(); }
-
 /// Such as "{urn:a}x=1 y=2".
 std::string Describe(const CAttributeCol& attributes) {
     std::u16string text;
@@ -60,15 +58,15 @@ TEST(CAttributeCol, AddsUnderItsRestriction) {
     clone->Item(0)->SetName(u"c");
     clone->Add(u"n", u"5");
     EXPECT_EQ(Describe(*clone), "{urn:a}c=1 {urn:a}y=2 z=3 {urn:b}o=4 {urn:a}n=5");
-    EXPECT_EQ(Failure([&] { last->FromXml(u"<a/>", Defaults()); }), "This should be done by the collection");
+    EXPECT_EQ(Failure([&] { last->FromXml(u"<a/>", {}); }), "This should be done by the collection");
 }
 
 TEST(CAttributeCol, ReadsAllAttributesOrFails) {
     CAttributeCol attributes(u"", u"##local", u"");
-    attributes.FromXml(u"<r a='1' b='2'/>", Defaults());
+    attributes.FromXml(u"<r a='1' b='2'/>", {});
     EXPECT_EQ(Describe(attributes), "a=1 b=2");
     EXPECT_EQ(Failure<CKzInvalidNamespaceException>(
-                  [&] { attributes.FromXml(u"<r c='3' p:d='4' xmlns:p='urn:p'/>", Defaults()); }),
+                  [&] { attributes.FromXml(u"<r c='3' p:d='4' xmlns:p='urn:p'/>", {}); }),
               "Invalid Attribute [d]. The attributes namespace is Inappropriate.");
     EXPECT_EQ(Describe(attributes), "a=1 b=2 c=3");
 }
@@ -84,7 +82,7 @@ TEST(CElementCol, HoldsItsRestrictionAgainstTheDefaultNamespaceOnly) {
     elements.AddBefore(last, new CElement(u"w"));
     elements.AddAfter(nullptr, new CElement(u"v"));
     EXPECT_EQ(Describe(elements), "{}v {urn:a}x {urn:b}y {}w {urn:c}z ");
-    EXPECT_NO_THROW(elements.ValidateCount(Defaults())) << "the bounds given are not heeded";
+    EXPECT_NO_THROW(elements.ValidateCount({})) << "the bounds given are not heeded";
     EXPECT_EQ(elements.Item(1)->GetName(), u"x");
 
     const CSmartPtr<CElementCol> clone = elements.Clone();
@@ -103,9 +101,9 @@ TEST(CElementCol, AKeywordMayStandAsTheDefaultNamespace) {
 
 TEST(CElementCol, ReadsEveryElementThatIsLeft) {
     CElementCol elements(u"", u"##local", u"urn:t", 0, -1);
-    elements.FromXml(u"<r><a/><b xmlns='urn:b'><c/></b>text</r>", Defaults());
+    elements.FromXml(u"<r><a/><b xmlns='urn:b'><c/></b>text</r>", {});
     EXPECT_EQ(Describe(elements), "{}a {urn:b}b ");
-    elements.FromXml(u"<r/>", Defaults());
+    elements.FromXml(u"<r/>", {});
     EXPECT_EQ(elements.GetCount(), 2);
 
     // Without namespaces their declarations are attributes like any other.
