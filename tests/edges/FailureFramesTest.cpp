@@ -1,7 +1,4 @@
-#include "support/Bytes.h"
 #include "support/FileTest.h"
-#include "support/LimitsScope.h"
-#include "support/Model.h"
 
 namespace {
 
@@ -26,7 +23,7 @@ std::string Frames(const std::function<void()>& action) {
     return "no failure";
 }
 
-class FailureFramesTest : public support::FileTest {
+class FailureFramesTest : public FileTest {
 protected:
     FailureFramesTest() {
         m_item.Attribute(u"id", kit::Required, ItemType_i4, nullptr, kit::Facets(u"", -1, -1, u"1", u"9"))
@@ -68,9 +65,9 @@ TEST_F(FailureFramesTest, ReadingTellsThePathAndTheCause) {
     for (const auto& [content, frames] : rows)
         EXPECT_EQ(Reading("<order>" + content + "</order>"), frames) << content;
     EXPECT_EQ(Reading(""), "Syntax");
-    EXPECT_EQ(Reading(support::FromBinary(support::ToBinary(std::string("\xE0\0\0\1\0\x3C", 6)))), "Syntax");
+    EXPECT_EQ(Reading(FromBinary(ToBinary(std::string("\xE0\0\0\1\0\x3C", 6)))), "Syntax");
     EXPECT_EQ(Frames([&] { ReadFile(*m_order.New(), "/no [such] file"); }), "File /no [such] file");
-    const support::LimitsScope limits(&Limits::inputBytes, 10);
+    const LimitsScope limits(&Limits::inputBytes, 10);
     EXPECT_EQ(Reading("<order></order>"), "Limit");
 }
 
@@ -94,8 +91,7 @@ TEST_F(FailureFramesTest, WritingTellsThePathInBothFormats) {
 }
 
 TEST_F(FailureFramesTest, WhatIsNoFailureOfADocumentHasTheKindOfItsClass) {
-    CstringCol texts(u"t", u"", 0, -1, u"", -1, -1, u"", u"", u"", u"", -1,
-                     CWhitespaceUtils::WhitespaceRule_None, u"");
+    const auto texts = Make<CstringCol>();
     CXmlSerializationContext context;
     context.SetIgnoreUnknownElements(true);
     CAttributeCol attributes(u"", u"urn:a", u"");
@@ -115,8 +111,8 @@ TEST_F(FailureFramesTest, WhatIsNoFailureOfADocumentHasTheKindOfItsClass) {
         {[] { throw CKzValidationException(u"Failed to process the record 12"); }, "Record 12"},
         {[] {
              throw CKzException(
-                 u"The Property [x] is already set. Only one element within this class bay be set at "
-                 u"a time");
+                 u"The Property [x] is already set. Only one element within this class bay be set "
+                 u"at a time");
          },
          "Choice x"},
     };

@@ -1,13 +1,10 @@
 #include "support/FileTest.h"
-#include "support/Model.h"
-
-#include <ranges>
 
 namespace {
 
 using kit::Mnd;
 
-class ReadAndWriteTest : public support::FileTest {
+class ReadAndWriteTest : public FileTest {
 protected:
     ReadAndWriteTest() { m_note.Prim(u"text", Mnd, ItemType_string); }
 

@@ -1,7 +1,6 @@
 /// A process of its own, since only the first registration of a process counts: here the generator is too
 /// new.
 
-#include "support/Script.h"
 #include "support/Test.h"
 
 namespace {

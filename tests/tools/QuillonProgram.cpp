@@ -18,18 +18,13 @@ namespace {
 
 struct Result {
     int exitCode;
-    std::string out;
-    std::string err;
+    std::string out, err;
 };
 
 class QuillonProgram : public testing::Test {
 protected:
-    void SetUp() override {
-        const auto name = "quillon-" + std::to_string(getpid());
-        m_folder = std::filesystem::temp_directory_path() / name;
-        std::filesystem::create_directory(m_folder);
-    }
-    void TearDown() override { std::filesystem::remove_all(m_folder); }
+    QuillonProgram() { std::filesystem::create_directory(m_folder); }
+    ~QuillonProgram() override { std::filesystem::remove_all(m_folder); }
 
     std::string Read(const std::string& file) const {
         std::ifstream stream(m_folder / file, std::ios::binary);
@@ -50,7 +45,8 @@ protected:
         return Shell("quillon " + arguments, input);
     }
 
-    std::filesystem::path m_folder;
+    const std::filesystem::path m_folder =
+        std::filesystem::temp_directory_path() / ("quillon-" + std::to_string(getpid()));
 };
 
 const std::string declaration = "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n";
@@ -97,11 +93,8 @@ TEST_F(QuillonProgram, OptionsPrevailOverTheEndingAndStreamsHaveNone) {
 }
 
 TEST_F(QuillonProgram, WritesEveryNameWithItsNamespaceThroughBothFormats) {
-    const struct {
-        std::string in;
-        std::string out;
-        std::string warning;
-    } rows[] = {
+    const std::array<std::string, 3> rows[] = {
+        // the input, the output, the warning
         // the default namespace stays where it can hold for all
         {"<a xmlns='u'><b xmlns:q='v' q:t='q:x'/></a>", "<a xmlns=\"u\" xmlns:q=\"v\"><b q:t=\"q:x\"/></a>",
          ""},
@@ -119,32 +112,33 @@ TEST_F(QuillonProgram, WritesEveryNameWithItsNamespaceThroughBothFormats) {
         {"<a>&lt;![CDATA[x]]&gt;&#10;</a>", "<a>&lt;![CDATA[x]]&gt;\n</a>", ""},
         {"<a>s<b/>t<c/></a>", "<a>st<b/><c/></a>",
          "quillon: standard input: warning: 1 element(s) with text among their children; the text now stands "
-         "in "
-         "front of them\n"},
+         "in front of them\n"},
         {"<a b='&#9;'/>", "<a b=\"\t\"/>",
          "quillon: standard input: warning: 1 attribute value(s) with tabs or carriage returns, which do not "
          "survive in text\n"},
     };
-    for (const auto& row : rows) {
-        const Result direct = Quillon("convert -", row.in);
-        EXPECT_EQ(direct.out, declaration + row.out);
-        EXPECT_EQ(direct.err, row.warning);
-        EXPECT_EQ(Shell("quillon convert -t fast-infoset - | quillon convert -", row.in).out, direct.out);
+    for (const auto& [in, out, warning] : rows) {
+        const Result direct = Quillon("convert -", in);
+        EXPECT_EQ(direct.out, declaration + out);
+        EXPECT_EQ(direct.err, warning);
+        EXPECT_EQ(Shell("quillon convert -t fast-infoset - | quillon convert -", in).out, direct.out);
     }
 }
 
 TEST_F(QuillonProgram, ShowsAndCounts) {
     Write("in.xml", "<a xmlns='u' b='q\"\\'><c xmlns:p='v'>x&#x9B;</c><p:d xmlns:p='v' e=''><f>" +
                         std::string(71, '-') + "\xF0\x9F\x98\x80</f></p:d></a>");
-    EXPECT_EQ(
-        Quillon("show in.xml").out,
-        "xmlns = \"u\"\nxmlns:p = \"v\"\na\n  @b = \"q\\\"\\\\\"\n  c = \"x\\u009B\"\n  p:d\n    @e = \"\"\n"
-        "    f = \"" +
-            std::string(71, '-') + "\"... (73 characters)\n");
-    EXPECT_EQ(
-        Quillon("show --depth 2 in.xml").out,
-        "xmlns = \"u\"\nxmlns:p = \"v\"\na\n  @b = \"q\\\"\\\\\"\n  c = \"x\\u009B\"\n  p:d\n    @e = \"\"\n"
-        "    ...\n");
+    const std::string shown = R"(xmlns = "u"
+xmlns:p = "v"
+a
+  @b = "q\"\\"
+  c = "x\u009B"
+  p:d
+    @e = ""
+)";
+    EXPECT_EQ(Quillon("show in.xml").out,
+              shown + "    f = \"" + std::string(71, '-') + "\"... (73 characters)\n");
+    EXPECT_EQ(Quillon("show --depth 2 in.xml").out, shown + "    ...\n");
     EXPECT_NE(Quillon("show --full in.xml").out.find(std::string(71, '-') + "\xF0\x9F\x98\x80\"\n"),
               std::string::npos);
 
@@ -158,20 +152,14 @@ TEST_F(QuillonProgram, ShowsAndCounts) {
 
 TEST_F(QuillonProgram, TellsWhatFailedByMessageAndExitCode) {
     Write("cut.gz", Quillon("convert -c gzip -", text).out.substr(0, 60));
-    const struct {
-        std::string command;
-        std::string input;
-        int exitCode;
-        std::string err;
-    } rows[] = {
+    const std::tuple<std::string, std::string, int, std::string> rows[] = {
         {"quillon convert -", "<a>\n<b></a>", 1, "quillon: standard input: mismatched tag at line 2\n"},
         {"quillon stat -", "", 1, "quillon: standard input: XML Stream is empty!\n"},
         {"quillon show -", "\xE0\x00\x00\x01\x00\xF0"s, 1,
          "quillon: standard input: Invalid or empty XML document\n"},
         {"quillon convert -", "\xE0\x00\x00\x01\x00\x3C\x00\x01\xFF"s, 1,
          "quillon: standard input: The document cannot be written as text\nnot well-formed (invalid token) "
-         "at line "
-         "2\n"},
+         "at line 2\n"},
         {"quillon convert -", "<a xmlns='&lt;'/>", 1,
          "quillon: standard input: The namespace [<] cannot be written as text\n"},
         {"quillon convert none.xml", "", 3, "quillon: none.xml: No such file or directory\n"},
@@ -189,11 +177,11 @@ TEST_F(QuillonProgram, TellsWhatFailedByMessageAndExitCode) {
         {"quillon convert - out.finf -f", "<a/>", 2,
          "quillon: --formatted and --encoding are for text only\nRun with --help for more information.\n"},
     };
-    for (const auto& row : rows) {
-        const Result result = Shell(row.command, row.input);
-        EXPECT_EQ(result.exitCode, row.exitCode) << row.command;
-        EXPECT_EQ(result.out, "") << row.command;
-        EXPECT_EQ(result.err, row.err);
+    for (const auto& [command, input, exitCode, err] : rows) {
+        const Result result = Shell(command, input);
+        EXPECT_EQ(result.exitCode, exitCode) << command;
+        EXPECT_EQ(result.out, "") << command;
+        EXPECT_EQ(result.err, err);
     }
     EXPECT_FALSE(std::filesystem::exists(m_folder / "out.finf"));
     EXPECT_EQ(Quillon("--version").out, "quillon 10.1.0\n");
