@@ -5,11 +5,10 @@ namespace KzXmlLib10::support {
 namespace {
 
 std::string Visible(const std::u16string& text) {
-    std::string result;
-    for (const char c : ToUtf8(text)) {
-        const std::size_t at = "\n\r\t"sv.find(c);
-        result += at == std::string::npos ? std::string(1, c) : "\\"s + "nrt"[at];
-    }
+    std::string result = ToUtf8(text);
+    for (const auto& [c, letter] : {std::pair('\n', 'n'), std::pair('\r', 'r'), std::pair('\t', 't')})
+        for (std::size_t at = 0; (at = result.find(c, at)) != std::string::npos; at += 2)
+            result.replace(at, 1, {'\\', letter});
     return result;
 }
 
