@@ -76,4 +76,28 @@ TEST_F(AsyncFileTest, PipesNeitherHangNorKill) {
     EXPECT_EQ(Write(out, 6, "ghi"), EPIPE);
 }
 
+TEST_F(AsyncFileTest, ClosesOnceAndReportsTheFirstClose) {
+    static int closed, closeError;
+    systemCalls.close = [](int file) {
+        ++closed;
+        close(file);
+        errno = closeError;
+        return closeError ? -1 : 0;
+    };
+    for (const int error : {0, EIO, EINTR}) {
+        closed = 0;
+        closeError = error;
+        AsyncFile file;
+        ASSERT_EQ(file.OpenForWriting(m_dir.Path16("f")), 0);
+        EXPECT_EQ(file.Close(), error == EINTR ? 0 : error);
+        EXPECT_EQ(file.Close(), 0);
+        EXPECT_EQ(closed, 1);
+    }
+    systemCalls.fstat = [](int, struct stat*) { return errno = EOVERFLOW, -1; };
+    AsyncFile file;
+    EXPECT_EQ(file.OpenForReading(m_dir.Path16("f")), EOVERFLOW);
+    EXPECT_FALSE(file.IsOpen());
+    EXPECT_EQ(closed, 2);
+}
+
 } // namespace
