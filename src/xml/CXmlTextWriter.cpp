@@ -134,8 +134,7 @@ void CXmlTextWriter::StartElement(const std::u16string& name, const std::u16stri
     to = PutIndent(to, depth);
     *to++ = u'<';
     to = PutPrefix(to, prefix.prefix);
-    context->m_nameLength = CopyUntil<StopAtZero>(to, name.data(), name.size());
-    Buffer().Commit(to + context->m_nameLength);
+    Buffer().Commit(to + CopyUntil<StopAtZero>(to, name.data(), name.size()));
     if (prefix.isNew) {
         Buffer().AppendChar(u' ');
         WriteNamespace(*prefix.prefix, namespaceUri);
@@ -182,7 +181,7 @@ void CXmlTextWriter::WriteEndTag(CXmlWriterContext& context) {
         context.m_prefix = context.NeedsPrefix(uri) ? &context.GetAlias(uri) : nullptr;
     }
     const std::size_t depth = context.m_childCount > 0 ? IndentDepth(context) : 0;
-    const std::u16string_view name(context.m_name.data(), context.m_nameLength);
+    const std::u16string& name = context.m_name;
     char16_t* to =
         Buffer().Reserve(IndentRoom(depth) + PrefixRoom(context.m_prefix) + name.size() + m_eol.size() + 3);
     to = PutIndent(to, depth);

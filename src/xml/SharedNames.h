@@ -4,10 +4,10 @@
 
 #include <KzXmlLib10/xml/SharedName.h>
 
+#include <functional>
 #include <set>
 #include <string>
 #include <string_view>
-#include <utility>
 
 namespace KzXmlLib10 {
 
@@ -36,7 +36,9 @@ private:
     };
     struct NameOrder {
         bool operator()(const SharedName& a, const SharedName& b) const {
-            return std::pair(a.localName, a.namespaceUri) < std::pair(b.localName, b.namespaceUri);
+            constexpr std::less<const std::u16string*> isBefore;
+            return a.localName != b.localName ? isBefore(a.localName, b.localName)
+                                              : isBefore(a.namespaceUri, b.namespaceUri);
         }
     };
 

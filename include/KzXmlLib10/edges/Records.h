@@ -101,8 +101,9 @@ private:
 ///
 /// A document of any size is read in constant memory: text in any encoding that expat reads, plain or under
 /// gzip or zlib, in blocks of 64 KiB, of which the records are held ready. What takes memory is the largest
-/// child of the root; the Limits of a document apply to each child, those of a compressed stream too. A Fast
-/// Infoset document is taken whole, with all its records.
+/// child of the root, and each distinct name of elements and attributes, which the parser keeps; the Limits
+/// of a document apply to each child, those of a compressed stream too. A Fast Infoset document is taken
+/// whole, with all its records.
 ///
 /// Each record is an object of its own, which lives on in a CSmartPtr that is pointed at it.
 ///

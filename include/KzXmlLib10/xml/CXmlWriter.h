@@ -138,8 +138,6 @@ protected:
         /// The namespace state in which the prefix was found, which no other state shares its number with.
         std::uint64_t StateOfPrefix() const { return m_stateOfPrefix; }
         const std::u16string* m_prefix = nullptr;
-        /// How much of the name goes into text, where a name ends at its first zero.
-        std::size_t m_nameLength = 0;
 
     private:
         void OwnNamespaces();
