@@ -32,6 +32,9 @@ Units CopyUnits(char16_t* to, const char16_t* from) {
     return units;
 }
 
+/// Eight times a unit.
+constexpr EightUnits All(std::uint16_t unit) { return EightUnits{} + unit; }
+
 /// Whether a comparison holds for any of eight units.
 template <class Mask>
 bool Any(Mask mask) {
@@ -82,14 +85,17 @@ struct StopInContent {
     }
     static auto Among(detail::EightUnits units) {
         static_assert((u'<' | 2) == u'>');
-        return (units <= u'\r') | (units == u'&') | ((units | 2) == u'>');
+        return (units <= detail::All(u'\r')) | (units == detail::All(u'&')) |
+               ((units | detail::All(2)) == detail::All(u'>'));
     }
 };
 
 /// What cannot stand in an attribute as it is.
 struct StopInAttribute {
     static bool Is(char16_t unit) { return StopInContent::Is(unit) || unit == u'"'; }
-    static auto Among(detail::EightUnits units) { return StopInContent::Among(units) | (units == u'"'); }
+    static auto Among(detail::EightUnits units) {
+        return StopInContent::Among(units) | (units == detail::All(u'"'));
+    }
 };
 
 /// Copies a text up to its end or to the first stop. Returns how many units it copied; what `to` has behind
