@@ -43,6 +43,8 @@ TEST(CDateTime, BadDatesAreRefusedWithTheirMessage) {
                 "0000-00-01 -> Invalid Month [0] (1 <= month <= 12)",
                 "1900-02-29 -> Invalid Day [29] (1 <= day <= days in month",
                 "2001-04-31 -> Invalid Day [31] (1 <= day <= days in month",
+                "2001-04-00 -> Invalid Day [0] (1 <= day <= days in month",
+                "--04-00 -> Invalid Day [0] (1 <= day <= days in month)",
                 "--02-30 -> Invalid Day [30] (1 <= day <= days in month)",
                 "---32 -> Invalid Day [32] (1 <= day <= 31)", "---00 -> Invalid Day [0] (1 <= day <= 31)"});
     EXPECT_EQ(Read(&CDateTime::ParseXSDDate, nullptr), "Invalid Date (Null String)");
