@@ -69,12 +69,12 @@ TEST(OrdersClasses, SettersRefuseWhatTheSchemaDoes) {
     COrder order(u"order");
     const CSmartPtr<CPayment> payment = new CPayment(u"payment");
     const CSmartPtr<CTransfer> transfer = new CTransfer(u"transfer");
-    const CSmartPtr<CCard> misnamed = new CCard(u"transfer");
+    const CSmartPtr<CCard> card = new CCard(u"card"), misnamed = new CCard(u"transfer");
     payment->SetCard(nullptr); // selects nothing
     payment->SetTransfer(transfer);
     payment->SetTransfer(transfer);
     EXPECT_EQ(
-        InvalidState([&] { payment->SetCard(new CCard(u"card")); }),
+        InvalidState([&] { payment->SetCard(card); }),
         "The Property [transfer] is already set. Only one element within this class bay be set at a time");
     EXPECT_EQ(payment->GetCard(), nullptr);
     payment->SetTransfer(nullptr);
