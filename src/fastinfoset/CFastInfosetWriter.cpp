@@ -72,8 +72,8 @@ std::string_view AsText(const CBinaryData& data) {
 } // namespace
 
 CFastInfosetWriter::CFastInfosetWriter(CBinaryStream* stream, const CFastInfosetContext* context)
-    : CXmlWriter(typeid(CFastInfosetWriter), WriteLeafAtOnce), m_stream(NotNull(stream, u"stream")),
-      m_fiContext(NotNull(context, u"context")),
+    : CXmlWriter(typeid(CFastInfosetWriter), static_cast<LeafOperation>(&CFastInfosetWriter::WritePlainLeaf)),
+      m_stream(NotNull(stream, u"stream")), m_fiContext(NotNull(context, u"context")),
       m_vocabulary(context->GetUseGeneratedVocabulary() ? new CFIVocabulary(context->GetVocabulary())
                                                         : new CFIVocabulary) {}
 
@@ -181,12 +181,6 @@ void CFastInfosetWriter::EndElement() {
         WriteByte(DoubleEnd);
     m_pendingTerminator = !m_pendingTerminator;
     LeaveContext();
-}
-
-void CFastInfosetWriter::WriteLeafAtOnce(CXmlWriter& writer, const std::u16string& name,
-                                         const std::u16string& namespaceUri, const std::u16string& text,
-                                         ItemType type) {
-    static_cast<CFastInfosetWriter&>(writer).WritePlainLeaf(name, namespaceUri, text, type);
 }
 
 /// Writes an element in the namespace of its parent without a context of its own, and any other by its parts.

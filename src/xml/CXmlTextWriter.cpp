@@ -48,7 +48,8 @@ std::size_t CopyUnescaped(char16_t* to, std::u16string_view text, bool inAttribu
 } // namespace
 
 CXmlTextWriter::CXmlTextWriter(CTextStream* stream)
-    : CXmlWriter(typeid(CXmlTextWriter), WriteLeafAtOnce), m_stream(NotNull(stream, u"stream")) {
+    : CXmlWriter(typeid(CXmlTextWriter), static_cast<LeafOperation>(&CXmlTextWriter::WritePlainLeaf)),
+      m_stream(NotNull(stream, u"stream")) {
     m_stream->Open();
 }
 
@@ -197,12 +198,6 @@ void CXmlTextWriter::WriteEndTag(CXmlWriterContext& context) {
 /// to flush.
 bool CXmlTextWriter::WouldFlush(std::size_t count) const {
     return Buffer().GetLength() + count >= flushThreshold && typeid(*m_stream) != typeid(CTextStream);
-}
-
-void CXmlTextWriter::WriteLeafAtOnce(CXmlWriter& writer, const std::u16string& name,
-                                     const std::u16string& namespaceUri, const std::u16string& text,
-                                     ItemType type) {
-    static_cast<CXmlTextWriter&>(writer).WritePlainLeaf(name, namespaceUri, text, type);
 }
 
 /// Writes an element in the namespace of its parent at one go, where nobody could tell the difference, and

@@ -41,7 +41,7 @@ void CXmlWriter::AddNamespace(const std::u16string& alias, const std::u16string&
 void CXmlWriter::WriteLeaf(const std::u16string& name, const std::u16string& namespaceUri,
                            const std::u16string& text, ItemType type) {
     if (m_leafClass == &typeid(*this)) // a class whose information is elsewhere too would only be slower
-        m_writeLeaf(*this, name, namespaceUri, text, type);
+        (this->*m_writeLeaf)(name, namespaceUri, text, type);
     else
         WriteLeafByParts(name, namespaceUri, text, type);
 }

@@ -70,9 +70,6 @@ private:
         std::size_t localLength = 0;
     };
 
-    static void WriteLeafAtOnce(CXmlWriter& writer, const std::u16string& name,
-                                const std::u16string& namespaceUri, const std::u16string& text,
-                                ItemType type);
     void WritePlainLeaf(const std::u16string& name, const std::u16string& namespaceUri,
                         const std::u16string& text, ItemType type);
 

@@ -72,9 +72,6 @@ public:
     void CloseStartTag();
 
 private:
-    static void WriteLeafAtOnce(CXmlWriter& writer, const std::u16string& name,
-                                const std::u16string& namespaceUri, const std::u16string& text,
-                                ItemType type);
     void WritePlainLeaf(const std::u16string& name, const std::u16string& namespaceUri,
                         const std::u16string& text, ItemType type);
     bool WouldFlush(std::size_t count) const;

@@ -150,9 +150,8 @@ protected:
     };
 
     /// Writes a leaf at one go, or by its parts if it is not made for this one.
-    using LeafOperation = void (*)(CXmlWriter& writer, const std::u16string& name,
-                                   const std::u16string& namespaceUri, const std::u16string& text,
-                                   ItemType type);
+    using LeafOperation = void (CXmlWriter::*)(const std::u16string& name, const std::u16string& namespaceUri,
+                                               const std::u16string& text, ItemType type);
 
     /// For a writer whose leaves WriteLeaf can write at one go. It does not in a class derived from
     /// `writerClass`, which may override what it stands for.
