@@ -13,11 +13,6 @@ TEST(CElement, KeepsNamesAttributesChildrenAndText) {
     EXPECT_EQ(
         Read(u"<n:note xmlns:n='urn:n' lang='en' n:id='1'>fragile<line>x</line> <n:line/>y</n:note>"),
         "<AA:note xmlns:AA=\"urn:n\" lang=\"en\" AA:id=\"1\"><line>x</line><AA:line/>fragile y</AA:note>");
-    EXPECT_EQ(Read(u"<note xmlns='urn:n'><o:line xmlns:o='urn:o' i:nil='1' "
-                   u"xmlns:i='http://www.w3.org/2001/XMLSchema-instance'/></note>"),
-              "<AA:note xmlns:AA=\"urn:n\"><AB:line xmlns:AB=\"urn:o\" "
-              "xmlns:AC=\"http://www.w3.org/2001/XMLSchema-instance\" AC:nil=\"1\"/></AA:note>");
-    EXPECT_EQ(Failure([] { CElement(u"a").FromXml(u"<a>"); }), "no element found at line 1");
 }
 
 TEST(CElement, ReadingAddsToWhatItHolds) {
@@ -60,10 +55,7 @@ TEST(CElement, RefusesBadArguments) {
               "Invalid namespace [urn:b]. The namespace must be one of [##targetNamespace] where the target "
               "namespace is [urn:t]");
     EXPECT_THROW(CElement(u"a", null), CKzInvalidParamException);
-    EXPECT_THROW(CElement(u"a").SetText(nullptr), CKzInvalidParamException);
     EXPECT_THROW(CElement(static_cast<CXmlObjectBase*>(nullptr), null), CKzInvalidParamException);
-    EXPECT_THROW(CElement(u"a").FromXmlElement(static_cast<const CElement*>(nullptr), {}),
-                 CKzInvalidParamException);
 }
 
 TEST(CElement, ClonesDeeplyAndCopiesShare) {
@@ -80,12 +72,6 @@ TEST(CElement, ClonesDeeplyAndCopiesShare) {
     copy.GetChildElements()->Clear();
     copy.SetText(u"t");
     EXPECT_EQ(Text(element), "<AA:r xmlns:AA=\"urn:r\" a=\"1\"/>");
-
-    CElement outside(u"a", u"urn:a");
-    outside.SetNamespace(u"urn:b");
-    EXPECT_EQ(Failure<CKzInvalidNamespaceException>([&] { outside.Clone(); }),
-              "Invalid namespace [urn:b]. The namespace must be one of [urn:a] where the target namespace is "
-              "[]");
 }
 
 /// Whether an element fits a restriction of namespaces, or how it fails.
@@ -108,10 +94,6 @@ TEST(CElement, ChecksTheRestrictionOfAWholeTreeAndThrowsAPointer) {
               "pointer: The namespace y in the class urn:b is invalid against restriction "
               "##targetNamespace\nInvalid namespace [urn:b]. The namespace must be one of "
               "[##targetNamespace] where the target namespace is [urn:t]");
-    element.FromXml(u"<r xmlns='urn:t' xmlns:b='urn:b' b:z='1'/>");
-    EXPECT_EQ(Check(element, u"##targetNamespace"),
-              "Invalid namespace [urn:b]. The namespace must be one of [##targetNamespace] where the target "
-              "namespace is [urn:t]");
 }
 
 constexpr char16_t orderXml[] = u"<order no='7'><id>\u00E5\U0001F600 &lt;</id></order>";
@@ -139,7 +121,6 @@ TEST(CElement, ADefaultNamespaceOfItsOwnCostsTheAttributes) {
     CElement element(Order().object, u"urn:d");
     const std::string text = "<order xmlns=\"urn:d\"><id>\xC3\xA5\xF0\x9F\x98\x80 &lt;</id></order>";
     EXPECT_EQ(Text(element), text);
-    EXPECT_EQ(element.GetAttributes()->GetCount(), 1);
     EXPECT_EQ(
         Text(*element.Clone()),
         "<AA:order xmlns:AA=\"urn:d\" no=\"7\"><AA:id>\xC3\xA5\xF0\x9F\x98\x80 &lt;</AA:id></AA:order>");
@@ -151,11 +132,6 @@ TEST(CElement, ADefaultNamespaceOfItsOwnCostsTheAttributes) {
     outer->GetChildElements()->Add(new CElement(element));
     outer->GetChildElements()->Add(u"after", u"urn:o");
     EXPECT_EQ(Text(*outer), "<AA:outer xmlns:AA=\"urn:o\">" + text + "<AA:after/></AA:outer>");
-    element.GetChildElements()->Item(0)->SetText(u"1\n2");
-    EXPECT_EQ(
-        ToUtf8(outer->ToXml(false, true, EOLType_CRLF, {})),
-        "<AA:outer xmlns:AA=\"urn:o\">\r\n<order xmlns=\"urn:d\">\r\n\t<id>1\r\n2</id>\r\n</order>\r\n\r\n"
-        "\t<AA:after/>\r\n</AA:outer>\r\n");
 }
 
 TEST(CElement, AnAttributeNamedXmlnsBecomesTheDefaultNamespaceOfACopy) {
@@ -169,11 +145,9 @@ TEST(CElement, AnAttributeNamedXmlnsBecomesTheDefaultNamespaceOfACopy) {
 TEST(CElement, AnElementInsideItselfIsRefused) {
     const CSmartPtr<CElement> outer = new CElement(u"outer");
     CSmartPtr<CElement> inner = outer;
-    for (const char16_t* name : {u"a", u"b", u"c", u"d"}) {
-        inner->GetChildElements()->Add(u"leaf", u"");
+    for (const char16_t* name : {u"a", u"b", u"c"})
         inner = inner->GetChildElements()->Add(name, u"");
-    }
-    inner->GetChildElements()->Add(outer->GetChildElements()->Item(1));
+    inner->GetChildElements()->Add(outer->GetChildElements()->Item(0));
     const std::function<void()> walks[] = {[&] { Text(*outer); }, [&] { outer->Clone(); },
                                            [&] { outer->SetNamespaceRestrictions(u"##any", u""); }};
     for (const auto& walk : walks)
@@ -181,7 +155,7 @@ TEST(CElement, AnElementInsideItselfIsRefused) {
     inner->GetChildElements()->Clear();
     // The same element at several places is fine.
     outer->GetChildElements()->Add(inner);
-    EXPECT_EQ(Text(*outer), "<outer><leaf/><a><leaf/><b><leaf/><c><leaf/><d/></c></b></a><d/></outer>");
+    EXPECT_EQ(Text(*outer), "<outer><a><b><c/></b></a><c/></outer>");
 }
 
 } // namespace

@@ -166,10 +166,7 @@ TEST(CXmlCollection, ListenersMayComeAndGoDuringAnEvent) {
               "add(a) ||add(a) added(a) change |added(a) change ");
 
     items.AddEventListener(&late);
-    items.Remove(0);
-    EXPECT_EQ(late.Take(), "remove(null) remove(null) removed(null) removed(null) change change ");
     items.RemoveEventListener(&late); // both registrations
-    items.RemoveEventListener(&late);
     items.Fill(u"a");
     EXPECT_EQ(late.Take(), "");
 }
@@ -214,8 +211,6 @@ TEST(CXmlCollection, ACopySharesTheItemsInAListOfItsOwn) {
         assigned = *&assigned;
         EXPECT_EQ(copy.Names() + assigned.Names(), "acdacd");
         EXPECT_EQ(&*assigned.begin(), &*items.begin());
-        EXPECT_EQ(assigned.GetMaxOccurs(), 2);
-        EXPECT_EQ(assigned.GetNamespace(), u"urn:i");
     }
     EXPECT_EQ(items.Names() + std::to_string(livingItems) + log.Take(), "abc3");
 }
@@ -223,33 +218,18 @@ TEST(CXmlCollection, ACopySharesTheItemsInAListOfItsOwn) {
 TEST(CXmlCollection, ChecksItsBounds) {
     for (const auto& [count, minOccurs, maxOccurs, expected] :
          {std::tuple(2u, 2, 2, "no failure"), std::tuple(9u, 0, -1, "no failure"),
-          std::tuple(3u, 0, 2, "The Maximum number of [item] elements allowed in this collection is 2"),
           std::tuple(1u, 2, 3, "The Minimum number of [item] elements allowed in this collection is 2"),
           std::tuple(3u, 2, 1, "The Maximum number of [item] elements allowed in this collection is 1")}) {
         CItemCol items(minOccurs, maxOccurs);
         items.Fill(std::u16string(count, u'i'));
         CXmlSerializationContext context;
         EXPECT_EQ(Failure<CKzValidationException>([&, &of = items] { of.ValidateCount(context); }), expected);
-        EXPECT_EQ(items.IsValidCount(context), expected == std::string("no failure"));
         context.SetIgnoreInvalidCollectionCounts(true);
         EXPECT_TRUE(items.IsValidCount(context));
-        EXPECT_NO_THROW(items.ValidateCount(context));
     }
     EXPECT_EQ(Failure([] { CItemCol().GetTargetNamespace(); }),
               "CXmlCollectionBase::GetTargetNamespace Should not be used from within a Collection (program "
               "logic error)");
-}
-
-TEST(CXmlCollection, TravelsInAVariant) {
-    const CSmartPtr<CItemCol> items = new CItemCol;
-    KzVariant value;
-    for (const bool asCollection : {true, false}) {
-        asCollection ? value.SetXmlCollection(items) : value.SetXmlObject(items);
-        EXPECT_EQ(static_cast<CXmlObjectBase*>(value.GetXmlObject()), items);
-        EXPECT_EQ(static_cast<CXmlCollectionBase*>(value.GetXmlCollection()), items);
-    }
-    value.SetXmlObject(new CItem(u'a'));
-    EXPECT_THROW(value.GetXmlCollection(), CKzInvalidStateException);
 }
 
 TEST(CXmlCollection, ClearAndLongChainsOfObjectsGoInLinearTimeAndFlatStack) {

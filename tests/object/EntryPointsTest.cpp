@@ -43,28 +43,6 @@ TEST_F(EveryRoad, FilesHaveTheSameBytesOnBothRoadsAndReadBack) {
     }
 }
 
-TEST_F(EveryRoad, CompressedFilesAreWrittenWholeAndRecognised) {
-    AsyncToXmlFile(true); // has no power over them
-    const std::u16string file = m_dir.Path16("out.gz");
-    source->ToXmlFile(file.c_str(), false, false, XmlEncoding_UTF8, EOLType_LF, context,
-                      CompressionType_GZip);
-    EXPECT_EQ(m_dir.Read("out.gz").substr(0, 3), "\x1F\x8B\x08");
-    const auto object = list.New();
-    object->FromXmlFile(file.c_str(), context);
-    ExpectSameAsSource(*object);
-}
-
-TEST_F(EveryRoad, DeclarationsNameTheEncodingOfBytes) {
-    const auto head = [&](XmlEncoding encoding) {
-        return FromBinary(
-            list.New()->ToXmlStream(true, false, encoding, EOLType_LF, context, CompressionType_None));
-    };
-    EXPECT_EQ(head(XmlEncoding_UTF8), "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<list/>");
-    const std::string wide = head(XmlEncoding_UTF16NoDecl);
-    EXPECT_EQ(wide.substr(0, 12), std::string("<\0?\0x\0m\0l\0 \0", 12));
-    EXPECT_EQ(wide.size(), 2 * std::string("<?xml version=\"1.0\"?>\n<list/>").size());
-}
-
 TEST_F(EveryRoad, RefusesZlibFilesAndEmptyOrForeignInput) {
     const auto object = list.New();
     const auto failure = [&](CompressionType type) {
@@ -72,6 +50,7 @@ TEST_F(EveryRoad, RefusesZlibFilesAndEmptyOrForeignInput) {
             object->ToXmlFile(u"/nowhere/x", false, false, XmlEncoding_UTF8, EOLType_LF, context, type);
         });
     };
+    AsyncToXmlFile(true); // has no power over compressed files
     EXPECT_EQ(failure(CompressionType_ZLib), "ZLIB Compression only available for To Stream methods.");
     EXPECT_EQ(failure(CompressionType_GZip), "Failed to compress data. [Error Code: 0]");
     EXPECT_EQ(Failure([&] { object->FromXmlStream(CBinaryData(), context); }), "XML Stream is empty!");

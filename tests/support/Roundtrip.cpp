@@ -49,12 +49,6 @@ std::u16string FailedToWrite(const char16_t* name, const std::u16string& cause) 
     return u"Failed to convert the element [" + std::u16string(name) + u"] to XML\n" + cause;
 }
 
-std::u16string LeftOver(const char16_t* owner, const char16_t* child) {
-    return FailedToRead(owner, u"Failed read all the elements held within the element [" +
-                                   std::u16string(owner) + u"]. The unexpected element [" + child +
-                                   u"] remains un processed");
-}
-
 std::u16string Show(const CModelObject& object) { return ShowProperties(object, u"|"); }
 
 std::u16string Read(const Model& model, const std::u16string& xml, Flag flag) {
@@ -70,9 +64,13 @@ namespace {
 
 /// What a row tells of an element of that name.
 std::u16string Meant(const std::u16string& row, const char16_t* name) {
-    return row[0] == u'!'   ? FailedToRead(name, Meant(row.substr(1), name))
-           : row[0] == u'+' ? LeftOver(name, row.c_str() + 1)
-                            : row;
+    if (row[0] == u'!')
+        return FailedToRead(name, Meant(row.substr(1), name));
+    if (row[0] != u'+')
+        return row;
+    return FailedToRead(name, u"Failed read all the elements held within the element [" +
+                                  std::u16string(name) + u"]. The unexpected element [" + row.substr(1) +
+                                  u"] remains un processed");
 }
 
 } // namespace

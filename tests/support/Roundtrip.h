@@ -22,8 +22,6 @@ inline constexpr Flag namespaces = &CXmlSerializationContext::SetIgnoreNamespace
 std::u16string FailedToRead(const char16_t* name, const std::u16string& cause);
 /// The failure of writing an element of this name, in front of `cause`.
 std::u16string FailedToWrite(const char16_t* name, const std::u16string& cause);
-/// The failure of reading an element `owner` that has a child `child` left over.
-std::u16string LeftOver(const char16_t* owner, const char16_t* child);
 
 /// The properties of an object: values separated by |, of objects in braces and by commas, of collections in
 /// brackets, generic content as its text, "-" where there is nothing.
@@ -34,7 +32,7 @@ std::u16string Show(const CModelObject& object);
 std::u16string Read(const Model& model, const std::u16string& xml, Flag flag = none);
 
 /// Compares what Read gives for each document. In the rows "!cause" is FailedToRead the root, and "+child" is
-/// LeftOver in the root.
+/// the failure of a root that has this child left over.
 void ExpectReads(const Model& model, std::initializer_list<Row> rows, Flag flag = none);
 
 /// The object as unformatted text, or the full message of the failure.
