@@ -10,8 +10,8 @@ TEST(CBinaryData, NoArrayAndAnEmptyArrayAreDifferent) {
         EXPECT_TRUE(none != empty && empty != none && empty == ToBinary(""));
         EXPECT_EQ(empty.GetAsHexString(), u"");
     }
-    EXPECT_THROW((void)none[0], CKzException);
-    EXPECT_THROW((void)std::as_const(none)[0], CKzException);
+    EXPECT_EQ(Failure([&] { (void)none[0]; }) + Failure([&] { (void)std::as_const(none)[0]; }),
+              "Index Out of range [0]Index Out of range [0]");
     none.Append(alsoNone);
     EXPECT_TRUE(none == ToBinary(""));
 }
@@ -85,7 +85,6 @@ TEST(CBinaryData, IndexEqualToTheLengthIsASpareByte) {
     EXPECT_EQ(&data[2], &data[0] + 2);
     EXPECT_EQ(Failure([&] { data[3] = 0; }), "Index Out of range [3]");
     EXPECT_EQ(Failure([&] { (void)view[3]; }), "Index Out of range [3]");
-    EXPECT_EQ(Failure([] { (void)CBinaryData()[0]; }), "Index Out of range [0]");
 }
 
 TEST(CBinaryData, BadHexadecimalTextThrowsAndLeavesTheObjectEmpty) {
@@ -120,9 +119,7 @@ TEST(CBinaryData, Base64AndHexadecimalTextBothWays) {
     data.SetAsHexString(u"abcdef");
     EXPECT_EQ(FromBinary(data), "\xab\xcd\xef");
     EXPECT_EQ(CBinaryData::GetAsHexString(nullptr, 5), u"");
-    const std::u16string longText = ToBinary(std::string(1000, '\xa5')).GetAsBase64();
-    EXPECT_EQ(longText.size(), 1336u);
-    EXPECT_EQ(longText.find_first_of(u"\r\n "), std::u16string::npos);
+    EXPECT_EQ(ToBinary(std::string(999, '\0')).GetAsBase64(), std::u16string(1332, u'A')); // in one line
 }
 
 TEST(CBinaryData, LooseBase64IsAcceptedSilently) {

@@ -51,26 +51,4 @@ TEST(CDateTimeArithmetic, AMonthThatIsNoneIsRefusedOnlyWhereItsLengthIsNeeded) {
                 "1696-09-01 P201326593M1D -> Invalid Month [242] (1 <= month <= 12)"});
 }
 
-TEST(CDateTimeArithmetic, MovingByDaysEqualsTheCivilCalendar) {
-    using namespace std::chrono;
-    std::mt19937 random(1);
-    for (int round = 0; round < 5000; ++round) {
-        const year_month_day from(year(static_cast<int>(random() % 20000) - 10000), month(random() % 12 + 1),
-                                  day(random() % 28 + 1));
-        const unsigned distance = random() % (round % 2 ? 100 : 3000000);
-        const bool back = random() % 2;
-        CDateTime value(2000, 1, 1);
-        value.SetYear(static_cast<std::int16_t>(int(from.year())));
-        value.SetMonth(static_cast<std::uint8_t>(unsigned(from.month())));
-        value.SetDay(static_cast<std::uint8_t>(unsigned(from.day())));
-        const CDateTimeSpan span(0, 0, distance, 0, 0, 0);
-        back ? value -= span : value += span;
-        const days signedDistance(back ? -static_cast<int>(distance) : static_cast<int>(distance));
-        const year_month_day to = sys_days(from) + signedDistance;
-        ASSERT_EQ(std::tuple(value.GetYear(), value.GetMonth(), value.GetDay()),
-                  std::tuple(int(to.year()), unsigned(to.month()), unsigned(to.day())))
-            << round;
-    }
-}
-
 } // namespace

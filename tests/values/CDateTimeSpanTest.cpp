@@ -42,19 +42,8 @@ TEST(CDateTimeSpan, SettingClearsTheSignAndWhatIsNotNamed) {
     EXPECT_EQ(span.ToString(), u"-P1Y2M3DT4H5M6.007008009S");
     span.SetDateTimeSpan(1, 2, 3, 4, 5, 6);
     EXPECT_EQ(span.ToString(), u"P1Y2M3DT4H5M6S");
-    span.SetDateTimeSpan(7, 8, 9);
-    EXPECT_EQ(span.ToString() + CDateTimeSpan(1, 0, 5).ToString(), u"PT7H8M9SPT1H5S");
-    span.SetYears(1);
-    span.SetMonths(15);
-    span.SetDays(40);
-    span.SetHours(50);
-    span.SetMinutes(70);
-    span.SetSeconds(0);
-    span.SetMilliSeconds(5000);
-    EXPECT_EQ(span.ToString(), u"P1Y15M40DT50H70M0.5S"); // no range check, and the zeros at the end go
-    span.SetMicroSeconds(6);
-    span.SetNanoSeconds(7);
-    EXPECT_EQ(span.GetMicroSeconds() * 10 + span.GetNanoSeconds(), 67);
+    span.SetMilliSeconds(5000); // no range check, and the zeros at the end go
+    EXPECT_EQ(span.ToString() + CDateTimeSpan(1, 0, 5).ToString(), u"P1Y2M3DT4H5M6.5SPT1H5S");
 }
 
 TEST(CDateTimeSpan, AsNegativeIsNoNegation) {

@@ -23,8 +23,8 @@ TEST(CDateTime, TheFormOfADateDecidesOnItsKind) {
                 "2001-01-01+01:00 -> date 2001-01-01+01:00", "2001-01-01-01:00 -> date 2001-01-01-01:00",
                 "2001 -> gYear 2001", "-2001Z -> gYear -2001Z", "2001-05 -> gYearMonth 2001-05",
                 "-2001-05+23:59 -> gYearMonth -2001-05+23:59", "--05 -> gMonth --05", "--05-- -> gMonth --05",
-                "--05--Z -> gMonth --05Z", "--05xy -> gMonth --05", "---05 -> gDay ---05",
-                "---31-00:30 -> gDay ---31+00:30", "--02-29 -> gMonthDay --02-29"});
+                "--05--Z -> gMonth --05Z", "--05xy -> gMonth --05", "2001-01-01x01:00 -> date 2001-01-01",
+                "---05 -> gDay ---05", "---31-00:30 -> gDay ---31+00:30", "--02-29 -> gMonthDay --02-29"});
 }
 
 TEST(CDateTime, BadDatesAreRefusedWithTheirMessage) {
@@ -50,17 +50,17 @@ TEST(CDateTime, BadDatesAreRefusedWithTheirMessage) {
     EXPECT_EQ(Read(&CDateTime::ParseXSDDate, nullptr), "Invalid Date (Null String)");
 }
 
-TEST(CDateTime, TimesKeepNineDigits) {
+TEST(CDateTime, TimesKeepNineDigitsOrAreRefusedWithTheirMessage) {
     ExpectRead(&CDateTime::ParseXSDTime,
                {"00:00:00 -> time 00:00:00", "23:59:59 -> time 23:59:59", "12:00:00.5 -> time 12:00:00.5",
                 "12:00:00.100 -> time 12:00:00.1", "12:00:00.0000 -> time 12:00:00",
                 "12:00:00.0012 -> time 12:00:00.0012", "12:00:00.000000001 -> time 12:00:00.000000001",
                 "12:00:00.123456789Z -> time 12:00:00.123456789Z", "12:00:00. -> time 12:00:00",
                 "12:00:00.+05:00 -> time 12:00:00+05:00", "12:00:00+24:00 -> time 12:00:00+00:00",
-                "12:00:00-23:59 -> time 12:00:00-23:59"});
-}
-
-TEST(CDateTime, BadTimesAreRefusedWithTheirMessage) {
+                "12:00:00-23:59 -> time 12:00:00-23:59",
+                // What is no zone is ignored, and an offset below an hour loses its sign.
+                "12:00:00abc -> time 12:00:00", "12:00:00Zabc -> time 12:00:00Z",
+                "12:00:00-00:30 -> time 12:00:00+00:30", "12:00:00-24:30 -> time 12:00:00+00:30"});
     for (const char* text : {"24:00:00", "23:60:00", "23:59:60", "12:00:0", "12:00-00"})
         EXPECT_EQ(Read(&CDateTime::ParseXSDTime, FromUtf8(text).c_str()),
                   "Invalid XSD Time [" + std::string(text) + "] expected hh:mm:ss[.ff]");
@@ -72,18 +72,11 @@ TEST(CDateTime, BadTimesAreRefusedWithTheirMessage) {
                 "12:00:00+25:00 -> Invalid TimeZone [25:0]", "12:00:00+05:60 -> Invalid TimeZone [5:60]"});
 }
 
-TEST(CDateTime, WhatIsNoZoneIsIgnoredAndAnOffsetBelowAnHourLosesItsSign) {
-    ExpectRead(&CDateTime::ParseXSDTime,
-               {"12:00:00abc -> time 12:00:00", "12:00:00Zabc -> time 12:00:00Z",
-                "12:00:00-00:30 -> time 12:00:00+00:30", "12:00:00-24:30 -> time 12:00:00+00:30"});
-    ExpectRead(&CDateTime::ParseXSDDate, {"2001-01-01x01:00 -> date 2001-01-01"});
-    ExpectRead(&CDateTime::ParseXSDDateTime, {"2001-01-01T12:00:00T -> dateTime 2001-01-01T12:00:00"});
-}
-
 TEST(CDateTime, DateTimesAreADateAndATime) {
     ExpectRead(
         &CDateTime::ParseXSDDateTime,
         {"2001-05-12T13:20:00.5-05:30 -> dateTime 2001-05-12T13:20:00.5-05:30",
+         "2001-01-01T12:00:00T -> dateTime 2001-01-01T12:00:00",
          "-0001-01-01T00:00:00Z -> dateTime -0001-01-01T00:00:00Z",
          "2001-01-01+01:00T12:00:00 -> dateTime 2001-01-01T12:00:00+01:00",
          "2001-01-01+01:00T12:00:00Z -> dateTime 2001-01-01T12:00:00Z", " -> Invalid XSD DateTime []",
@@ -104,31 +97,13 @@ TEST(CDateTime, DateTimesAreADateAndATime) {
 
 TEST(CDateTime, FormatsAreComparedByContentAndOnlyAMidnightIsAValueOfZeros) {
     const CDateTime date(2001, 5, 12);
-    const std::u16string s = u"s";
-    EXPECT_EQ(date.ToString(s.c_str()), u"2001-05-12");
+    EXPECT_EQ(date.ToString(u"s"s.c_str()), u"2001-05-12");
     for (const char16_t* none : {u"G", u"", static_cast<const char16_t*>(nullptr)})
         EXPECT_EQ(date.ToString(none), u"");
     EXPECT_EQ(date.ToString(u"S"), u"Unknown Format: S");
     EXPECT_EQ(CDateTime(CDateTime::DTType_time).ToString(), u"00:00:00");
     EXPECT_EQ(InvalidValue([] { CDateTime().ToString(nullptr); }), "Date Not Set");
     EXPECT_EQ(InvalidValue([] { CDateTime(CDateTime::DTType_date).ToString(); }), "Date Not Set");
-    const std::pair<void (*)(CDateTime&), const char*> rows[] = {
-        // any field makes it one
-        {[](CDateTime& v) { v.SetYear(1); }, "0001-00-00T00:00:00"},
-        {[](CDateTime& v) { v.SetMonth(1); }, "0000-01-00T00:00:00"},
-        {[](CDateTime& v) { v.SetDay(1); }, "0000-00-01T00:00:00"},
-        {[](CDateTime& v) { v.SetHour(1); }, "0000-00-00T01:00:00"},
-        {[](CDateTime& v) { v.SetMinute(1); }, "0000-00-00T00:01:00"},
-        {[](CDateTime& v) { v.SetSecond(1); }, "0000-00-00T00:00:01"},
-        {[](CDateTime& v) { v.SetMilliSecond(1); }, "0000-00-00T00:00:00.001"},
-        {[](CDateTime& v) { v.SetMicroSecond(1); }, "0000-00-00T00:00:00.000001"},
-        {[](CDateTime& v) { v.SetNanoSecond(1); }, "0000-00-00T00:00:00.000000001"},
-    };
-    for (const auto& [set, text] : rows) {
-        CDateTime value(CDateTime::DTType_dateTime);
-        set(value);
-        EXPECT_EQ(ToUtf8(value.ToString()), text);
-    }
 }
 
 TEST(CDateTime, SettersByKindValidateAndRefuseAnotherKind) {
@@ -143,10 +118,8 @@ TEST(CDateTime, SettersByKindValidateAndRefuseAnotherKind) {
     EXPECT_EQ(value.ToString(), u"--02-30");
 
     CDateTime time;
-    time.SetTime(1, 2, 3, 4, 5, 6);
-    EXPECT_EQ(time.ToString(), u"01:02:03.004005006");
-    time.SetFracTime(4, 0, 0);
-    EXPECT_EQ(time.ToString(), u"00:00:00.004");
+    time.SetFracTime(4, 5, 6);
+    EXPECT_EQ(time.ToString(), u"00:00:00.004005006");
     EXPECT_EQ(InvalidValue([] { CDateTime().SetGMonth(257); }), "Invalid Month [257] (1 <= month <= 12)");
     EXPECT_EQ(InvalidValue([] { CDateTime().SetGYear(-10000); }),
               "Invalid Year [-10000] (9999 <= year <= -9999 && year != 0)");
@@ -163,7 +136,6 @@ TEST(CDateTime, SettersByKindValidateAndRefuseAnotherKind) {
                         "Invalid Milli-Second [1000] (0 <= milli <= 999)\n"
                         "Invalid Micro-Second [1000] (0 <= micro <= 999)\n"
                         "Invalid Nano-Second [1000] (0 <= nano <= 999)\n");
-    EXPECT_EQ(InvalidValue([] { CDateTime().SetTime(-1, 0, 0); }), "Invalid Hour [-1] (0 <= hour <= 23)");
 }
 
 TEST(CDateTime, ValueConstructorsSwallowTheFailureAndLeaveNothing) {
@@ -202,40 +174,38 @@ int Access(CDateTime& value, int number) {
 
 TEST(CDateTime, GettersAndSettersAskTheKindAndNotTheRange) {
     using D = CDateTime;
-    // The name, the numbers of the kinds that have the field, the access.
-    const std::tuple<std::string, std::string, int (*)(D&, int)> rows[] = {
-        {"Year", "1234", Access<&D::GetYear, &D::SetYear>},
-        {"Month", "12378", Access<&D::GetMonth, &D::SetMonth>},
-        {"Day", "1268", Access<&D::GetDay, &D::SetDay>},
-        {"Hour", "15", Access<&D::GetHour, &D::SetHour>},
-        {"Minute", "15", Access<&D::GetMinute, &D::SetMinute>},
-        {"Second", "15", Access<&D::GetSecond, &D::SetSecond>},
-        {"MilliSecond", "15", Access<&D::GetMilliSecond, &D::SetMilliSecond>},
-        {"MicroSecond", "15", Access<&D::GetMicroSecond, &D::SetMicroSecond>},
-        {"NanoSecond", "15", Access<&D::GetNanoSecond, &D::SetNanoSecond>},
-        {"RealSecond", "15", [](D& d, int) { return static_cast<int>(d.GetRealSecond()); }}};
-    D full(2001, 5, 12, 13, 20, 1);
-    for (const auto& [name, kinds, access] : rows) {
+    // The name, the kinds that have the field, the text of a dateTime with nothing but a 1 in it, the access.
+    const std::tuple<std::string, std::string, std::string, int (*)(D&, int)> rows[] = {
+        {"Year", "1234", "0001-00-00T00:00:00", Access<&D::GetYear, &D::SetYear>},
+        {"Month", "12378", "0000-01-00T00:00:00", Access<&D::GetMonth, &D::SetMonth>},
+        {"Day", "1268", "0000-00-01T00:00:00", Access<&D::GetDay, &D::SetDay>},
+        {"Hour", "15", "0000-00-00T01:00:00", Access<&D::GetHour, &D::SetHour>},
+        {"Minute", "15", "0000-00-00T00:01:00", Access<&D::GetMinute, &D::SetMinute>},
+        {"Second", "15", "0000-00-00T00:00:01", Access<&D::GetSecond, &D::SetSecond>},
+        {"MilliSecond", "15", "0000-00-00T00:00:00.001", Access<&D::GetMilliSecond, &D::SetMilliSecond>},
+        {"MicroSecond", "15", "0000-00-00T00:00:00.000001", Access<&D::GetMicroSecond, &D::SetMicroSecond>},
+        {"NanoSecond", "15", "0000-00-00T00:00:00.000000001", Access<&D::GetNanoSecond, &D::SetNanoSecond>}};
+    for (const auto& [name, kinds, text, access] : rows) {
+        D value(D::DTType_dateTime);
+        EXPECT_EQ(access(value, 1), 1);
+        EXPECT_EQ(ToUtf8(value.ToString()), text);
         for (char kind = '0'; kind <= '8'; ++kind) {
-            D value(static_cast<D::DTType>(kind - '0'));
+            value = D(static_cast<D::DTType>(kind - '0'));
             const std::string refused =
                 "Failed to Get" + name + ". Invalid Date Type: " + ToUtf8(value.GetTypeAsString()) + ".";
-            const bool has = kinds.find(kind) != std::string::npos;
             for (const int number : {0, 200})
                 EXPECT_EQ(InvalidState([&, get = access] { get(value, number); }),
-                          has ? "no failure" : refused);
+                          kinds.find(kind) != std::string::npos ? "no failure" : refused);
         }
     }
-    for (int i = 0; i < 9; ++i)
-        EXPECT_EQ(std::get<2>(rows[i])(full, 11 + i), 11 + i);
-    EXPECT_EQ(full.ToString(), u"0011-12-13T14:15:16.017018019");
-    EXPECT_EQ(full.GetRealSecond(), 17 / 1000.0 + 16 + 18 / 1e6 + 19 / 1e9);
+    EXPECT_EQ(D(2001, 5, 12, 13, 20, 16, 17, 18, 19).GetRealSecond(), 17 / 1000.0 + 16 + 18 / 1e6 + 19 / 1e9);
+    EXPECT_EQ(InvalidState([] { D(D::DTType_date).GetRealSecond(); }),
+              "Failed to GetRealSecond. Invalid Date Type: date.");
     EXPECT_EQ(D(static_cast<D::DTType>(9)).GetTypeAsString(), u"");
 }
 
 TEST(CDateTime, AnOffsetIsUtcToo) {
     CDateTime value(2001, 5, 12);
-    EXPECT_FALSE(value.IsUTC());
     value.SetTimeZone(-23, 59);
     EXPECT_TRUE(value.IsUTC() && value.HasTimeZone());
     EXPECT_TRUE(value.GetZoneHour() == -23 && value.GetZoneMinute() == 59);
@@ -243,7 +213,6 @@ TEST(CDateTime, AnOffsetIsUtcToo) {
     EXPECT_EQ(value.ToString(), u"2001-05-12-23:59");
     value.SetUTC();
     EXPECT_EQ(value.ToString(), u"2001-05-12Z");
-    EXPECT_TRUE(value.IsUTC());
     EXPECT_EQ(InvalidState([&] { value.GetZoneHour(); }), "TimeZone is not been used");
     EXPECT_EQ(InvalidState([&] { value.GetZoneMinute(); }), "TimeZone is not been used");
 }
@@ -255,11 +224,9 @@ TEST(CDateTime, KindsConvertWhereTheFieldsSuffice) {
     for (int source = 0; source <= 8; ++source) {
         for (int target = 0; target <= 8; ++target) {
             const CDateTime from(static_cast<CDateTime::DTType>(source));
-            CDateTime to(CDateTime::DTType_gDay);
-            const std::string failure =
-                InvalidValue([&] { to.SetDateTime(from, static_cast<CDateTime::DTType>(target)); });
-            EXPECT_EQ(failure == "no failure", allowed[source][target] == '1') << source << " " << target;
-            EXPECT_EQ(to.GetType(), failure == "no failure" ? target : CDateTime::DTType_gDay);
+            CDateTime to;
+            (void)InvalidValue([&] { to.SetDateTime(from, static_cast<CDateTime::DTType>(target)); });
+            EXPECT_EQ(to.GetType(), allowed[source][target] == '1' ? target : CDateTime::DTType_yearZero);
         }
     }
     CDateTime value(2001, 5, 12);
@@ -277,8 +244,7 @@ TEST(CDateTime, KindsConvertWhereTheFieldsSuffice) {
 }
 
 TEST(CDateTime, TheLeapDayCountsInJanuaryAndFebruaryOnly) {
-    ExpectRows({"2000-01-01 -> 2", "2000-02-29 -> 61", "2000-03-01 -> 60", "2001-03-01 -> 60",
-                "1900-01-01 -> 1", "2001-12-31T00:00:00 -> 365"},
+    ExpectRows({"2000-01-01 -> 2", "2000-02-29 -> 61", "2000-03-01 -> 60", "2001-12-31T00:00:00 -> 365"},
                [](const char16_t* text) { return std::to_string(Moment(text).GetDayOfYear()); });
     constexpr int lengths[] = {31, 28, 31, 30, 31, 30, 31, 31, 30, 31, 30, 31};
     for (int month = 1, days = 0; month <= 12; days += lengths[month++ - 1])

@@ -94,16 +94,11 @@ TEST(CDecimal, MachineNumbers) {
     EXPECT_EQ(Texts<Dec>({std::numeric_limits<int>::min(), std::numeric_limits<long>::min(),
                           CBigInteger(u"123456789012345678901234567890")}),
               "-2147483648 -9223372036854775808 123456789012345678901234567890");
-    Dec copy;
-    EXPECT_EQ(copy.ToString(1), u"0.0");
-    const Dec number(-5LL);
-    copy = number;
-    EXPECT_EQ(Texts({copy, Dec(0)}) + ToUtf8(u' ' + Dec(0).ToString(1)), "-5 0 0.0");
+    EXPECT_EQ(Dec().ToString(1) + Dec(0).ToString(1) + Dec(-5LL).ToString(1), u"0.00.0-5.0");
     EXPECT_EQ(Texts<Dec>({0.1, -2.5, 1e-14, 1.0 / 3, 1e22}),
               "0.1 -2.5 0 0.3333333333333 10000000000000000000000");
     EXPECT_EQ(Text(std::numeric_limits<double>::max()).size(), 309u);
-    for (const double value : {std::nan(""), std::numeric_limits<double>::infinity()})
-        EXPECT_THROW(Dec{value}, CKzInvalidValueException);
+    EXPECT_THROW(Dec(std::nan("")), CKzInvalidValueException);
 }
 
 TEST(CDecimal, SumsAreExact) {
@@ -134,14 +129,16 @@ TEST(CDecimal, ProductsAndQuotientsRoundOnceAtTheMaximumOfPlaces) {
               "0." + std::string(30, '3') + " -0." + std::string(29, '6') + "7");
     EXPECT_EQ(InvalidValue([] { Dec(u"1.5") / Dec(u"-0.0"); }), "ERROR: Overflow in operator/.");
     Dec x(u"10");
-    x /= 4;
-    x *= 3;
-    x += Dec(u"0.25");
-    EXPECT_EQ(Text(x -= 1), "6.75");
+    EXPECT_EQ(Texts({x /= 4, x *= 3, x += Dec(u"0.25"), x -= 1}), "2.5 7.5 7.75 6.75");
 }
 
 TEST(CDecimal, OrderIsByValue) {
-    ExpectAscending<Dec>({u"-10.1", u"-10.09", u"-0.5", u"-0.05", 0, u"0.049", u"0.5", 1, u"1.05", 10});
+    const Dec values[] = {u"-10.1", u"-10.09", u"-0.5", u"-0.05", 0, u"0.049", u"0.5", 1, u"1.05", 10};
+    for (const Dec& a : values)
+        for (const Dec& b : values)
+            EXPECT_EQ(std::tuple(a<b, a <= b, a> b, a >= b, a == b, a != b),
+                      std::tuple(&a<&b, &a <= &b, &a> & b, &a >= &b, &a == &b, &a != &b))
+                << Texts({a, b});
     EXPECT_EQ(Dec(u"1.5"), Dec(u"1.50"));
 }
 
@@ -176,7 +173,6 @@ TEST(CDecimal, ConversionsRoundAtTheirOwnPlace) {
                           ToUtf8(value.ToBigInteger().ToString());
                });
     EXPECT_EQ(Dec(u"-9223372036854775808.9").ToLongLong(), std::numeric_limits<long long>::min());
-    EXPECT_EQ(CBigInteger(Dec(u"-1.5")), CBigInteger(-1));
     for (const auto& [text, value] :
          {std::pair{u"0.1", 0.1}, {u"-1.5", -1.5}, {u"1.7E308", 1.7e308}, {u"0", 0.0}, {u"1E22", 1e22}})
         EXPECT_EQ(Dec(text).ToDouble(), value);
@@ -191,19 +187,6 @@ TEST(CDecimal, ConversionsRefuseWhatIsTooLarge) {
     refused(&Dec::ToLong, "LONG", u"2147483648", u"2147483647.6", u"-2147483649");
     refused(&Dec::ToLongLong, "LONGLONG", u"9223372036854775808", u"-9223372036854775809");
     refused(&Dec::ToDouble, "Double", u"1E+309", u"-1.8E308");
-}
-
-TEST(CDecimal, HostileTextsOfFourKilobytesAreQuick) {
-    const std::u16string zeros(4000, u'0'), nines(4000, u'9');
-    const double seconds = Seconds([&] {
-        for (const std::u16string& text :
-             {u"0." + zeros + u"1", nines + u"E10000", u"0." + nines + u"E-9999", u"1" + zeros + u"E-4000",
-              u"1E" + nines + u"x", nines + u"." + nines, std::u16string(4000, u'-')})
-            (void)InvalidValue([&] { EXPECT_LE(Dec(text.c_str()), Dec(text.c_str()) + 1); });
-        for (int i = 0; i < 500; ++i)
-            Dec(u"1E10000");
-    });
-    EXPECT_LT(seconds, 2); // microseconds each; the bound leaves room for builds with checks
 }
 
 } // namespace

@@ -9,35 +9,27 @@ KzVariant TextVariant(std::u16string text) {
     return variant;
 }
 
-/// Kind and text of a value, after a copy and a move.
+/// Kind and text of a copy of a value.
 std::string TextOfKind(const std::u16string& row) {
     const ItemType type = static_cast<ItemType>(std::stoi(ToUtf8(row)));
     KzVariant v;
     v.FromString(row.substr(row.find(u' ') + 1), type, CWhitespaceUtils::WhitespaceRule_Collapse);
-    KzVariant copy(v);
-    const KzVariant moved(std::move(v));
-    v = copy;
-    copy.SetNil();
-    EXPECT_EQ(v.GetTypeAsEnum(), type);
-    EXPECT_EQ(v.ToString(nullptr), moved.ToString(nullptr));
-    return ToUtf8(v.GetType() + u" " + moved.ToString(nullptr));
+    const KzVariant copy(v);
+    v.SetNil();
+    return ToUtf8(copy.GetType() + u" " + copy.ToString(nullptr));
 }
 
 TEST(KzVariant, ScalarsOfOneWidthShareTheLowBitsOfACleanCell) {
     KzVariant v;
-    const auto bitsAfter = [&v](auto set, auto value) {
-        v.SetI8(-1);
-        (v.*set)(value);
-        return v.m_value.bits;
-    };
-    EXPECT_EQ(bitsAfter(&KzVariant::SetI1, -128), 0x80u);
-    EXPECT_TRUE(v.GetUI1() == 0x80 && v.GetMonth() == 0x80 && v.GetDay() == 0x80 && v.GetBoolean());
-    EXPECT_EQ(bitsAfter(&KzVariant::SetI2, -2), 0xFFFEu);
+    v.SetI8(-1);
+    v.SetR4(-1.5f);
+    EXPECT_EQ(v.m_value.bits, 0xBFC00000u);
+    v.SetI2(-2);
+    EXPECT_EQ(v.m_value.bits, 0xFFFEu);
     EXPECT_TRUE(v.GetUI2() == 0xFFFE && v.GetYear() == 0xFFFE && v.GetChar() == u'\xFFFE');
-    EXPECT_EQ(bitsAfter(&KzVariant::SetUI4, 0x80000000u), 0x80000000u);
-    EXPECT_EQ(v.GetI4(), std::numeric_limits<std::int32_t>::min());
-    EXPECT_EQ(bitsAfter(&KzVariant::SetR4, -1.5f), 0xBFC00000u);
-    EXPECT_EQ(bitsAfter(&KzVariant::SetBoolean, true), 1u);
+    v.SetI1(-128);
+    EXPECT_EQ(v.m_value.bits, 0x80u);
+    EXPECT_TRUE(v.GetUI1() == 0x80 && v.GetMonth() == 0x80 && v.GetDay() == 0x80 && v.GetBoolean());
 }
 
 TEST(KzVariant, UnknownKindsAreNamedByNumberAndNotAssigned) {
@@ -59,14 +51,12 @@ TEST(KzVariant, NilKeepsTheKindUntilAClearThatFindsOne) {
     v.SetI4(5);
     v.SetNil();
     EXPECT_TRUE(v.IsValid() && v.IsNil() && v.GetTypeAsEnum() == ItemType_i4 && v.GetI4() == 0);
-    v.SetI4(6);
-    EXPECT_FALSE(v.IsNil());
+    const KzVariant copy(v);
+    EXPECT_TRUE(copy.IsNil() && copy.GetTypeAsEnum() == ItemType_i4);
 
     KzVariant empty;
     empty.SetNil();
-    EXPECT_TRUE(empty.IsValid());
     empty.Clear();
-    EXPECT_TRUE(empty.IsNil());
     for (const bool nil : {true, false}) {
         empty.SetI4(5);
         EXPECT_EQ(empty.IsNil(), nil);
@@ -93,13 +83,6 @@ TEST(KzVariant, CopiesAreDeepAndMovesEmptyTheirSource) {
         source.CopyString(source.GetStringRef());
         EXPECT_EQ(other.GetString() + source.TakeString(), text + text);
     }
-
-    source.SetNil();
-    copy.SetI4(1);
-    copy = source;
-    EXPECT_TRUE(copy.IsNil());
-    EXPECT_EQ(copy.GetTypeAsEnum(), ItemType_string);
-    EXPECT_EQ(copy.m_value.bits, 0u);
 }
 
 TEST(KzVariant, TextsGoInAndOutByKind) {
@@ -120,46 +103,30 @@ TEST(KzVariant, TextsGoInAndOutByKind) {
                 "26  -00123456789012345678901234567890  -> integer -123456789012345678901234567890"},
                TextOfKind);
     KzVariant v;
-    const auto formatted = [&v](auto set, auto value, const char16_t* format) {
-        (v.*set)(value);
-        return v.ToString(format);
-    };
-    EXPECT_EQ(formatted(&KzVariant::SetR4, 0.5f, u"%.3f"), u"0.500");
-    EXPECT_EQ(formatted(&KzVariant::SetI4, 5, u"%.3f"), u"5");
-    EXPECT_EQ(formatted(&KzVariant::SetDecimal, CDecimal(u"2.345"), u"2"), u"2.35");
+    v.SetDecimal(CDecimal(u"2.345"));
+    EXPECT_EQ(v.ToString(u"2"), u"2.35");
 }
 
 TEST(KzVariant, GettersOfOneClassAreOneOperationAndOtherKindsAreRefused) {
     const CDateTime date(2001, 5, 6);
     KzVariant v;
-    using Set = void (KzVariant::*)(CDateTime);
-    for (const Set set : {&KzVariant::SetYearMonth, &KzVariant::SetMonthDay, &KzVariant::SetDate,
-                          &KzVariant::SetDateTime, &KzVariant::SetTime}) {
-        (v.*set)(date);
-        for (const CDateTime& got :
-             {v.GetYearMonth(), v.GetMonthDay(), v.GetDate(), v.GetDateTime(), v.GetTime()})
-            EXPECT_EQ(got, date);
-        EXPECT_EQ(v.ToString(u""), u"2001-05-06"); // the value decides on the text, not the kind
-        EXPECT_THROW(v.GetDuration(), CKzInvalidStateException);
-    }
-    v.SetDecimal(1);
-    EXPECT_THROW(v.GetInteger(), CKzInvalidStateException);
-    v.SetInteger(1);
-    EXPECT_THROW(v.GetDecimal(), CKzInvalidStateException);
+    v.SetYearMonth(date);
+    for (const CDateTime& got :
+         {v.GetYearMonth(), v.GetMonthDay(), v.GetDate(), v.GetDateTime(), v.GetTime()})
+        EXPECT_EQ(got, date);
+    EXPECT_EQ(v.ToString(u""), u"2001-05-06"); // the value decides on the text, not the kind
+    EXPECT_THROW(v.GetDuration(), CKzInvalidStateException);
     v.SetI8(0x1000); // no address
     EXPECT_THROW(v.GetString(), CKzInvalidStateException);
     v.SetDuration(CDateTimeSpan(1, 0, 0));
-    EXPECT_THROW(v.GetString(), CKzInvalidStateException);
     v.SetNil();
     EXPECT_THROW(v.GetDuration(), CKzInvalidStateException);
-    EXPECT_THROW(v.ToString(u""), CKzInvalidStateException);
 }
 
 TEST(KzVariant, FailedConversionLeavesTheOldValue) {
     constexpr auto rule = CWhitespaceUtils::WhitespaceRule_None;
     KzVariant v = TextVariant(u"text");
     EXPECT_THROW(v.FromString(u"x", ItemType_i4, rule), CKzInvalidValueException);
-    EXPECT_THROW(v.FromString(u"0", ItemType_hexBinary, rule), CKzException);
     EXPECT_THROW(v.FromString(u"2001-02-30", ItemType_date, rule), CKzInvalidValueException);
     EXPECT_EQ(v.GetString(), u"text");
     // The number is that of the kind held, not of the one asked for.
@@ -193,8 +160,6 @@ TEST(KzVariant, ObjectsAreSharedAndCounted) {
     auto* object = new CHolder;
     KzVariant v;
     v.SetXmlObject(object);
-    EXPECT_EQ(v.GetTypeAsEnum(), ItemType_xmlObject);
-    EXPECT_EQ(static_cast<CXmlObjectBase*>(v.GetXmlObject()), object);
     {
         const KzVariant copy(v);
         v.SetNil();
@@ -202,21 +167,11 @@ TEST(KzVariant, ObjectsAreSharedAndCounted) {
         EXPECT_EQ(static_cast<CXmlObjectBase*>(copy.GetXmlObject()), object);
         v = copy;
     }
-    EXPECT_EQ(CHolder::living, 1);
     v.SetXmlObject(object); // the variant held the only reference
     EXPECT_EQ(CHolder::living, 1);
-    KzVariant moved(std::move(v));
-    EXPECT_EQ(object->AddRef(), 2);
-    EXPECT_EQ(object->Release(), 1);
-    moved.SetI4(1);
+    v.SetI4(1);
     EXPECT_EQ(CHolder::living, 0);
-    EXPECT_THROW(moved.GetXmlObject(), CKzInvalidStateException);
-
-    v.SetXmlObject(nullptr);
-    EXPECT_TRUE(v.IsValid());
-    EXPECT_EQ(static_cast<CXmlObjectBase*>(v.GetXmlObject()), nullptr);
-    moved = v;
-    EXPECT_EQ(moved.GetTypeAsEnum(), ItemType_xmlObject);
+    EXPECT_THROW(v.GetXmlObject(), CKzInvalidStateException);
 }
 
 TEST(KzVariant, AssignmentFromInsideTheOwnObjectKeepsTheSourceAlive) {

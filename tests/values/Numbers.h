@@ -19,14 +19,4 @@ void ExpectTexts(std::initializer_list<Row> rows) {
     ExpectRows(rows, [](const char16_t* text) { return Texts({Number(text)}); });
 }
 
-/// Compares each number with each by all operators.
-template <class Number>
-void ExpectAscending(std::initializer_list<Number> values) {
-    for (const Number& a : values)
-        for (const Number& b : values)
-            EXPECT_EQ(std::tuple(a<b, a <= b, a> b, a >= b, a == b, a != b),
-                      std::tuple(&a<&b, &a <= &b, &a> & b, &a >= &b, &a == &b, &a != &b))
-                << Texts({a, b});
-}
-
 } // namespace KzXmlLib10::support
