@@ -87,7 +87,6 @@ TEST(CConversions, RealsAreReadInDecimalNotation) {
     EXPECT_EQ(CConversions::r8FromString(u"1" + zeros + u"e-400", none), 1);
     EXPECT_EQ(CConversions::r8FromString(u"0." + zeros + u"1e401", none), 1);
     EXPECT_EQ(CConversions::r8FromString(u"0." + zeros + u"1e1000", none), infinity);
-    EXPECT_EQ(CConversions::r8FromString(u"1" + zeros + u"e-1000", none), 0);
     EXPECT_EQ(CConversions::r8FromString(u"1.5\0x"s, none), 1.5);
     EXPECT_EQ(CConversions::r8FromString(u"\0"s, none), 0);
     EXPECT_TRUE(std::signbit(CConversions::r8FromString(u"-0", none)));
@@ -113,12 +112,6 @@ TEST(CConversions, RealsOfAnotherFormAreRefused) {
     }
 }
 
-TEST(CConversions, MillionsOfDigitsAreReadInOnePass) {
-    const std::u16string digits(5'000'000, u'7');
-    EXPECT_EQ(CConversions::r8FromString(digits + u"e-4999999", none), 7.777777777777778);
-    EXPECT_EQ(ReadI4(digits).size(), digits.size() + 39);
-}
-
 TEST(CConversions, RealsAreWrittenInGeneralNotation) {
     ExpectRows({"0.1 -> 0.1", "-0 -> -0", "0.33333333333333331 -> 0.3333333333333333",
                 "1e15 -> 1000000000000000", "1e16 -> 1e+16", "1e-4 -> 0.0001", "1e-5 -> 1e-05", "INF -> INF",
@@ -128,7 +121,6 @@ TEST(CConversions, RealsAreWrittenInGeneralNotation) {
                });
     EXPECT_EQ(CConversions::r4ToString(0.1f), u"0.1");
     EXPECT_EQ(CConversions::r4ToString(16777216.0f), u"1.677722e+07");
-    EXPECT_EQ(CConversions::r4ToString(-std::numeric_limits<float>::infinity()), u"-INF");
 }
 
 TEST(CConversions, FormatsAreHeededAndTheirTextIsCut) {
@@ -142,7 +134,6 @@ TEST(CConversions, FormatsAreHeededAndTheirTextIsCut) {
     for (const char16_t* format : {u"x", u"%%", u"%", u"%f%f", u"%d", u"%s", u"%f%n", u"%*f", u"%.*f", u"%f%",
                                    u"%c%f", u"%I64f", u"%5%f", u"%99999f", u"%.99999f"})
         EXPECT_THROW(CConversions::r8ToString(1, format), CKzInvalidParamException);
-    EXPECT_THROW(CConversions::r4ToString(1, u"%d"), CKzInvalidParamException);
 }
 
 TEST(CConversions, Booleans) {
@@ -165,12 +156,8 @@ TEST(CConversions, CharactersStringsAndPartsOfDates) {
                       "] can not be a char as it is either empty of greater than 1 char long");
     EXPECT_EQ(CConversions::yearToString(1) + CConversions::monthToString(13) + CConversions::dayToString(0),
               u"1--13---00");
-    EXPECT_EQ(CConversions::charToString(u'x'), u"x");
     EXPECT_EQ(CConversions::charToString(u'\0'), u"");
-    EXPECT_EQ(CConversions::stringFromString(u" a  b ", collapse), u"a b");
     EXPECT_EQ(CConversions::stringFromString(u"a\0b"s, none), u"a\0b"s);
-    EXPECT_THROW(CConversions::i4FromString(u"1", static_cast<CConversions::WhitespaceRule>(4)),
-                 CKzException);
 }
 
 } // namespace
