@@ -44,9 +44,9 @@ std::u16string CModelObject::GetNamespace() const { return m_model.m_namespace; 
 CParentElementInfo* CModelObject::GetClassInfo() const {
     if (!m_model.m_info)
         m_model.m_info = std::make_unique<CParentElementInfo>(
-            m_model.m_group, m_model.m_type, m_model.m_name.c_str(), m_model.m_namespace.c_str(), true,
-            m_model.m_hasBaseClasses, m_model.m_contentProperty, m_model.m_contentType,
-            m_model.m_contentFormat.c_str(), m_model.m_contentAsText);
+            m_model.m_group, m_model.m_type, m_model.m_name.c_str(), m_model.m_namespace.c_str(),
+            m_model.m_failIfAttributeUnknown, m_model.m_hasBaseClasses, m_model.m_contentProperty,
+            m_model.m_contentType, m_model.m_contentFormat.c_str(), m_model.m_contentAsText);
     return m_model.m_info.get();
 }
 CElementInfo** CModelObject::GetClassElementInfo() const { return m_model.m_elements.data(); }
