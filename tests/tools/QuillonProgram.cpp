@@ -182,14 +182,4 @@ TEST_F(QuillonProgram, TellsWhatFailedByMessageAndExitCode) {
     EXPECT_EQ(Quillon("convert --help").exitCode, 0);
 }
 
-TEST_F(QuillonProgram, ShowsProgressAtATerminalOnlyAndOnlyWhenItTakesLong) {
-    const std::string slow = "(sleep 1.2; echo '<a/>') | '" QUILLON_PROGRAM "' show -";
-    Write("slow.sh", slow);
-    const Result result = Shell("script -qec 'sh slow.sh' /dev/null");
-    if (result.exitCode == 127)
-        GTEST_SKIP() << "no terminal to be had without the program `script`";
-    EXPECT_EQ(result.out, "\r\033[Kquillon: reading standard input, 1 s\r\033[Ka\r\n");
-    EXPECT_EQ(Shell("sh slow.sh").err, "");
-}
-
 } // namespace
