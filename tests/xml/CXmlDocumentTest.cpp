@@ -77,21 +77,16 @@ TEST(CXmlDocument, FailsWithTheWordsOfTheParserAndTheLine) {
 }
 
 TEST(CXmlDocument, StopsDocumentsThatGrowWithoutBounds) {
-    std::string entities = "<!DOCTYPE r [<!ENTITY e0 '0123456789'>";
-    for (int i = 1; i < 20; ++i) {
-        const std::string inner = "&e" + std::to_string(i - 1) + ";";
-        entities += "<!ENTITY e" + std::to_string(i) + " '" + Repeat(inner, 10) + "'>";
-    }
-    EXPECT_EQ(Failure([&] { Tree((entities + "]><r>&e19;</r>").c_str()); }),
+    const std::string value(100'000, 'v'), doctype = "<!DOCTYPE r [<!";
+    const std::string entities = doctype + "ENTITY e '" + value + "'>]><r>" + Repeat("&e;"s, 1'000) + "</r>";
+    EXPECT_EQ(Failure([&] { Tree(entities.c_str()); }),
               "limit on input amplification factor (from DTD and entities) breached at line 1");
-
-    std::string emptyAttributes = "<!DOCTYPE r [<!ATTLIST a";
+    std::string emptyAttributes = doctype + "ATTLIST a";
     for (int i = 0; i < 3'000; ++i)
         emptyAttributes += " b" + std::to_string(i) + " CDATA ''";
-    const std::string value(100'000, 'v'), doctype = "<!DOCTYPE r [<!ATTLIST a ";
-    for (const std::string& start :
-         {doctype + "b CDATA '" + value + "'>]><r>", doctype + "xmlns:b CDATA '" + value + "'>]><r>",
-          emptyAttributes + ">]><r>", "<r xmlns='" + value + "'>"}) {
+    for (const std::string& start : {doctype + "ATTLIST a b CDATA '" + value + "'>]><r>",
+                                     doctype + "ATTLIST a xmlns:b CDATA '" + value + "'>]><r>",
+                                     emptyAttributes + ">]><r>", "<r xmlns='" + value + "'>"}) {
         const std::string xml = start + Repeat("<a/>"s, 1'000) + "</r>";
         EXPECT_EQ(Failure([&] { Tree(xml.c_str()); }),
                   "The names, values and texts of the document come to more than " +
@@ -126,7 +121,7 @@ TEST(CXmlDocument, LoadsRepeatedlyAlsoAfterAFailure) {
     EXPECT_EQ(DumpTree(document.GetDocumentElement()), R"(inner["some text"])");
 }
 
-TEST(CXmlDocument, FindsAttributesByExactNameAndNamespaceAndTellsThoseThatSteerReading) {
+TEST(CXmlDocument, FindsAttributesByExactNameAndNamespace) {
     CXmlDocument named;
     named.LoadXml("<a xmlns:p='urn:p' p:x='1' x='2' y=''/>");
     const CXmlElement* root = named.GetDocumentElement();
@@ -134,19 +129,6 @@ TEST(CXmlDocument, FindsAttributesByExactNameAndNamespaceAndTellsThoseThatSteerR
     EXPECT_EQ(&root->GetAttribute(u"X", u""),
               &root->GetAttribute(u"x", u"urn:q")); // an empty text of its own
     EXPECT_NE(&root->GetAttribute(u"X", u""), &root->GetAttribute(u"y", u""));
-
-    // Each attribute, and whether it counts as one of namespaces and as nil.
-    ExpectRows({"i:type='t' -> 10", "i:schemaLocation='' -> 10", "i:noNamespaceSchemaLocation='' -> 10",
-                "i:xmlns='' -> 10", "i:nil='false' -> 01", "i:Type='' -> 00", "type='' -> 00",
-                "nil='true' -> 00", "xml:type='' -> 00"},
-               [](const std::u16string& text) {
-                   CXmlDocument document;
-                   document.LoadXml(
-                       (u"<a xmlns:i='http://www.w3.org/2001/XMLSchema-instance' " + text + u"/>").c_str());
-                   const CXmlAttribute& attribute = *document.GetDocumentElement()->GetAttributes().at(0);
-                   return std::to_string(attribute.IsNamespaceAttribute()) +
-                          std::to_string(attribute.IsNilAttribute());
-               });
 }
 
 TEST(CXmlDocument, DropsElementsForWhichTheCallbackReturnsTrue) {
