@@ -117,7 +117,11 @@ void CXmlDocument::DropTree() {
     m_memory.reset(); // last, since the tree stands in it
 }
 
-void CXmlDocument::StartTree() { m_memory = std::make_unique<TreeMemory>(); }
+void CXmlDocument::StartTree() {
+    constexpr std::size_t usualDepth = 16;
+    m_memory = std::make_unique<TreeMemory>();
+    m_elementStack.reserve(usualDepth);
+}
 
 CXmlElement* CXmlDocument::AddDocElement(const SharedName& name) {
     m_documentElement.reset(CXmlElement::Create(this, name));

@@ -4,21 +4,20 @@
 
 #include <algorithm>
 #include <cstddef>
-#include <memory>
+#include <memory_resource>
 #include <new>
 #include <utility>
-#include <vector>
 
 namespace KzXmlLib10 {
 
-/// The memory of nodes of one class. Blocks come from chunks, which grow with their number and go with the
-/// pool; what is given back is used again first.
+/// The memory of nodes of one class. Blocks are taken in chunks, which grow with their number; what is given
+/// back is used again first.
 ///
 /// Under the address sanitizer each block is one of the heap, so that it sees a node used after its end.
 template <class Node>
 class NodePool {
 public:
-    NodePool() = default;
+    explicit NodePool(std::pmr::memory_resource* memory) : m_memory(memory) {}
     NodePool(const NodePool&) = delete;
     NodePool& operator=(const NodePool&) = delete;
 
@@ -52,12 +51,11 @@ private:
     void AddChunk() {
         constexpr std::size_t first = 8, most = 512;
         m_chunkSize = std::clamp(2 * m_chunkSize, first, most);
-        m_chunks.push_back(std::make_unique_for_overwrite<Block[]>(m_chunkSize));
-        m_next = m_chunks.back().get();
+        m_next = static_cast<Block*>(m_memory->allocate(m_chunkSize * sizeof(Block), alignof(Block)));
         m_end = m_next + m_chunkSize;
     }
 
-    std::vector<std::unique_ptr<Block[]>> m_chunks;
+    std::pmr::memory_resource* m_memory;
     std::size_t m_chunkSize = 0;
     Block* m_next = nullptr; ///< the first block of the newest chunk that was never taken
     Block* m_end = nullptr;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "xml/ChunkMemory.h"
 #include "xml/Expat.h"
 #include "xml/SharedNames.h"
 
@@ -42,7 +43,7 @@ public:
 
 private:
     struct Entry {
-        std::string text;
+        std::pmr::string text;
         const SharedName* name = nullptr;
         mutable const Entry* followers[2] = {};
     };
@@ -61,18 +62,24 @@ private:
     const Entry& Search(std::string_view text, SharedNames& names) {
         if (const auto found = m_entries.find(text); found != m_entries.end())
             return *found;
-        return *m_entries.insert({std::string(text), &Split(text, names)}).first;
+        return *m_entries.insert({std::pmr::string(text, m_memory.Get()), &Split(text, names)}).first;
     }
 
     /// Deliberate: at the first separator.
-    static const SharedName& Split(std::string_view text, SharedNames& names) {
+    const SharedName& Split(std::string_view text, SharedNames& names) {
         const std::size_t separator = text.find(Separator);
-        if (separator == text.npos)
-            return names.Share({}, expat::Text(text));
-        return names.Share(expat::Text(text.substr(0, separator)), expat::Text(text.substr(separator + 1)));
+        m_namespaceUri.clear();
+        m_localName.clear();
+        if (separator != text.npos)
+            AppendUtf16(m_namespaceUri, text.substr(0, separator));
+        AppendUtf16(m_localName, text.substr(separator + 1)); // npos + 1 is 0
+        return names.Share(m_namespaceUri, m_localName);
     }
 
-    std::set<Entry, Order> m_entries;
+    ChunkMemory m_memory;
+    std::pmr::set<Entry, Order> m_entries{m_memory.Get()};
+    std::u16string m_namespaceUri; ///< of the name split last
+    std::u16string m_localName;
     Entry m_start; ///< what the first name follows
     const Entry* m_last = &m_start;
 };

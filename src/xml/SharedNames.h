@@ -5,6 +5,7 @@
 #include <KzXmlLib10/xml/SharedName.h>
 
 #include <functional>
+#include <memory_resource>
 #include <set>
 #include <string>
 #include <string_view>
@@ -15,7 +16,7 @@ namespace KzXmlLib10 {
 /// time, so that nobody can choose names that make it slow.
 class SharedNames {
 public:
-    SharedNames() = default;
+    explicit SharedNames(std::pmr::memory_resource* memory) : m_texts(memory), m_names(memory) {}
     SharedNames(const SharedNames&) = delete;
     SharedNames& operator=(const SharedNames&) = delete;
 
@@ -47,8 +48,8 @@ private:
         return found != m_texts.end() ? *found : *m_texts.emplace(text).first;
     }
 
-    std::set<std::u16string, TextOrder> m_texts;
-    std::set<SharedName, NameOrder> m_names;
+    std::pmr::set<std::u16string, TextOrder> m_texts;
+    std::pmr::set<SharedName, NameOrder> m_names;
 };
 
 } // namespace KzXmlLib10

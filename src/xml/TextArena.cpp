@@ -34,10 +34,10 @@ void TextArena::Clear(TextPiece* last) {
 }
 
 void TextArena::AddChunk(std::size_t units) {
-    constexpr std::size_t first = 1024, most = 64 * 1024;
+    constexpr std::size_t first = 4 * 1024, most = 64 * 1024;
     std::size_t size = std::max(sizeof(TextPiece), TextPiece::headerSize + (units + 1) * sizeof(char16_t));
     if constexpr (!hasAddressSanitizer)
-        size = std::max(size, std::min(first << std::min<std::size_t>(m_chunks.size(), 8), most));
+        size = std::max(size, std::min(first << std::min<std::size_t>(m_chunks.size(), 4), most));
     auto bytes = std::make_unique_for_overwrite<std::byte[]>(size);
     std::byte* const start = bytes.get();
     char16_t* const limit = reinterpret_cast<char16_t*>(start + size);

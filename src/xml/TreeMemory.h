@@ -1,5 +1,6 @@
 #pragma once
 
+#include "xml/ChunkMemory.h"
 #include "xml/NodePool.h"
 #include "xml/SharedNames.h"
 #include "xml/TextArena.h"
@@ -14,10 +15,11 @@ namespace KzXmlLib10 {
 /// What the nodes of one tree share: the memory they and their texts stand in and the strings of their
 /// names.
 struct TreeMemory {
-    NodePool<CXmlElement> elements;
-    NodePool<CXmlAttribute> attributes;
-    NodePool<std::vector<CXmlAttribute*>> attributeLists;
-    SharedNames names;
+    ChunkMemory chunks;
+    NodePool<CXmlElement> elements{chunks.Get()};
+    NodePool<CXmlAttribute> attributes{chunks.Get()};
+    NodePool<std::vector<CXmlAttribute*>> attributeLists{chunks.Get()};
+    SharedNames names{chunks.Get()};
     TextArena texts;
 };
 
