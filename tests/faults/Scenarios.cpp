@@ -17,6 +17,9 @@ const std::string small = "<?xml version='1.0' encoding='UTF-8'?><!DOCTYPE r [<!
 const std::string record = "<c>" + std::string(2000, 'x') + "</c>";
 const std::string large = "<r>" + Repeat(record, 150) + "</r>\n";
 
+const std::string manyNamespaces =
+    "+=urn:d " + Repeat("<{urn:a}e <{urn:b}e "s, 20) + "@{urn:c}n=<v> " + Repeat("> "s, 40);
+
 /// The bytes of a file, without a stream, which would keep want of memory to itself.
 std::string Contents(const char* name) {
     std::string bytes(1 << 20, '\0');
@@ -154,7 +157,6 @@ std::vector<Scenario> Make() {
         {"wide text", w.Document([](CXmlDocument& d) { d.LoadXml(FromUtf8(small).c_str()); })},
         {"stream", w.Stream(small)},
         {"gzip", w.Stream(Compressed(large, packed) + "rest")},
-        {"zlib", w.Stream(Compressed("<r>" + record + "</r>", CompressionType_ZLib))},
         {"Fast Infoset", w.Stream(FromBinary(fastInfoset))},
         {"dropping", w.Document(loadSmall, [](CXmlElement* e) { return e->GetLocalName() == u"c"; })},
         {"malformed", Fails([] { CXmlDocument().LoadXml(u"<a><b></a>"); })},
@@ -182,14 +184,6 @@ std::vector<Scenario> Make() {
         {"object from gzip", w.Object([=](CModelObject& o) { o.FromXmlStream(gzip, w.plain); })},
         {"failure in an object", Fails([=] { w.node.New()->FromXml(deep.c_str(), w.plain); })},
         {"failure in writing", Fails([] { w.order.New()->ToXml(true, false, EOLType_LF, w.context); })},
-        {"unknown elements",
-         [] {
-             CXmlSerializationContext lenient;
-             lenient.SetIgnoreUnknownElements(true);
-             const auto object = w.node.New();
-             object->FromXml(u"<n><x/><v>1</v><y/></n>", lenient);
-             return Text(*object, lenient);
-         }},
         {"object to UTF-8", w.Bytes([](const CModelObject& o) {
              return o.ToXmlStream(true, true, utf8, EOLType_LF, w.context, plain);
          })},
@@ -233,23 +227,16 @@ std::vector<Scenario> Make() {
          [=] {
              try {
                  element()->SetNamespaceRestrictions(u"urn:other", u"");
+                 return std::string("no failure");
              } catch (const CKzException* failure) {
-                 const std::unique_ptr<const CKzException> owner(failure);
-                 return ToUtf8(failure->GetFullMessage());
+                 return ToUtf8(std::unique_ptr<const CKzException>(failure)->GetFullMessage());
              }
-             return std::string("no failure");
          }},
         {"default namespace", [] { return Text(CElement(w.Order(), u"urn:default")); }},
-        {"root attributes",
-         [] {
-             CXmlSerializationContext context;
-             context.GetAdditionalRootAttributes()->Add(u"name", u"a value", u"urn:of:attribute");
-             return Text(CElement(u"e"), CXmlSerializationContext(context));
-         }},
 
         {"decimal",
          [] {
-             CDecimal a(u"12345678901234567890.123456789"), b(u"-9.87E20");
+             const CDecimal a(u"12345678901234567890.123456789"), b(u"-9.87E20");
              return Shown(a * b) + Shown(a / b) + Shown(a - b) + Shown(CDecimal(0.1) + b);
          }},
         {"integer",
@@ -276,18 +263,15 @@ std::vector<Scenario> Make() {
          }},
         {"variant of a date", variant(ItemType_date, u" 2001-02-03Z ")},
         {"variant of a duration", variant(ItemType_duration, u"P1Y2M3DT4H5M6.789S")},
-        {"variant of a real", variant(ItemType_r8, u"1.25e300")},
         {"variant of a text", variant(ItemType_string, u" a text that is longer  than short ")},
         {"variant of bytes", variant(ItemType_hexBinary, u"0123456789ABCDEF0123456789abcdef")},
         {"bad variant", Fails(variant(ItemType_i4, u"no number at all, but a longer text"))},
         {"facets",
          [] {
-             return Failure(
-                        [] { CheckString(u"name", u"a value that is too long", Facets(u"[a-z]+", 1, 5)); }) +
+             return Failure([] { CheckString(u"name", u"a long value", Facets(u"[a-z]+", 1, 5)); }) +
                     Failure([] { CheckDecimal(u"name", CDecimal(u"7.5"), Facets(u"", -1, -1, u"8", u"9")); });
          }},
         {"pattern", [] { return std::to_string(MatchXsdPattern("(\\i\\c*|[0-9]+)*", u"name1234567890")); }},
-        {"bad pattern", Fails([] { MatchXsdPattern("(", u"value"); })},
         {"typed collection",
          [] {
              auto items = support::Make<CdecimalCol>({.maxOccurs = 3});
@@ -303,41 +287,9 @@ std::vector<Scenario> Make() {
              const CKzInvalidValueException inner(u"an inner message that is not short",
                                                   CKzException(u"innermost"));
              CKzValidationException outer(u"an outer message that is not short", inner);
-             const CKzException copy(outer);
-             std::ostringstream out;
-             out.exceptions(std::ios::badbit); // or it keeps want of memory to itself
-             out << copy;
-             return out.str();
+             return ToUtf8(CKzException(outer).GetFullMessage());
          }},
-        {"vocabulary",
-         [] {
-             CXmlSerializationContext context;
-             CFIVocabulary& vocabulary = context.GetFIContext().GetVocabulary();
-             vocabulary.AddElement(u"o", u"urn:order", u"order");
-             vocabulary.AddAttributeValue(u"a value of some length");
-             context.GetFIContext().SetUseGeneratedVocabulary(true);
-             return FromBinary(w.Order()->ToFastInfosetStream(FInfoDecl_None, context, CompressionType_None));
-         }},
-        {"text writer",
-         [] {
-             CTextStream stream(XmlEncoding_UTF8);
-             CXmlTextWriter writer(&stream);
-             writer.SetFormatted(true);
-             writer.SetDefaultNamespace(u"urn:default");
-             for (int i = 0; i < 40; ++i)
-                 writer.StartElement(u"element", u"urn:" + FromUtf8(std::to_string(i)));
-             writer.WriteAttribute(u"name", u"urn:a", u"<value>", ItemType_string);
-             for (int i = 0; i < 40; ++i)
-                 writer.EndElement();
-             writer.Close();
-             return ToUtf8(std::u16string(stream.GetBuffer().GetString()));
-         }},
-        {"formatting",
-         [] {
-             return ToUtf8(FormatString(u"%s %d %I64u %f %08x", u"some text of a certain length", 7,
-                                        1ull << 40, 1e308, 255));
-         }},
-        {"other encodings", [] { return ToUtf8(FromUtf8("\xE2\x82\xAC and \xF0\x9F\x98\x80 and more")); }},
+        {"text writer", [] { return Text(ScriptedObject(manyNamespaces)); }},
     };
 }
 

@@ -7,6 +7,7 @@
 #include "faults/Report.h"
 #include "support/Test.h"
 
+#include <sys/mman.h>
 #include <sys/resource.h>
 #include <sys/wait.h>
 
@@ -106,17 +107,17 @@ Maker Halves(const std::string& start, const std::string& unit, const std::strin
     return [=](std::size_t n) { return start + Filled(unit, n / 2) + middle + Filled(other, n / 2) + end; };
 }
 
-Maker Wide(const std::string& unit, bool bigEndian) {
+Maker BigEndian(const std::string& unit) {
     return [=](std::size_t n) {
-        std::string bytes = bigEndian ? "\xFE\xFF" : "\xFF\xFE";
+        std::string bytes = "\xFE\xFF";
         for (const char c : Root(unit)(n / 2))
-            bytes.append(bigEndian ? std::string{'\0', c} : std::string{c, '\0'});
+            bytes += {'\0', c};
         return bytes;
     };
 }
 
-Maker Packed(const std::string& unit, CompressionType type) {
-    return [=](std::size_t n) { return Compressed(Root(unit)(n), type); };
+Maker Packed(const std::string& unit) {
+    return [=](std::size_t n) { return Compressed(Root(unit)(n), CompressionType_GZip); };
 }
 
 Maker Fi(const std::string& head, const std::string& unit) {
@@ -157,89 +158,71 @@ std::string NestedNewNamespaces(std::size_t size) {
     return document + Repeat("</a>"s, levels);
 }
 
+/// How many bytes of memory a byte may take. Text without a document type and without long namespaces makes
+/// 96 at most; anything else up to 1 GiB a MiB, but that the digits which exponents stand for have a limit of
+/// their own, Limits::decimalExponent.
+constexpr double plainText = 96, any = 1024, digits = 2048;
+
 struct Shape {
     const char* name;
     Maker make;
     void (*use)(const std::string& input);
-    /// How much memory a byte of it may take.
-    enum Memory { plainText, any, digits } memory = plainText;
+    double most = plainText;
 };
-/// Text without a document type and without long namespaces makes 96 bytes at most; anything else up to 1 GiB
-/// a MiB, but that the digits which exponents stand for have a limit of their own, Limits::decimalExponent.
-constexpr Shape::Memory notPlain = Shape::any, digits = Shape::digits;
 
 const std::string doctype = "<!DOCTYPE r [<!";
 
 const Shape shapes[] = {
     {"deep", Nested, LoadStream},
-    {"deep, never closed", Around("", "<a>", ""), LoadStream},
     {"empty elements", Root("<a/>"), LoadStream},
     {"empty elements, dropped", Root("<a/><b/>"), LoadAndDrop},
     {"one attribute each", Root("<a b=''/>"), LoadStream},
     {"attributes of one element", Around("<r", " a~=''", "/>"), LoadStream},
     {"text", Root("x"), LoadStream},
-    {"text in blocks", Around("<r>", "x", "</r>\n"), LoadInBlocks},
     {"name", Around("<", "x", "/>"), LoadStream},
     {"attribute", Around("<r a='", "x", "'/>"), LoadStream},
     {"attribute in blocks", Around("<r a='", "x", "'/> "), LoadInBlocks},
     {"comment", Around("<r><!--", "x", "--></r>"), LoadStream},
-    {"comment in blocks", Around("<r><!--", "x", "--></r>"), LoadInBlocks},
-    {"instructions", Root("<?a b?>"), LoadStream},
-    {"CDATA", Around("<r><![CDATA[", "x", "]]></r>"), LoadStream},
     {"empty CDATA", Root("<![CDATA[]]>"), LoadStream},
     {"references", Root("&lt;"), LoadStream},
     {"carriage returns", Root("&#13;"), LoadStream},
-    {"line ends", Root("\r\n"), LoadStream},
     {"text between elements", Root("x<a/>"), LoadStream},
-    {"UTF-16", Wide("<a/>", false), LoadStream},
-    {"UTF-16, big-endian", Wide("x&lt;", true), LoadStream},
+    {"UTF-16, big-endian", BigEndian("x&lt;"), LoadStream},
     {"wide text", Root("<a b=''/>"), LoadWide},
     {"malformed at the end", Around("<r>", "<a/>", "</r><"), LoadStream},
     {"prefixes redeclared", Root("<p:a xmlns:p='u'/>"), LoadStream},
     {"namespaces of one element", Around("<r", " xmlns:a~='u'", "/>"), LoadStream},
     {"nested new namespaces", NestedNewNamespaces, LoadStream},
-    {"long namespace", Halves("<r xmlns='", "u", "'>", "<a/>", "</r>"), LoadStream, notPlain},
-    {"laughs", [](auto n) { return Entities(Filled("ha", n / 2), "~~", 0, 30); }, LoadStream, notPlain},
-    {"long entity, often", Halves(doctype + "ENTITY e '", "x", "'>]><r>", "&e;", "</r>"), LoadStream,
-     notPlain},
-    {"chain of entities", [](auto n) { return Entities("x", "~", n, 0); }, LoadStream, notPlain},
+    {"long namespace", Halves("<r xmlns='", "u", "'>", "<a/>", "</r>"), LoadStream, any},
+    {"laughs", [](auto n) { return Entities(Filled("ha", n / 2), "~~", 0, 30); }, LoadStream, any},
+    {"long entity, often", Halves(doctype + "ENTITY e '", "x", "'>]><r>", "&e;", "</r>"), LoadStream, any},
+    {"chain of entities", [](auto n) { return Entities("x", "~", n, 0); }, LoadStream, any},
     {"long default", Halves(doctype + "ATTLIST a x CDATA '", "x", "'>]><r>", "<a/>", "</r>"), LoadStream,
-     notPlain},
+     any},
     {"many defaults", Halves(doctype + "ATTLIST a", " x~ CDATA ''", ">]><r>", "<a/>", "</r>"), LoadStream,
-     notPlain},
-    {"gzip", Packed("<a/>", CompressionType_GZip), LoadStream, notPlain},
-    {"zlib", Packed("<a>~</a>", CompressionType_ZLib), LoadStream, notPlain},
+     any},
+    {"gzip", Packed("<a/>"), LoadStream, any},
 
-    {"FI elements", Fi("\x3C\0r\x3C\0a\xF0"s, "\x01\xF0"), LoadStream, notPlain},
-    {"FI deep", Fi("\x3C\0r"s, "\0"s), LoadStream, notPlain},
-    {"FI deep, closed",
-     [](auto n) { return Fi("\x3C\0r"s, "\0"s)(n / 3 * 2) + std::string(n / 3 + 2, '\xFF'); }, LoadStream,
-     notPlain},
-    {"FI chunk again", FiReferences("\x3C\0r\x93"s, 259, "\xA0"), LoadStream, notPlain},
-    {"FI name again", FiReferences("\x3C\x60", 321, "\0"s), LoadStream, notPlain},
-    {"FI value again", FiReferences("\x7C\0r\x78\0b\x4C"s, 265, "\0\x80"s), LoadStream, notPlain},
-    {"FI literals", Fi("\x3C\0r"s, "\x3C\0a\xF0"s), LoadStream, notPlain},
-    {"FI attributes", Fi("\x7C\0r\x78\0b\x40x"s, "\0\x80"s), LoadStream, notPlain},
-    {"FI empty values", Fi("\x7C\0r\x78\0b\xFF"s, "\0\xFF"s), LoadStream, notPlain},
-    {"FI comments", Fi("\x3C\0r"s, "\xE2\x40x"), LoadStream, notPlain},
-    {"FI instructions", Fi("\x3C\0r"s, "\xE1\0x\x40x"s), LoadStream, notPlain},
-    {"FI numbers", Fi("\x3C\0r"s, "\x88\0\x12"s), LoadStream, notPlain},
+    {"FI elements", Fi("\x3C\0r\x3C\0a\xF0"s, "\x01\xF0"), LoadStream, any},
+    {"FI deep", Fi("\x3C\0r"s, "\0"s), LoadStream, any},
+    {"FI chunk again", FiReferences("\x3C\0r\x93"s, 259, "\xA0"), LoadStream, any},
+    {"FI name again", FiReferences("\x3C\x60", 321, "\0"s), LoadStream, any},
+    {"FI value again", FiReferences("\x7C\0r\x78\0b\x4C"s, 265, "\0\x80"s), LoadStream, any},
+    {"FI literals", Fi("\x3C\0r"s, "\x3C\0a\xF0"s), LoadStream, any},
+    {"FI attributes", Fi("\x7C\0r\x78\0b\x40x"s, "\0\x80"s), LoadStream, any},
+    {"FI comments", Fi("\x3C\0r"s, "\xE2\x40x"), LoadStream, any},
+    {"FI numbers", Fi("\x3C\0r"s, "\x88\0\x12"s), LoadStream, any},
 
-    {"generic, flat", Root("<a b='c'>d</a>"), CopyGeneric, notPlain},
-    {"generic, namespaces", Root("<a xmlns='u~'/>"), CopyGeneric, notPlain},
-    {"generic, nested namespaces", NestedNewNamespaces, CopyGeneric, notPlain},
-    {"objects", Root("<i a='1'><v>x</v></i>"), ReadObjects, notPlain},
-    {"strings", Root("<i>x</i>"), ReadCollection<CstringCol>, notPlain},
-    {"integers", Root("<i>~</i>"), ReadCollection<Ci4Col>, notPlain},
+    {"generic, flat", Root("<a b='c'>d</a>"), CopyGeneric, any},
+    {"generic, nested namespaces", NestedNewNamespaces, CopyGeneric, any},
+    {"objects", Root("<i a='1'><v>x</v></i>"), ReadObjects, any},
+    {"strings", Root("<i>x</i>"), ReadCollection<CstringCol>, any},
     {"great decimals", Root("<i>1E10000</i>"), ReadCollection<CdecimalCol>, digits},
-    {"one long integer", Item("7"), ReadCollection<CintegerCol>, notPlain},
-    {"one long fraction", Around("<r><i>0.", "7000000000", "</i></r>"), ReadCollection<CdecimalCol>,
-     notPlain},
-    {"one long double", Item("7"), ReadCollection<Cr8Col>, notPlain},
-    {"one long base64", Item("QUJD "), ReadCollection<Cbase64BinaryCol>, notPlain},
-    {"unknown elements",
-     [](auto n) { return "<r>" + Filled("<x/>", n) + "<v>1</v>" + Filled("<x/>", n) + "</r>"; },
-     ReadAmongUnknown, notPlain},
+    {"one long integer", Item("7"), ReadCollection<CintegerCol>, any},
+    {"one long fraction", Around("<r><i>0.", "7000000000", "</i></r>"), ReadCollection<CdecimalCol>, any},
+    {"one long double", Item("7"), ReadCollection<Cr8Col>, any},
+    {"one long base64", Item("QUJD "), ReadCollection<Cbase64BinaryCol>, any},
+    {"unknown elements", Halves("<r>", "<x/>", "<v>1</v>", "<x/>", "</r>"), ReadAmongUnknown, any},
 };
 
 struct Measured {
@@ -261,41 +244,34 @@ double TakePeak() {
 
 /// Reads the input in a process of its own, which is ended if it does not end by itself.
 Measured Measure(const Shape& shape, std::size_t size) {
-    int ends[2];
-    if (pipe(ends) != 0)
-        std::abort();
+    static auto* const shared = static_cast<Measured*>(
+        mmap(nullptr, sizeof(Measured), PROT_READ | PROT_WRITE, MAP_SHARED | MAP_ANONYMOUS, -1, 0));
+    *shared = Measured();
     const pid_t child = fork();
     if (child == 0) {
         const rlimit seconds{120, 120}; // of processor time
         setrlimit(RLIMIT_CPU, &seconds);
         const std::string input = shape.make(size);
-        Measured measured;
         TakePeak();
         const double before = TakePeak();
-        std::string outcome = "read";
-        measured.seconds = Seconds([&] {
-            try {
+        std::string outcome;
+        shared->seconds = Seconds([&] {
+            outcome = Outcome([&] {
                 shape.use(input);
-            } catch (const CKzException& failure) {
-                outcome = ToUtf8(failure.GetFullMessage());
-                outcome.erase(0, outcome.rfind('\n') + 1);
-            }
+                return "read"s;
+            });
         });
-        measured.peak = TakePeak() - before;
-        outcome.resize(std::min(outcome.size(), sizeof measured.outcome - 1));
-        std::copy_n(outcome.c_str(), outcome.size() + 1, measured.outcome);
-        _exit(write(ends[1], &measured, sizeof measured) == sizeof measured ? 0 : 1);
+        shared->peak = TakePeak() - before;
+        outcome.erase(0, outcome.rfind('\n') + 1);
+        shared->outcome[outcome.copy(shared->outcome, sizeof shared->outcome - 1)] = '\0';
+        _exit(0);
     }
-    close(ends[1]);
-    Measured measured;
-    [[maybe_unused]] const ssize_t got = read(ends[0], &measured, sizeof measured);
-    close(ends[0]);
     waitpid(child, nullptr, 0);
-    return measured;
+    return *shared;
 }
 
 void MeasureShape(const Shape& shape, std::size_t size) {
-    constexpr double mebibyte = 1 << 20, gibibyte = 1 << 30;
+    constexpr double mebibyte = 1 << 20;
     Measured once = Measure(shape, size), eight = Measure(shape, 8 * size);
     for (int again = 0; again < 6 && eight.seconds > 10 * once.seconds; ++again) { // the machine is busy
         once.seconds = std::min(once.seconds, Measure(shape, size).seconds);
@@ -308,9 +284,8 @@ void MeasureShape(const Shape& shape, std::size_t size) {
     const bool inTime = once.seconds <= 2e-6 * bytes && eight.seconds <= 2e-6 * 8 * bytes &&
                         (eight.seconds <= mostTimes * once.seconds || eight.seconds < 0.01);
     // Each process has some memory of its own, whatever it reads.
-    const bool inMemory =
-        (shape.memory != Shape::plainText || eight.peak <= 96 * 8 * bytes + mebibyte) &&
-        (shape.memory == Shape::digits || once.peak <= gibibyte * std::max(1.0, bytes / mebibyte));
+    const bool inMemory = once.peak <= shape.most * std::max(bytes, mebibyte) + mebibyte &&
+                          eight.peak <= shape.most * std::max(8 * bytes, mebibyte) + mebibyte;
     report.Line(ended && ((inTime && inMemory) || !faults::isFast),
                 "%-27s %5.0f ns a byte, x8 %5.1f times, %6.1f bytes a byte: %s", shape.name,
                 once.seconds / bytes * 1e9, eight.seconds / once.seconds, eight.peak / (8 * bytes),
@@ -352,63 +327,50 @@ struct Value {
     ItemType type;
     std::string text;
     const char16_t* pattern = u"";
-    /// Whether PCRE2 ends it, after 10 million steps of some 20 ns.
-    bool takesAllSteps = false;
+    double limit = 0.01;
 };
 
 /// Reads, checks and writes a value as an element of an object would.
 void MeasureValue(const Value& row) {
-    const bool isCalendar = row.type >= ItemType_duration && row.type <= ItemType_time;
-    const std::u16string bound = isCalendar ? FromUtf8(row.text) : std::u16string();
-    const CPrimitiveRestrictions facets(row.pattern, -1, -1, bound.c_str(), bound.c_str(), u"", u"", -1);
-    const double limit = row.takesAllSteps ? 0.4 : *row.pattern ? 0.15 : 0.01;
     double best = 1e9;
     std::string outcome;
     for (int round = 0; round < 3; ++round)
         best = std::min(best, Seconds([&] {
-                            outcome = "read";
-                            try {
+                            outcome = Outcome([&] {
                                 KzVariant value;
                                 value.FromString(FromUtf8(row.text), row.type,
                                                  CWhitespaceUtils::WhitespaceRule_Collapse);
-                                CheckPrimitiveRestrictions(u"e", value, row.type, facets);
+                                CheckPrimitiveRestrictions(u"e", value, row.type, Facets(row.pattern));
                                 value.ToString(u"");
-                            } catch (const CKzException& failure) {
-                                outcome = ToUtf8(failure.GetMessageW()).substr(0, 60);
-                            }
+                                return "read"s;
+                            });
                         }));
-    report.Line(best <= limit || !faults::isFast, "%-27s %8.3f ms: %s", row.name, best * 1e3,
+    report.Line(best <= row.limit || !faults::isFast, "%-27s %8.3f ms: %.60s", row.name, best * 1e3,
                 outcome.c_str());
 }
 
 void MeasureValues() {
     const std::string zeros(4000, '0'), nines(4000, '9');
+    constexpr double pattern = 0.15, allSteps = 0.4; // PCRE2 ends it, after 10 million steps of some 20 ns
     const Value rows[] = {
         {"decimal of 4 KB", ItemType_decimal, nines},
         {"fraction of 4 KB", ItemType_decimal, "0." + nines},
-        {"zeros of 4 KB", ItemType_decimal, zeros + "." + zeros},
-        {"small decimal", ItemType_decimal, "1E-4000"},
         {"great decimal", ItemType_decimal, nines + "E10000"},
         {"too great decimal", ItemType_decimal, "1E999999999"},
-        {"small exponent", ItemType_decimal, "1E-999999999999999999999999999999999999"},
+        {"small decimal", ItemType_decimal, "1E-4000"},
         {"integer of 4 KB", ItemType_integer, nines},
-        {"great integer", ItemType_integer, nines + "E10000"},
-        {"too great integer", ItemType_integer, "1E4294967297"},
         {"double of 4 KB", ItemType_r8, nines + "." + nines},
         {"small double", ItemType_r8, "0." + zeros + "1e4000"},
         {"duration, float carry", ItemType_duration, "P16777215M1D"},
-        {"duration, months", ItemType_duration, "P201326593M1D"},
         {"duration, days", ItemType_duration, "P4294967295D"},
         {"duration, minutes", ItemType_duration, "PT2147483648M"},
         {"duration, digits", ItemType_duration, "P" + nines + "Y"},
-        {"date, no digits", ItemType_date, "12:"},
         {"date, digits", ItemType_date, nines + "-01-01"},
-        {"dateTime, zone", ItemType_datetime, "2001-01-01T00:00:00+99:99"},
         {"base64 of spaces", ItemType_base64Binary, "QQ" + std::string(4000, ' ') + "=="},
-        {"hex, odd", ItemType_hexBinary, zeros + "0"},
-        {"pattern, nested repeats", ItemType_string, std::string(40, 'a') + "!", u"(a+)+", true},
-        {"pattern, 4 KB", ItemType_string, std::string(4000, 'a'), u"(a|b)*"},
-        {"pattern, 4 KB, no match", ItemType_string, std::string(4000, 'a') + "c", u"(a|aa)*(b|a)*", true},
+        {"pattern, nested repeats", ItemType_string, std::string(40, 'a') + "!", u"(a+)+", allSteps},
+        {"pattern, 4 KB", ItemType_string, std::string(4000, 'a'), u"(a|b)*", pattern},
+        {"pattern, 4 KB, no match", ItemType_string, std::string(4000, 'a') + "c", u"(a|aa)*(b|a)*",
+         allSteps},
     };
     for (const Value& row : rows)
         MeasureValue(row);
@@ -417,11 +379,8 @@ void MeasureValues() {
 } // namespace
 
 int main(int argc, char** argv) {
-    const auto size = static_cast<std::size_t>(faults::Option(argc, argv, "--size", 1 << 20));
-    std::string_view only;
-    for (int i = 1; i + 1 < argc; ++i)
-        if (argv[i] == "--only"s)
-            only = argv[i + 1];
+    const std::size_t size = std::strtoul(faults::Option(argc, argv, "--size", "1048576"), nullptr, 10);
+    const std::string_view only = faults::Option(argc, argv, "--only", "");
     Register(10, 1);
     Limits limits; // what is allowed whatever the size of the input goes down with it
     limits.treeTextBytes = std::min<std::uint64_t>(limits.treeTextBytes, 64 * size);
@@ -431,7 +390,7 @@ int main(int argc, char** argv) {
             MeasureShape(shape, size);
     if (only.empty())
         MeasureValues();
-    if (faults::Option(argc, argv, "--bombs", 0) != 0) {
+    if (faults::Option(argc, argv, "--bombs", "0") != "0"s) {
         ReportGibibytes("half a GiB to base64",
                         Measure({"", [](std::size_t) { return std::string(); }, EncodeHalfGibibyte}, 0));
         MeasureBomb("bomb of elements", "<a/>", 1023);

@@ -46,15 +46,10 @@ void LoadWithExternalNames() {
     const std::string name = "'file://" + pipe + "'";
     const std::string document = "<!DOCTYPE r SYSTEM " + name + " [<!ENTITY e SYSTEM " + name +
                                  "><!ENTITY % p SYSTEM '" + pipe + "'>%p;]><r>a&e;b</r>";
-    std::string outcome;
-    const double seconds = Seconds([&] {
-        outcome = Outcome([&] {
-            CXmlDocument loaded;
-            loaded.LoadXml(document.c_str());
-            return ToUtf8(loaded.GetDocumentElement()->GetText());
-        });
-    });
-    report.Line(true, "external names: %s, in %.3f s", outcome.c_str(), seconds);
+    CXmlDocument loaded;
+    loaded.LoadXml(document.c_str());
+    const std::string tree = DumpTree(loaded.GetDocumentElement());
+    report.Line(tree == "r[\"ab\"]", "external names: %s", tree.c_str());
 }
 
 } // namespace

@@ -152,7 +152,7 @@ Tally TryAll(const faults::Scenario& scenario, long stride) {
 } // namespace
 
 int main(int argc, char** argv) {
-    const long stride = faults::Option(argc, argv, "--stride", 1);
+    const long stride = std::atol(faults::Option(argc, argv, "--stride", "1"));
     KzXmlLib10::Register(10, 1);
     for (const faults::Scenario& scenario : faults::Scenarios())
         scenario.run(); // what is made once and kept
