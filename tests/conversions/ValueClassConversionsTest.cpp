@@ -14,12 +14,6 @@ TEST(ValueClassConversions, YearsMonthsAndDaysComeFromAnyFormThatHasThem) {
               "Failed to GetDay. Invalid Date Type: gYearMonth.");
 }
 
-TEST(ValueClassConversions, TheFormOfADateDecidesOnItsKind) {
-    EXPECT_EQ(C::dateFromString(u"2001", none).GetType(), CDateTime::DTType_gYear);
-    EXPECT_EQ(C::yearMonthFromString(u"2001-05-06", none).GetType(), CDateTime::DTType_date);
-    EXPECT_EQ(C::monthDayFromString(u"---06", none).GetType(), CDateTime::DTType_gDay);
-}
-
 TEST(ValueClassConversions, TextsEndAtTheirFirstNul) {
     EXPECT_EQ(C::hexBinaryFromString(u"0102\0x"s, none).GetLength(), 2u);
     EXPECT_EQ(C::base64BinaryFromString(u"AQ\0*"s, none).GetLength(), 1u);

@@ -231,4 +231,23 @@ TEST(CFastInfosetReader, WhatReferencesAddIsLimited) {
     EXPECT_EQ(ReadReferences("7C 00 'a' 78 00 'b' 4C", 265, "00 80", 1000), "refused");
 }
 
+TEST(CFastInfosetReader, ReadsTheTreeThatTheTextHas) {
+    // Names, values and texts of all sizes, and indices into all tables.
+    std::string words = "+p=urn:p +=urn:d <{urn:d}root @{urn:p}b=v ";
+    for (const std::size_t length : {1, 8, 9, 64, 65, 258, 264, 265, 320, 321, 70000}) {
+        const std::string text = std::string(length / 2, 'n') + "\u00E9";
+        words += "<{urn:new}" + text + " @b=" + text + " '" + text + " > ";
+    }
+    for (const std::string uri : {"{urn:p}", "{urn:d}"}) {
+        for (int i = 1; i <= 2100; ++i) {
+            const std::string name = "n" + std::to_string(i);
+            words += "<" + uri + name + " @" + name + "=" + name + " '" + name + " > ";
+        }
+    }
+    const ScriptedObject object(words + ">");
+    CXmlDocument text;
+    text.LoadXml(object.ToXml(false, false, EOLType_LF, defaults).c_str());
+    EXPECT_EQ(Read(object.Written()), DumpTree(text.GetDocumentElement()));
+}
+
 } // namespace

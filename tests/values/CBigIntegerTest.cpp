@@ -98,6 +98,8 @@ TEST(CBigInteger, UnaryMinusChangesItsOperand) {
     Big x(5);
     EXPECT_EQ(&-x, &x);
     EXPECT_EQ(Texts({x, x.GetNegative(), x.GetAbs(), x}), "-5 5 5 -5");
+    x.Abs();
+    EXPECT_EQ(x, Big(5));
 }
 
 TEST(CBigInteger, SquareRoots) {

@@ -13,7 +13,8 @@ TEST(CBinaryData, NoArrayAndAnEmptyArrayAreDifferent) {
     EXPECT_EQ(Failure([&] { (void)none[0]; }) + Failure([&] { (void)std::as_const(none)[0]; }),
               "Index Out of range [0]Index Out of range [0]");
     none.Append(alsoNone);
-    EXPECT_TRUE(none == ToBinary(""));
+    alsoNone.Reserve(1);
+    EXPECT_TRUE(none == ToBinary("") && alsoNone == none);
 }
 
 TEST(CBinaryData, ChangesOfACopyLeaveTheSource) {
@@ -102,6 +103,7 @@ TEST(CBinaryData, BadHexadecimalTextThrowsAndLeavesTheObjectEmpty) {
         const std::string message = "Invalid char in hex string [" + ToUtf8(std::u16string(1, c)) + ']';
         EXPECT_EQ(failure({u'0', u'1', u'2', c}), message);
         EXPECT_EQ(failure({c, u'z'}), message);
+        EXPECT_EQ(failure({c, u'1'}), message);
     }
 }
 

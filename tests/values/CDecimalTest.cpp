@@ -170,7 +170,7 @@ TEST(CDecimal, ConversionsRoundAtTheirOwnPlace) {
                [](const char16_t* text) {
                    const Dec value(text);
                    return std::to_string(value.ToLong()) + " " + std::to_string(value.ToLongLong()) + " " +
-                          ToUtf8(value.ToBigInteger().ToString());
+                          ToUtf8(CBigInteger(value).ToString());
                });
     EXPECT_EQ(Dec(u"-9223372036854775808.9").ToLongLong(), std::numeric_limits<long long>::min());
     for (const auto& [text, value] :
