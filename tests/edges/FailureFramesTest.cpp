@@ -49,10 +49,8 @@ TEST_F(FailureFramesTest, ReadingTellsThePathAndTheCause) {
     const std::pair<std::string, const char*> rows[] = {
         {item + way + "<more/>", "ReadElement order/Element more"},
         {item + way + "<sum>x</sum>", "ReadElement order/Value"},
-        {"<item><sku>A</sku></item>", "ReadElement order/ReadElement item/Attribute id"},
         {"<item id='1' it='2'/>", "ReadElement order/ReadElement item/Attribute it"},
         {"<item id='0'/>", "ReadElement order/ReadElement item/Value id"},
-        {"<item id='1'/>", "ReadElement order/ReadElement item/Element sku"},
         {"<item id='1'><sku>a]b</sku></item>", "ReadElement order/ReadElement item/Value sku"},
         {item + item + item + way, "ReadElement order/Count item"},
         {item, "ReadElement order/Element way"},
@@ -60,7 +58,6 @@ TEST_F(FailureFramesTest, ReadingTellsThePathAndTheCause) {
         {"<item id='1' xmlns:i='http://www.w3.org/2001/XMLSchema-instance' i:nil='1'/>",
          "ReadElement order/ReadElement item/Element item"},
         {item + "\n</order>\n<order", "Syntax 3"},
-        {item + "\n&no;\n", "Syntax 2"},
     };
     for (const auto& [content, frames] : rows)
         EXPECT_EQ(Reading("<order>" + content + "</order>"), frames) << content;
@@ -97,12 +94,10 @@ TEST_F(FailureFramesTest, WhatIsNoFailureOfADocumentHasTheKindOfItsClass) {
     const std::pair<std::function<void()>, const char*> rows[] = {
         {[&] { context.SetIgnoreMissingMandatoryElements(true); }, "State"},
         {[&] { attributes.Add(u"a", u"", u"urn:b"); }, "Namespace"},
-        {[] { CDecimal(u"1x"); }, "Value"},
         {[] { throw CKzInvalidValueException(u"of the application"); }, "Value"},
         // Near misses of messages of the library.
         {[] { throw CKzException(u"nothing of the parser at line 3"); }, "Other"},
         {[] { throw CKzException(u"Failed to process the element [a"); }, "Other"},
-        {[] { throw CKzException(u"Failed to process the element"); }, "Other"},
         {[] { throw CKzException(u"", CKzException(u"Failed to process the element []")); },
          "Other/ReadElement"},
         {[] { throw CKzValidationException(u"Failed to process the record 12"); }, "Record 12"},

@@ -76,7 +76,6 @@ TEST(OrdersClasses, SettersRefuseWhatTheSchemaDoes) {
     EXPECT_EQ(
         InvalidState([&] { payment->SetCard(card); }),
         "The Property [transfer] is already set. Only one element within this class bay be set at a time");
-    EXPECT_EQ(payment->GetCard(), nullptr);
     payment->SetTransfer(nullptr);
     EXPECT_EQ(
         InvalidParam([&] { payment->SetCard(misnamed); }),
@@ -84,8 +83,6 @@ TEST(OrdersClasses, SettersRefuseWhatTheSchemaDoes) {
         "transfer");
     EXPECT_EQ(InvalidParam([&] { order.SetCustomer(nullptr); }),
               "The Property [customer] is mandatory, it may node be NULL");
-    EXPECT_EQ(Failure([&] { order.GetTags()->Add(std::u16string(33, u't')); }),
-              "Invalid Value for tag [" + std::string(33, 't') + "]");
     EXPECT_EQ(InvalidValue([] { StatusTypeFromString(u"lost"); }),
               "The text [lost] is none of the values of StatusType");
 }

@@ -102,12 +102,6 @@ TEST(CBigInteger, UnaryMinusChangesItsOperand) {
     EXPECT_EQ(x, Big(5));
 }
 
-TEST(CBigInteger, SquareRoots) {
-    EXPECT_EQ(Texts({Big(99).SquareRoot(), Big(100).SquareRoot()}), "9 10");
-    EXPECT_EQ(InvalidValue([] { Big(-1).SquareRoot(); }), "ERROR: Negative Number in function SquareRoot().");
-    EXPECT_EQ(InvalidValue([] { Big(0).SquareRoot(); }), "ERROR: Overflow in operator/.");
-}
-
 TEST(CBigInteger, DigitHelpersGiveCleanResultsAlsoInPlace) {
     Digits built, product, nothing, a{0, 0, 7}, b{0, 3};
     Big::Build(u"x0012", built);
