@@ -6,6 +6,7 @@
 #include "object/SchemaInstance.h"
 #include "object/TextScan.h"
 #include "object/Throw.h"
+#include "xml/ElementText.h"
 
 #include <KzXmlLib10/collections/CElement.h>
 #include <KzXmlLib10/collections/CElementCol.h>
@@ -21,6 +22,13 @@ using namespace KzXmlLib10;
 
 namespace {
 
+[[gnu::always_inline]] inline bool IsNamed(const CXmlElement* element, const std::u16string& name,
+                                           const std::u16string& namespaceUri,
+                                           const CXmlSerializationContext& context) {
+    return element && SameText(element->GetLocalName(), name) &&
+           (SameText(element->GetNamespaceURI(), namespaceUri) || context.GetIgnoreNamespaces());
+}
+
 CSmartPtr<CXmlObjectBase> ObjectIn(const KzVariant& value) {
     return value.GetTypeAsEnum() == ItemType_Invalid ? nullptr : value.GetXmlObject();
 }
@@ -35,13 +43,11 @@ CSmartPtr<CXmlObjectBase> RequireObjectIn(const KzVariant& value, const std::u16
 } // namespace
 
 bool CElementInfo::IsThisElement(const CXmlSerializationContext& context, const CXmlElement* element) const {
-    if (!element || !SameText(element->GetLocalName(), m_elementName))
-        return false;
-    return context.GetIgnoreNamespaces() || SameText(element->GetNamespaceURI(), m_elementNamespace);
+    return IsNamed(element, m_elementName, m_elementNamespace, context);
 }
 
 bool CElementInfo::SeekElement(const CXmlSerializationContext& context, CXmlElement** current) const {
-    while (!IsThisElement(context, *current)) {
+    while (!IsNamed(*current, m_elementName, m_elementNamespace, context)) {
         if (context.GetIgnoreMissingMandatoryElements())
             return false;
         if (!context.GetIgnoreUnknownElements() || !*current)
@@ -66,26 +72,24 @@ bool CElementInfo::IsNil(const CXmlElement& element) const {
 
 bool CElementInfo::TakePrimitive(CXmlGeneratedClass* object, CXmlElement** current) {
     KzVariant value;
-    std::u16string room;
     if (IsNil(**current))
         value.SetNil();
     else
-        value.FromText((*current)->ViewText(room), m_itemType, m_whitespaceRule);
+        value.FromText(ElementText(**current).Get(), m_itemType, m_whitespaceRule);
     return StoreAndAdvance(object, value, current);
 }
 
 bool CElementInfo::TakeEnum(CXmlGeneratedClass* object, CXmlElement** current, StringToEnum stringToEnum) {
     KzVariant value;
-    std::u16string room;
     if (IsNil(**current))
         value.SetNil();
     else
-        value.SetI4(stringToEnum((*current)->ViewText(room).data()));
+        value.SetI4(stringToEnum(ElementText(**current).Get().data()));
     return StoreAndAdvance(object, value, current);
 }
 
 bool CElementInfo::StoreAndAdvance(CXmlGeneratedClass* object, KzVariant& value, CXmlElement** current) {
-    AccessProperty(object, false, value);
+    object->AccessProperty(m_propertyIndex, false, value);
     *current = (*current)->GetNextSiblingElement();
     return true;
 }

@@ -9,6 +9,7 @@
 
 #include <cstddef>
 #include <cstdlib>
+#include <iterator>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -19,6 +20,9 @@ static_assert(sizeof(XML_Char) == sizeof(char), "expat has to be used without XM
 
 /// The 16-bit form of a text that expat gives, which is UTF-8 without a fault.
 inline std::u16string Text(std::string_view text) {
+    char16_t room[64];
+    if (text.size() <= std::size(room) && WriteAscii(room, text))
+        return {room, text.size()};
     std::u16string result;
     AppendUtf16(result, text);
     return result;

@@ -57,6 +57,7 @@ private:
     friend class CFastInfosetReader;
     friend class RecordParser;
     friend class CXmlDocument;
+    friend class ElementText;
 
     CXmlElement(const CXmlDocument* document, const SharedName& name) noexcept;
 
