@@ -202,17 +202,24 @@ void XMLCALL CExpatReader::EndNamespaceDeclHandler(void*, const XML_Char*) {}
 /// here came from a character reference. Each of those is a text of its own, unless it stands in the text of
 /// an entity.
 void XMLCALL CExpatReader::CharacterDataHandler(void* reader, const XML_Char* text, int length) {
-    auto& self = *static_cast<CExpatReader*>(reader);
     const std::string_view piece(text, static_cast<std::size_t>(length));
-    TextArena& texts = *self.m_texts;
-    if (length == 1 && *text == '\r')
-        return;
-    if (length == 1 && texts.HasRoom(1)) // a line feed mostly, which is ASCII as all that is one byte
+    TextArena& texts = *static_cast<CExpatReader*>(reader)->m_texts;
+    if (!texts.HasRoom(piece.size()))
+        return OtherDataHandler(reader, text, length);
+    if (length != 1) {
+        if (!texts.TryWriteAscii(piece))
+            OtherDataHandler(reader, text, length);
+    } else if (*text != '\r') { // a line feed mostly, which is ASCII as all that is one byte
         texts.WriteUnit(static_cast<unsigned char>(*text));
-    else if (texts.HasRoom(piece.size()))
-        texts.WriteUtf8(piece);
-    else
-        Handle(reader, [piece](CExpatReader& reading) { reading.AppendTextWithoutRoom(piece); });
+    }
+}
+
+/// The same for any text. Apart, since what is usual takes only a few instructions.
+[[gnu::noinline]] void XMLCALL CExpatReader::OtherDataHandler(void* reader, const XML_Char* text,
+                                                              int length) {
+    const std::string_view piece(text, static_cast<std::size_t>(length));
+    if (piece != "\r")
+        Handle(reader, [piece](CExpatReader& self) { self.AppendText(piece); });
 }
 
 /// The same for a text that may hold carriage returns in its midst.
