@@ -317,23 +317,25 @@ bool CFastInfosetReader::AppendPlainText(std::string_view text) {
 const SharedName& CFastInfosetReader::ParseName(Byte first, Byte literal, Byte mask, const IntegerRule& rule,
                                                 CFIVocabulary::CFIQNameTable& table,
                                                 std::vector<const SharedName*>& shared) {
-    SharedNames& names = m_document->m_memory->names;
     if ((first & mask) == literal) {
         ParseQName(first, table);
-        return names.Share(m_namespaceName, m_localName);
+        return m_document->m_memory->names.Share(m_namespaceName, m_localName);
     }
     const std::uint64_t index = ReadInteger(rule, first);
-    const CFIVocabulary::CQNameParts& parts = EntryAt(table.m_values, index);
-    if (shared.size() < index)
-        shared.resize(table.m_values.size());
-    const SharedName*& name = shared[index - 1];
-    if (!name) {
-        const std::vector<std::u16string>& namespaces = m_vocabulary->m_namespaceNames.m_values;
-        const std::u16string none;
-        name = &names.Share(parts.m_namespaceName == 0 ? none : EntryAt(namespaces, parts.m_namespaceName),
-                            EntryAt(m_vocabulary->m_localNames.m_values, parts.m_localName));
-    }
-    return *name;
+    if (index - 1 < shared.size() && shared[index - 1]) // as is usual; 0 wraps
+        return *shared[index - 1];
+    const SharedName& name = ShareEntry(EntryAt(table.m_values, index));
+    shared.resize(table.m_values.size());
+    shared[index - 1] = &name;
+    return name;
+}
+
+const SharedName& CFastInfosetReader::ShareEntry(const CFIVocabulary::CQNameParts& parts) {
+    const std::vector<std::u16string>& namespaces = m_vocabulary->m_namespaceNames.m_values;
+    const std::u16string none;
+    return m_document->m_memory->names.Share(
+        parts.m_namespaceName == 0 ? none : EntryAt(namespaces, parts.m_namespaceName),
+        EntryAt(m_vocabulary->m_localNames.m_values, parts.m_localName));
 }
 
 void CFastInfosetReader::ParseQName(Byte first, CFIVocabulary::CFIQNameTable& table) {
@@ -488,6 +490,9 @@ inline std::uint64_t CFastInfosetReader::ReadInteger(const IntegerRule& rule, By
 }
 
 std::uint64_t CFastInfosetReader::ReadLongInteger(const IntegerRule& rule, Byte first) {
+    const Band& second = rule.bands[1];
+    if ((first & rule.mask) == second.mark && second.followingBytes == 1 && m_next != m_end)
+        return second.first + *m_next++; // as is usual
     const Band* band = rule.AnnouncedBy(first);
     if (!band)
         throw CKzException(rule.failure);

@@ -75,6 +75,7 @@ private:
     const SharedName& ParseName(fastinfoset::Byte first, fastinfoset::Byte literal, fastinfoset::Byte mask,
                                 const fastinfoset::IntegerRule& rule, CFIVocabulary::CFIQNameTable& table,
                                 std::vector<const SharedName*>& shared);
+    const SharedName& ShareEntry(const CFIVocabulary::CQNameParts& parts);
     void ParseQName(fastinfoset::Byte first, CFIVocabulary::CFIQNameTable& table);
     std::uint32_t ParseIdentifyingString(CFIVocabulary::CFIStringTable& table, std::u16string& text);
     std::u16string_view ParseNonIdentifyingString();
