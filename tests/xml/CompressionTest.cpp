@@ -99,6 +99,8 @@ TEST(Compression, RefusesMoreThanTheLimit) {
     EXPECT_EQ(Failure([&] { Decompress(&array.data, &array.size); }), tooLong);
     EXPECT_EQ(Failure([&] { CompressBuffer(&array.data, &array.size, CompressionType_GZip); }), tooLong);
     unsigned char* null = nullptr;
+    unsigned long none = 0;
+    Decompress(&null, &none); // as there is nothing to read
     EXPECT_THROW(Decompress(&null, &array.size), CKzInvalidParamException);
     EXPECT_THROW(CompressBuffer(&array.data, nullptr, CompressionType_GZip), CKzInvalidParamException);
 }
