@@ -173,6 +173,7 @@ TEST(CDecimal, ConversionsRoundAtTheirOwnPlace) {
                           ToUtf8(CBigInteger(value).ToString());
                });
     EXPECT_EQ(Dec(u"-9223372036854775808.9").ToLongLong(), std::numeric_limits<long long>::min());
+    EXPECT_EQ(Dec(u"9223372036854775807").ToLongLong(), std::numeric_limits<long long>::max());
     for (const auto& [text, value] :
          {std::pair{u"0.1", 0.1}, {u"-1.5", -1.5}, {u"1.7E308", 1.7e308}, {u"0", 0.0}, {u"1E22", 1e22}})
         EXPECT_EQ(Dec(text).ToDouble(), value);
