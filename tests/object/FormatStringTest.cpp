@@ -27,8 +27,9 @@ TEST(FormatString, RareForms) {
 }
 
 TEST(FormatString, TextAndCharacters) {
-    EXPECT_EQ(FormatString(u"[%s] [%5s] [%-5s] [%05s] [%.2s]", u"abc", u"abc", u"abc", u"abc", u"abc"),
-              u"[abc] [  abc] [abc  ] [00abc] [ab]");
+    EXPECT_EQ(FormatString(u"[%s] [%5s] [%-5s] [%05s] [%.2s] [%.0s]", u"abc", u"abc", u"abc", u"abc", u"abc",
+                           u"abc"),
+              u"[abc] [  abc] [abc  ] [00abc] [ab] []");
     EXPECT_EQ(FormatString(u"%s %c%%", static_cast<const char16_t*>(nullptr), u'\x4E2D'), u"(null) \x4E2D%");
     EXPECT_EQ(FormatString(u"%s", u"%n%s%d"), u"%n%s%d");
     const std::u16string longText(100000, u'x');
