@@ -21,7 +21,7 @@ set(floor_of_edges 9)
 set(headers_of_floor_0
     object/AddressSanitizer object/CInstanceMonitor object/CKZCriticalSection object/CKzException object/CSmartPtr object/CurrentLimit
     object/Enumerations object/Export object/FormatString object/Fwd object/IEventSink object/INillable
-    object/ItemType object/Limits object/Messages object/SupportContact object/Text object/TextScan object/Throw object/Utf8
+    object/ItemType object/Limits object/Messages object/SupportContact object/Text object/TextScan object/Throw object/UniqueNumber object/Utf8
     metadata/XmlElementType)
 set(headers_of_floor_1
     conversions/CPrimitiveRestrictions conversions/CWhitespaceUtils conversions/XsdPattern)

@@ -21,6 +21,7 @@
 #include <KzXmlLib10/object/Limits.h>
 #include <KzXmlLib10/object/Register.h>
 #include <KzXmlLib10/object/Text.h>
+#include <KzXmlLib10/object/UniqueNumber.h>
 
 #include <KzXmlLib10/conversions/CConversions.h>
 #include <KzXmlLib10/conversions/CPrimitiveRestrictions.h>

@@ -112,9 +112,9 @@ void CPrimitiveCol<Collection, T>::ToXml_Int(CXmlWriter* writer, bool, const cha
     ValidateCount(context);
     for (auto&& item : m_items) {
         if constexpr (std::is_same_v<T, std::u16string>)
-            writer->WriteLeaf(ElementName(), m_elementNamespace, item, m_itemType);
+            writer->WriteLeaf({ElementName(), m_elementNamespace}, item, m_itemType);
         else
-            WriteLeafOf(*writer, ElementName(), m_elementNamespace, m_itemType, [&] {
+            WriteLeafOf(*writer, {ElementName(), m_elementNamespace}, m_itemType, [&] {
                 if constexpr (std::is_invocable_v<decltype(toText), const T&, const std::u16string&>)
                     return toText(item, m_formatOverride);
                 else

@@ -184,13 +184,17 @@ void CFastInfosetWriter::EndElement() {
 }
 
 /// Writes an element in the namespace of its parent without a context of its own, and any other by its parts.
-void CFastInfosetWriter::WritePlainLeaf(const std::u16string& name, const std::u16string& namespaceUri,
-                                        const std::u16string& text, ItemType type) {
+void CFastInfosetWriter::WritePlainLeaf(const LeafName& name, const std::u16string& text, ItemType type) {
     if (m_pendingContext)
         FlushPendingElement(false);
-    if (!m_context || m_context->StateOfPrefix() != m_context->GetNamespaceMap().State() ||
-        !SameText(namespaceUri, m_context->m_namespaceUri))
-        return WriteLeafByParts(name, namespaceUri, text, type);
+    if (!m_context)
+        return WriteLeafByParts(name, text, type);
+    const std::uint64_t state = m_context->GetNamespaceMap().State();
+    KnownLeaf& known = m_knownLeaves[name.number % m_knownLeaves.size()];
+    const bool isKnown = known.nameNumber == name.number && known.namespaceState == state;
+    if (!isKnown &&
+        (m_context->StateOfPrefix() != state || !SameText(name.namespaceUri, m_context->m_namespaceUri)))
+        return WriteLeafByParts(name, text, type);
     if (m_pendingTerminator) {
         WriteByte(End);
         m_pendingTerminator = false;
@@ -199,12 +203,15 @@ void CFastInfosetWriter::WritePlainLeaf(const std::u16string& name, const std::u
     CloseStartTag();
     bool isNamed = false;
     try {
-        WriteElementName(0, m_context->m_prefix, namespaceUri, name, m_context->StateOfPrefix());
+        if (isKnown)
+            WriteIntegerBit3(0, known.index);
+        else
+            WriteLeafName(known, name);
         isNamed = true;
         if (!text.empty())
             WriteCharacterChunk(text, type);
     } catch (...) { // which leaves the element open, or still pending
-        m_pendingContext = CreateContext(name, namespaceUri);
+        m_pendingContext = CreateContext(name.local, name.namespaceUri);
         if (isNamed) {
             m_pendingContext->m_startTagOpen = false;
             EnterContext(std::move(m_pendingContext));
@@ -212,6 +219,15 @@ void CFastInfosetWriter::WritePlainLeaf(const std::u16string& name, const std::u
         throw;
     }
     m_pendingTerminator = true;
+}
+
+/// Writes the name of a leaf in the namespace of its parent, and remembers it once it is in its table.
+[[gnu::noinline]] void CFastInfosetWriter::WriteLeafName(KnownLeaf& known, const LeafName& name) {
+    const std::uint64_t state = m_context->StateOfPrefix();
+    WriteElementName(0, m_context->m_prefix, name.namespaceUri, name.local, state);
+    const RecentName& recent = RecentNameOf(name.local);
+    if (name.number != 0 && IsRecent(recent, m_context->m_prefix, name.namespaceUri, name.local, state))
+        known = {name.number, state, recent.index};
 }
 
 void CFastInfosetWriter::WriteAttribute(const std::u16string& name, const std::u16string& namespaceUri,
@@ -245,13 +261,24 @@ void CFastInfosetWriter::WriteXsiNil() {
     WriteAttribute(u"nil", schemaInstanceNamespace, u"true", ItemType_boolean);
 }
 
+CFastInfosetWriter::RecentName& CFastInfosetWriter::RecentNameOf(const std::u16string& localName) {
+    return m_recentNames[PlaceOf(localName) % m_recentNames.size()];
+}
+
+bool CFastInfosetWriter::IsRecent(const RecentName& recent, const std::u16string* prefix,
+                                  const std::u16string& uri, const std::u16string& localName,
+                                  std::uint64_t namespaceState) const {
+    return recent.namespaceState == namespaceState && recent.prefix == prefix &&
+           recent.hasNamespace != uri.empty() && recent.localLength == localName.size() &&
+           SameText({m_vocabulary->m_elementNameIndex.TextOf(recent.index).data(), localName.size()},
+                    localName);
+}
+
 void CFastInfosetWriter::WriteElementName(unsigned char flag, const std::u16string* prefix,
                                           const std::u16string& uri, const std::u16string& localName,
                                           std::uint64_t namespaceState) {
-    const RecentName& recent = m_recentNames[PlaceOf(localName) % m_recentNames.size()];
-    if (recent.namespaceState == namespaceState && recent.prefix == prefix &&
-        recent.hasNamespace != uri.empty() && recent.localLength == localName.size() &&
-        SameText({m_vocabulary->m_elementNameIndex.TextOf(recent.index).data(), localName.size()}, localName))
+    const RecentName& recent = RecentNameOf(localName);
+    if (IsRecent(recent, prefix, uri, localName, namespaceState))
         AppendInteger(m_stream->m_data, integerBit3, flag, recent.index);
     else
         WriteOtherElementName(flag, prefix, uri, localName, namespaceState);
@@ -266,8 +293,7 @@ void CFastInfosetWriter::WriteOtherElementName(unsigned char flag, const std::u1
     CFIVocabulary::MakeKey(shownPrefix, uri, localName, m_key);
     std::uint32_t index;
     if (CFIVocabulary::FindIndex(map, m_key, index)) {
-        m_recentNames[PlaceOf(localName) % m_recentNames.size()] = {index, namespaceState, prefix,
-                                                                    !uri.empty(), localName.size()};
+        RecentNameOf(localName) = {index, namespaceState, prefix, !uri.empty(), localName.size()};
         return WriteIntegerBit3(flag, index);
     }
     WriteQName(flag | LiteralElementName, shownPrefix, uri, localName);

@@ -40,11 +40,11 @@ bool CElementInfo::ElementToXmlPrim(const CXmlSerializationContext&, const CXmlG
         return false;
     // The facets come before the start tag, so that a bad value leaves no open element behind.
     CheckRestriction(value);
+    const CXmlWriter::LeafName name{m_elementName, m_elementNamespace, m_nameNumber.Get()};
     if (type == ItemType_string)
-        writer->WriteLeaf(m_elementName, m_elementNamespace, value.GetStringRef(), type);
+        writer->WriteLeaf(name, value.GetStringRef(), type);
     else
-        WriteLeafOf(*writer, m_elementName, m_elementNamespace, type,
-                    [&] { return value.ToString(m_formatOverride.c_str()); });
+        WriteLeafOf(*writer, name, type, [&] { return value.ToString(m_formatOverride.c_str()); });
     return true;
 }
 
@@ -58,7 +58,7 @@ bool CElementInfo::ElementToXmlEnum(const CXmlSerializationContext&, const CXmlG
     }
     if (value.GetTypeAsEnum() == ItemType_Invalid)
         return false;
-    WriteLeafOf(*writer, m_elementName, m_elementNamespace, ItemType_string,
+    WriteLeafOf(*writer, {m_elementName, m_elementNamespace, m_nameNumber.Get()}, ItemType_string,
                 [&] { return std::u16string(EmptyIfNull(enumToString(value.GetI4()))); });
     return true;
 }

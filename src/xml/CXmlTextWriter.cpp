@@ -9,7 +9,10 @@
 #include "xml/XmlNamespaces.h"
 
 #include <algorithm>
+#include <array>
 #include <cstring>
+#include <limits>
+#include <type_traits>
 #include <typeinfo>
 
 namespace KzXmlLib10 {
@@ -18,7 +21,10 @@ using namespace std::string_view_literals;
 
 namespace {
 
-constexpr std::uint32_t flushThreshold = 4096;
+/// The length from which a stream is to flush. One in memory, which has nothing to flush, is not asked.
+std::uint32_t FlushThreshold(const CTextStream& stream) {
+    return typeid(stream) == typeid(CTextStream) ? std::numeric_limits<std::uint32_t>::max() : 4096;
+}
 
 constexpr std::size_t sliceSize = 1024;
 constexpr std::size_t longestEscape = 5; // &amp;
@@ -35,21 +41,33 @@ char16_t* PutIndent(char16_t* to, std::size_t depth) {
     return end;
 }
 
-char16_t* PutUpToZero(char16_t* to, std::u16string_view text) {
-    return to + CopyUntil<StopAtZero>(to, text.data(), text.size());
-}
-
-/// Copies up to a unit that needs an escape or ends the text.
-std::size_t CopyUnescaped(char16_t* to, std::u16string_view text, bool inAttribute) {
-    return inAttribute ? CopyUntil<StopInAttribute>(to, text.data(), text.size())
-                       : CopyUntil<StopInContent>(to, text.data(), text.size());
+/// The room for it has unitsAtOnce more units than the text.
+char16_t* PutUpToZero(char16_t* to, const std::u16string& text) {
+    return to + CopyStringUntil<StopAtZero>(to, text);
 }
 
 } // namespace
 
+/// What a leaf is called in one namespace state, as it stands in both of its tags: a prefix, the name, and
+/// the bracket behind it.
+struct CXmlTextWriter::LeafTag {
+    static constexpr std::size_t room = 48;
+
+    std::uint64_t nameNumber = 0;
+    std::uint64_t namespaceState = 0;
+    std::size_t size;
+    char16_t units[room + unitsAtOnce];
+};
+
+/// Each at a place that the number of its name tells.
+struct CXmlTextWriter::LeafTags {
+    std::array<LeafTag, 64> tags;
+};
+
 CXmlTextWriter::CXmlTextWriter(CTextStream* stream)
     : CXmlWriter(typeid(CXmlTextWriter), static_cast<LeafOperation>(&CXmlTextWriter::WritePlainLeaf)),
-      m_stream(NotNull(stream, u"stream")) {
+      m_stream(NotNull(stream, u"stream")), m_flushThreshold(FlushThreshold(*stream)),
+      m_leafTags(std::make_unique_for_overwrite<LeafTags>()) {
     m_stream->Open();
 }
 
@@ -87,9 +105,64 @@ void CXmlTextWriter::WriteDeclaration() {
     FlushIfFull();
 }
 
+template <class Stops>
+void CXmlTextWriter::WriteEscaped(const std::u16string& text) {
+    if (text.size() > sliceSize)
+        return WriteEscapedRest<Stops>(text);
+    char16_t* const to = Buffer().Reserve(text.size() + unitsAtOnce);
+    const std::size_t copied = CopyStringUntil<Stops>(to, text);
+    Buffer().Commit(to + copied);
+    if (copied < text.size())
+        WriteEscapedRest<Stops>(std::u16string_view(text).substr(copied));
+}
+
+/// Copies the runs between the units that need an escape, and takes a long text by slices.
+template <class Stops>
+void CXmlTextWriter::WriteEscapedRest(std::u16string_view text) {
+    while (!text.empty()) {
+        const std::u16string_view head = text.substr(0, sliceSize);
+        char16_t* const to = Buffer().Reserve(head.size());
+        const std::size_t copied = CopyUntil<Stops>(to, head);
+        Buffer().Commit(to + copied);
+        text.remove_prefix(copied);
+        if (copied == head.size())
+            continue;
+        if (text.front() == u'\0')
+            return;
+        WriteEscape<Stops>(text.front());
+        text.remove_prefix(1);
+    }
+}
+
+template <class Stops>
+void CXmlTextWriter::WriteEscape(char16_t unit) {
+    switch (unit) {
+    case u'\n':
+        if (std::is_same_v<Stops, StopInAttribute>)
+            Buffer().Append(u"&#xA;"sv);
+        else
+            WriteLineFeed();
+        break;
+    case u'\r':
+        break; // Deliberate: a carriage return never survives.
+    case u'"':
+        Buffer().Append(u"&quot;"sv);
+        break;
+    case u'&':
+        Buffer().Append(u"&amp;"sv);
+        break;
+    case u'<':
+        Buffer().Append(u"&lt;"sv);
+        break;
+    case u'>':
+        Buffer().Append(u"&gt;"sv);
+        break;
+    }
+}
+
 void CXmlTextWriter::WriteComment(const std::u16string& text) {
     Buffer().Append(u"<!--"sv);
-    WriteEscaped(text, false); // Deliberate: a double hyphen is not looked at.
+    WriteEscaped<StopInContent>(text); // Deliberate: a double hyphen is not looked at.
     Buffer().Append(u"-->"sv);
     Buffer().Append(m_eol);
     FlushIfFull();
@@ -111,8 +184,12 @@ void CXmlTextWriter::WriteInlineSchema(const std::u16string& text) {
 }
 
 void CXmlTextWriter::CloseStartTag() {
-    if (m_context)
+    if (!m_context)
+        return;
+    if (m_context->m_startTagOpen)
         Buffer().Commit(PutStartTagEnd(Buffer().Reserve(1 + m_eol.size())));
+    else
+        m_context->CountChild();
 }
 
 /// Counts a child of the current element, and writes the end of its start tag unless that is done.
@@ -134,8 +211,7 @@ void CXmlTextWriter::StartElement(const std::u16string& name, const std::u16stri
     char16_t* to = Buffer().Reserve(IndentRoom(depth) + PrefixRoom(prefix.prefix) + name.size() + 1);
     to = PutIndent(to, depth);
     *to++ = u'<';
-    to = PutPrefix(to, prefix.prefix);
-    Buffer().Commit(to + CopyUntil<StopAtZero>(to, name.data(), name.size()));
+    Buffer().Commit(PutUpToZero(PutPrefix(to, prefix.prefix), name));
     if (prefix.isNew) {
         Buffer().AppendChar(u' ');
         WriteNamespace(*prefix.prefix, namespaceUri);
@@ -158,7 +234,7 @@ void CXmlTextWriter::WriteText(const std::u16string& text, ItemType) {
     if (text.starts_with(u"<![CDATA["sv))
         AppendUpToZero(text);
     else
-        WriteEscaped(text, false);
+        WriteEscaped<StopInContent>(text);
     FlushIfFull();
 }
 
@@ -188,55 +264,69 @@ void CXmlTextWriter::WriteEndTag(CXmlWriterContext& context) {
     to = PutIndent(to, depth);
     *to++ = u'<';
     *to++ = u'/';
-    to = PutPrefix(to, context.m_prefix);
-    to += CopyUntil<StopAtZero>(to, name.data(), name.size());
+    to = PutUpToZero(PutPrefix(to, context.m_prefix), name);
     *to++ = u'>';
     Buffer().Commit(PutEol(to));
 }
 
-/// Whether a stream would see a flush on the way to so many more characters. A stream in memory has nothing
-/// to flush.
+/// Whether a stream would see a flush on the way to so many more characters.
 bool CXmlTextWriter::WouldFlush(std::size_t count) const {
-    return Buffer().GetLength() + count >= flushThreshold && typeid(*m_stream) != typeid(CTextStream);
+    return Buffer().GetLength() + count >= m_flushThreshold;
 }
 
-/// Writes an element in the namespace of its parent at one go, where nobody could tell the difference, and
-/// any other by its parts.
-void CXmlTextWriter::WritePlainLeaf(const std::u16string& name, const std::u16string& namespaceUri,
-                                    const std::u16string& text, ItemType type) {
-    const std::size_t size = text.size();
-    if (!m_context || size == 0 || size > sliceSize || text.front() == u'<' ||
-        m_context->StateOfPrefix() != m_context->GetNamespaceMap().State() ||
-        !SameText(namespaceUri, m_context->m_namespaceUri))
-        return WriteLeafByParts(name, namespaceUri, text, type);
+/// The tag of a leaf, or null if it can only be written by its parts.
+inline const CXmlTextWriter::LeafTag* CXmlTextWriter::FindLeafTag(const LeafName& name) {
+    LeafTag& tag = m_leafTags->tags[name.number % std::tuple_size_v<decltype(m_leafTags->tags)>];
+    return tag.nameNumber == name.number && tag.namespaceState == m_context->GetNamespaceMap().State()
+               ? &tag
+               : MakeLeafTag(tag, name);
+}
+
+/// Only the namespace of the parent is sure to need no declaration.
+[[gnu::noinline]] const CXmlTextWriter::LeafTag* CXmlTextWriter::MakeLeafTag(LeafTag& tag,
+                                                                             const LeafName& name) {
     const std::u16string* const prefix = m_context->m_prefix;
+    if (!m_context->IsPrefixKnown() || !SameText(name.namespaceUri, m_context->m_namespaceUri) ||
+        PrefixRoom(prefix) + name.local.size() >= LeafTag::room)
+        return nullptr;
+    char16_t* const end = PutUpToZero(PutPrefix(tag.units, prefix), name.local);
+    *end = u'>';
+    tag.size = static_cast<std::size_t>(end + 1 - tag.units);
+    tag.nameNumber = name.number;
+    tag.namespaceState = name.number ? m_context->StateOfPrefix() : 0;
+    return &tag;
+}
+
+/// Writes an element at one go where nobody could tell the difference, and any other by its parts.
+void CXmlTextWriter::WritePlainLeaf(const LeafName& name, const std::u16string& text, ItemType type) {
+    const std::size_t size = text.size();
+    if (!m_context || size == 0 || size > sliceSize || text.front() == u'<')
+        return WriteLeafByParts(name, text, type);
+    const LeafTag* const tag = FindLeafTag(name);
+    if (!tag)
+        return WriteLeafByParts(name, text, type);
     const std::size_t depth = m_formatted ? static_cast<std::size_t>(m_context->m_depth) + 1 : 0;
     constexpr std::size_t marksRoom = 16; // brackets and line ends
-    const std::size_t endRoom = PrefixRoom(prefix) + name.size() + marksRoom + unitsAtOnce;
+    const std::size_t endRoom = tag->size + marksRoom + unitsAtOnce;
     const std::size_t room = IndentRoom(depth) + size + 2 * endRoom;
     if (WouldFlush(room + (longestEscape - 1) * size))
-        return WriteLeafByParts(name, namespaceUri, text, type);
+        return WriteLeafByParts(name, text, type);
 
     CStringBuffer& buffer = Buffer();
     char16_t* to = PutStartTagEnd(buffer.Reserve(room));
     to = PutIndent(to, depth);
     *to++ = u'<';
-    const char16_t* const tag = to;
-    to = PutPrefix(to, prefix);
-    to += CopyUntil<StopAtZero>(to, name.data(), name.size());
-    const auto tagSize = static_cast<std::size_t>(to - tag);
-    *to++ = u'>';
-    const std::size_t copied = CopyUntil<StopInContent>(to, text.data(), size);
+    to = PutBlocks(to, tag->units, tag->size);
+    const std::size_t copied = CopyStringUntil<StopInContent>(to, text);
     to += copied;
     if (copied < size) {
         buffer.Commit(to);
-        WriteEscaped(std::u16string_view(text).substr(copied), false);
+        WriteEscapedRest<StopInContent>(std::u16string_view(text).substr(copied));
         to = buffer.Reserve(endRoom);
     }
     *to++ = u'<';
     *to++ = u'/';
-    to = PutBlocks(to, tag, tagSize);
-    *to++ = u'>';
+    to = PutBlocks(to, tag->units, tag->size);
     if (m_formatted) { // one or two units; behind the only one stands a zero
         std::memcpy(to, m_eol.data(), 2 * sizeof *to);
         to += m_eol.size();
@@ -259,7 +349,7 @@ void CXmlTextWriter::WriteAttribute(const std::u16string& name, const std::u16st
     }
     AppendUpToZero(name);
     Buffer().Append(u"=\""sv);
-    WriteEscaped(value, true);
+    WriteEscaped<StopInAttribute>(value);
     Buffer().AppendChar(u'"');
     FlushIfFull();
 }
@@ -285,48 +375,6 @@ void CXmlTextWriter::WriteXsiType(const std::u16string& namespaceUri, const std:
 void CXmlTextWriter::WriteXsiNil() {
     RequireOpenStartTag();
     WriteAttribute(u"nil", schemaInstanceNamespace, u"true", ItemType_boolean);
-}
-
-/// Copies the runs between the units that need an escape, and takes a long text by slices.
-void CXmlTextWriter::WriteEscaped(std::u16string_view text, bool inAttribute) {
-    while (!text.empty()) {
-        const std::u16string_view head = text.substr(0, sliceSize);
-        char16_t* const to = Buffer().Reserve(head.size());
-        const std::size_t copied = CopyUnescaped(to, head, inAttribute);
-        Buffer().Commit(to + copied);
-        text.remove_prefix(copied);
-        if (copied == head.size())
-            continue;
-        if (text.front() == u'\0')
-            return;
-        WriteEscape(text.front(), inAttribute);
-        text.remove_prefix(1);
-    }
-}
-
-void CXmlTextWriter::WriteEscape(char16_t unit, bool inAttribute) {
-    switch (unit) {
-    case u'\n':
-        if (inAttribute)
-            Buffer().Append(u"&#xA;"sv);
-        else
-            WriteLineFeed();
-        break;
-    case u'\r':
-        break; // Deliberate: a carriage return never survives.
-    case u'"':
-        Buffer().Append(u"&quot;"sv);
-        break;
-    case u'&':
-        Buffer().Append(u"&amp;"sv);
-        break;
-    case u'<':
-        Buffer().Append(u"&lt;"sv);
-        break;
-    case u'>':
-        Buffer().Append(u"&gt;"sv);
-        break;
-    }
 }
 
 void CXmlTextWriter::WriteLineFeed() {
@@ -359,8 +407,8 @@ char16_t* CXmlTextWriter::PutEol(char16_t* to) const {
     return to;
 }
 
-void CXmlTextWriter::AppendUpToZero(std::u16string_view text) {
-    Buffer().Commit(PutUpToZero(Buffer().Reserve(text.size()), text));
+void CXmlTextWriter::AppendUpToZero(const std::u16string& text) {
+    Buffer().Commit(PutUpToZero(Buffer().Reserve(text.size() + unitsAtOnce), text));
 }
 
 /// Deliberate: the URI is not escaped.
@@ -387,7 +435,7 @@ void CXmlTextWriter::WriteRootNamespaces() {
 }
 
 void CXmlTextWriter::FlushIfFull() {
-    if (Buffer().GetLength() >= flushThreshold)
+    if (Buffer().GetLength() >= m_flushThreshold)
         m_stream->Flush();
 }
 

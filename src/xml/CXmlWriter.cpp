@@ -38,17 +38,8 @@ void CXmlWriter::AddNamespace(const std::u16string& alias, const std::u16string&
         m_namespaces[uri] = alias;
 }
 
-void CXmlWriter::WriteLeaf(const std::u16string& name, const std::u16string& namespaceUri,
-                           const std::u16string& text, ItemType type) {
-    if (m_leafClass == &typeid(*this)) // a class whose information is elsewhere too would only be slower
-        (this->*m_writeLeaf)(name, namespaceUri, text, type);
-    else
-        WriteLeafByParts(name, namespaceUri, text, type);
-}
-
-void CXmlWriter::WriteLeafByParts(const std::u16string& name, const std::u16string& namespaceUri,
-                                  const std::u16string& text, ItemType type) {
-    StartElement(name, namespaceUri);
+void CXmlWriter::WriteLeafByParts(const LeafName& name, const std::u16string& text, ItemType type) {
+    StartElement(name.local, name.namespaceUri);
     WriteText(text, type);
     EndElement();
 }

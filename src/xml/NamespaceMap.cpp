@@ -1,7 +1,6 @@
 #include "xml/NamespaceMap.h"
 
 #include <algorithm>
-#include <atomic>
 #include <optional>
 
 namespace KzXmlLib10 {
@@ -16,11 +15,6 @@ std::optional<std::uint32_t> GeneratedPrefixNumber(const std::u16string& prefix)
 }
 
 } // namespace
-
-std::uint64_t NamespaceMap::NextState() {
-    static std::atomic<std::uint64_t> last = 0;
-    return last.fetch_add(1, std::memory_order_relaxed) + 1;
-}
 
 void NamespaceMap::Set(const std::u16string& uri, const std::u16string& prefix) {
     if (const std::u16string* old = Find(uri)) {

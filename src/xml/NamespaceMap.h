@@ -3,6 +3,8 @@
 #include "object/TextScan.h"
 #include "xml/PersistentMap.h"
 
+#include <KzXmlLib10/object/UniqueNumber.h>
+
 #include <cstdint>
 #include <string>
 
@@ -37,9 +39,9 @@ public:
     const std::u16string& DefaultNamespace() const { return m_defaultNamespace; }
 
     /// A number that no other state of any map has, so that what was found in a state can be kept with it.
-    std::uint64_t State() const { return m_state; }
+    std::uint64_t State() const { return m_state.Get(); }
     /// To be called when the default namespace changes. Setting a prefix does so itself.
-    void BeginState() { m_state = NextState(); }
+    void BeginState() { m_state.Renew(); }
 
     /// The prefix of a namespace, or null. Valid until the prefix of this namespace changes.
     const std::u16string* Find(const std::u16string& uri) const { return m_prefixes.Find(uri); }
@@ -51,14 +53,13 @@ public:
     std::uint32_t FirstFreePrefix() const { return m_firstFree; }
 
 private:
-    static std::uint64_t NextState();
     void CountUse(const std::u16string& prefix, int change);
 
     const std::u16string& m_defaultNamespace;
     PersistentMap<std::u16string, std::u16string, ByLengthThenBytes> m_prefixes;
     PersistentMap<std::uint32_t, std::uint32_t> m_uses; // how many namespaces have the n-th generated prefix
     std::uint32_t m_firstFree = 0;
-    std::uint64_t m_state = NextState();
+    UniqueNumber m_state;
 };
 
 } // namespace KzXmlLib10

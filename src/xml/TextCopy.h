@@ -4,6 +4,8 @@
 #include <cstddef>
 #include <cstdint>
 #include <cstring>
+#include <string>
+#include <string_view>
 
 #ifdef __SSE2__
 #    include <emmintrin.h>
@@ -18,16 +20,9 @@ namespace detail {
 
 typedef std::uint16_t EightUnits __attribute__((vector_size(unitsAtOnce * sizeof(char16_t))));
 
-template <class Units>
-Units LoadUnits(const char16_t* from) {
-    Units units;
+inline EightUnits CopyUnits(char16_t* to, const char16_t* from) {
+    EightUnits units;
     std::memcpy(&units, from, sizeof units);
-    return units;
-}
-
-template <class Units>
-Units CopyUnits(char16_t* to, const char16_t* from) {
-    const Units units = LoadUnits<Units>(from);
     std::memcpy(to, &units, sizeof units);
     return units;
 }
@@ -47,25 +42,15 @@ bool Any(Mask mask) {
 #endif
 }
 
-inline EightUnits TwoWords(std::uint64_t low, std::uint64_t high) {
-    typedef std::uint64_t Words __attribute__((vector_size(16)));
-    return reinterpret_cast<EightUnits>(Words{low, high});
-}
-
-/// Copies fewer than eight units, at least one. False if there may be a stop among them.
-template <class Stops>
-bool CopyFew(char16_t* to, const char16_t* from, std::size_t size) {
-    if (size >= 4) { // two words that may overlap
-        const auto head = CopyUnits<std::uint64_t>(to, from);
-        const auto tail = CopyUnits<std::uint64_t>(to + size - 4, from + size - 4);
-        return !Any(Stops::Among(TwoWords(head, tail)));
-    }
-    const char16_t units[]{from[0], from[size / 2], from[size - 1], from[0]};
-    to[0] = units[0];
-    to[size / 2] = units[1];
-    to[size - 1] = units[2];
-    const auto word = LoadUnits<std::uint64_t>(units);
-    return !Any(Stops::Among(TwoWords(word, word)));
+/// A mask of the first units of eight.
+inline EightUnits FirstUnits(std::size_t count) {
+    static constexpr auto none = std::uint16_t{0};
+    static constexpr auto all = static_cast<std::uint16_t>(~0);
+    static constexpr std::uint16_t masks[] = {all,  all,  all,  all,  all,  all,  all,  all,
+                                              none, none, none, none, none, none, none, none};
+    EightUnits mask;
+    std::memcpy(&mask, masks + unitsAtOnce - count, sizeof mask);
+    return mask;
 }
 
 } // namespace detail
@@ -99,29 +84,41 @@ struct StopInAttribute {
 };
 
 /// Copies a text up to its end or to the first stop. Returns how many units it copied; what `to` has behind
-/// them, up to the size, is of no use. Inline, since the texts of documents are short.
+/// them, up to the size, is of no use.
 template <class Stops>
-inline std::size_t CopyUntil(char16_t* to, const char16_t* from, std::size_t size) {
+std::size_t CopyUntil(char16_t* to, std::u16string_view text) {
+    const char16_t* const from = text.data();
+    const std::size_t size = text.size();
     std::size_t at = 0;
     if (size >= unitsAtOnce) {
         // By blocks, the last two of which may overlap, until one has a stop in it.
-        while (!detail::Any(Stops::Among(detail::CopyUnits<detail::EightUnits>(to + at, from + at)))) {
+        while (!detail::Any(Stops::Among(detail::CopyUnits(to + at, from + at)))) {
             if (at + unitsAtOnce >= size)
                 return size;
             at = std::min(at + unitsAtOnce, size - unitsAtOnce);
         }
-    } else if (size == 0 || detail::CopyFew<Stops>(to, from, size)) {
-        return size;
     }
     for (; at < size && !Stops::Is(from[at]); ++at)
         to[at] = from[at];
     return at;
 }
 
+/// The same for a string, of which it reads and writes eight units at least: a string has room for them in
+/// itself. Inline, since the texts of documents are short.
+template <class Stops>
+inline std::size_t CopyStringUntil(char16_t* to, const std::u16string& text) {
+    static_assert(std::u16string().capacity() + 1 >= unitsAtOnce);
+    const std::size_t size = text.size();
+    if (size < unitsAtOnce &&
+        !detail::Any(Stops::Among(detail::CopyUnits(to, text.data())) & detail::FirstUnits(size)))
+        return size;
+    return CopyUntil<Stops>(to, text);
+}
+
 /// Copies a text by whole blocks: fewer than unitsAtOnce units more are read and written than it has.
 inline char16_t* PutBlocks(char16_t* to, const char16_t* from, std::size_t size) {
     for (std::size_t at = 0; at < size; at += unitsAtOnce)
-        detail::CopyUnits<detail::EightUnits>(to + at, from + at);
+        detail::CopyUnits(to + at, from + at);
     return to + size;
 }
 

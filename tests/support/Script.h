@@ -16,7 +16,7 @@ void RunScript(CXmlWriter& writer, const std::string& words);
 inline void WriteLeaf(CXmlWriter& writer, bool atOnce, const std::u16string& name, const char16_t* uri,
                       const std::u16string& text) {
     if (atOnce)
-        return writer.WriteLeaf(name, uri, text, ItemType_string);
+        return writer.WriteLeaf({name, uri}, text, ItemType_string);
     writer.StartElement(name, uri);
     writer.WriteText(text, ItemType_string);
     writer.EndElement();

@@ -70,8 +70,18 @@ private:
         std::size_t localLength = 0;
     };
 
-    void WritePlainLeaf(const std::u16string& name, const std::u16string& namespaceUri,
-                        const std::u16string& text, ItemType type);
+    /// The name of a leaf that was found in its table.
+    struct KnownLeaf {
+        std::uint64_t nameNumber = 0;
+        std::uint64_t namespaceState = 0;
+        std::uint32_t index = 0;
+    };
+
+    void WritePlainLeaf(const LeafName& name, const std::u16string& text, ItemType type);
+    void WriteLeafName(KnownLeaf& known, const LeafName& name);
+    RecentName& RecentNameOf(const std::u16string& localName);
+    bool IsRecent(const RecentName& recent, const std::u16string* prefix, const std::u16string& uri,
+                  const std::u16string& localName, std::uint64_t namespaceState) const;
 
     void WriteHeader(FInfoDecl declaration);
     void WriteDocumentEnd();
@@ -122,6 +132,8 @@ private:
     std::unique_ptr<CFIVocabulary> m_vocabulary;
     /// Each at a place that its local name tells: nearly all elements have a name that was there before.
     std::array<RecentName, 128> m_recentNames;
+    /// Each at a place that the number of its name tells.
+    std::array<KnownLeaf, 64> m_knownLeaves;
     std::u16string m_key; ///< of the name that is looked up, kept for its memory
     /// The bytes of the string that is being written, kept for their memory.
     std::string m_octets;

@@ -2,6 +2,7 @@
 
 #include <KzXmlLib10/metadata/Names.h>
 #include <KzXmlLib10/metadata/XmlElementType.h>
+#include <KzXmlLib10/object/UniqueNumber.h>
 
 #include <cstdint>
 #include <string>
@@ -155,6 +156,8 @@ protected:
     bool m_isPrimitive;
 
 private:
+    KzXmlLib10::UniqueNumber m_nameNumber; ///< by which a writer knows the name again
+
     bool IsNil(const CXmlElement& element) const;
     bool StoreAndAdvance(CXmlGeneratedClass* object, KzVariant& value, CXmlElement** current);
 };

@@ -4,6 +4,8 @@
 #include <KzXmlLib10/xml/CTextStream.h>
 #include <KzXmlLib10/xml/CXmlWriter.h>
 
+#include <cstdint>
+#include <memory>
 #include <string>
 #include <string_view>
 
@@ -72,12 +74,20 @@ public:
     void CloseStartTag();
 
 private:
-    void WritePlainLeaf(const std::u16string& name, const std::u16string& namespaceUri,
-                        const std::u16string& text, ItemType type);
+    struct LeafTag;
+    struct LeafTags;
+
+    void WritePlainLeaf(const LeafName& name, const std::u16string& text, ItemType type);
+    const LeafTag* FindLeafTag(const LeafName& name);
+    const LeafTag* MakeLeafTag(LeafTag& tag, const LeafName& name);
     bool WouldFlush(std::size_t count) const;
     CStringBuffer& Buffer() const { return m_stream->GetBuffer(); }
-    void WriteEscaped(std::u16string_view text, bool inAttribute);
-    void WriteEscape(char16_t unit, bool inAttribute);
+    template <class Stops>
+    void WriteEscaped(const std::u16string& text);
+    template <class Stops>
+    void WriteEscapedRest(std::u16string_view text);
+    template <class Stops>
+    void WriteEscape(char16_t unit);
     void WriteLineFeed();
     void WriteEndTag(CXmlWriterContext& context);
     std::size_t IndentDepth(const CXmlWriterContext& context) const;
@@ -85,7 +95,7 @@ private:
     static char16_t* PutPrefix(char16_t* to, const std::u16string* prefix);
     char16_t* PutEol(char16_t* to) const;
     char16_t* PutStartTagEnd(char16_t* to);
-    void AppendUpToZero(std::u16string_view text);
+    void AppendUpToZero(const std::u16string& text);
     void WriteNamespace(const std::u16string& prefix, const std::u16string& uri);
     void WriteRootNamespaces();
     void FlushIfFull();
@@ -95,6 +105,10 @@ protected:
     EOLType m_eolType = EOLType_LF;
     bool m_formatted = true;
     CTextStream* m_stream;
+
+private:
+    std::uint32_t m_flushThreshold;
+    std::unique_ptr<LeafTags> m_leafTags;
 };
 
 } // namespace KzXmlLib10

@@ -67,10 +67,21 @@ public:
     /// Writes xsi:nil="true". Fails as WriteAttribute does.
     virtual void WriteXsiNil() = 0;
 
+    /// The name of an element.
+    struct LeafName {
+        const std::u16string& local;
+        const std::u16string& namespaceUri;
+        /// Tells the name from every other one, at any time, so that the writer knows it again; 0 does not.
+        std::uint64_t number = 0;
+    };
     /// Writes an element that holds a text, or nothing if that is empty: what StartElement, WriteText and
     /// EndElement do, which a derived writer sees being called, and quicker for the writers of this library.
-    void WriteLeaf(const std::u16string& name, const std::u16string& namespaceUri, const std::u16string& text,
-                   ItemType type);
+    void WriteLeaf(const LeafName& name, const std::u16string& text, ItemType type) {
+        if (m_leafClass == &typeid(*this)) // a class whose information is elsewhere too would only be slower
+            (this->*m_writeLeaf)(name, text, type);
+        else
+            WriteLeafByParts(name, text, type);
+    }
 
     /// A namespace as a string, which the writer keeps until the next call, to spare an allocation for each
     /// element.
@@ -150,8 +161,8 @@ protected:
     };
 
     /// Writes a leaf at one go, or by its parts if it is not made for this one.
-    using LeafOperation = void (CXmlWriter::*)(const std::u16string& name, const std::u16string& namespaceUri,
-                                               const std::u16string& text, ItemType type);
+    using LeafOperation = void (CXmlWriter::*)(const LeafName& name, const std::u16string& text,
+                                               ItemType type);
 
     /// For a writer whose leaves WriteLeaf can write at one go. It does not in a class derived from
     /// `writerClass`, which may override what it stands for.
@@ -213,8 +224,7 @@ protected:
     std::map<std::u16string, std::u16string> m_namespaces;
 
     /// What WriteLeaf stands for.
-    void WriteLeafByParts(const std::u16string& name, const std::u16string& namespaceUri,
-                          const std::u16string& text, ItemType type);
+    void WriteLeafByParts(const LeafName& name, const std::u16string& text, ItemType type);
 
 private:
     std::unique_ptr<CXmlWriterContext> MakeContext(const std::u16string& name,
