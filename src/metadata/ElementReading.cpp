@@ -29,12 +29,7 @@ namespace {
            (SameText(element->GetNamespaceURI(), namespaceUri) || context.GetIgnoreNamespaces());
 }
 
-CSmartPtr<CXmlObjectBase> ObjectIn(const KzVariant& value) {
-    return value.GetTypeAsEnum() == ItemType_Invalid ? nullptr : value.GetXmlObject();
-}
-
-CSmartPtr<CXmlObjectBase> RequireObjectIn(const KzVariant& value, const std::u16string& elementName) {
-    CSmartPtr<CXmlObjectBase> object = ObjectIn(value);
+CXmlObjectBase* Required(CXmlObjectBase* object, const std::u16string& elementName) {
     if (!object)
         Throw<CKzInvalidStateException>(messages::MandatoryMemberIsNull, elementName);
     return object;
@@ -119,28 +114,29 @@ void CElementInfo::StoreObject(CXmlGeneratedClass* object, CXmlObjectBase* child
     AccessProperty(object, false, value);
 }
 
-CSmartPtr<CXmlObjectBase> CElementInfo::ReadObject(const CXmlGeneratedClass* object) const {
-    KzVariant value;
+CXmlObjectBase* CElementInfo::ReadObject(const CXmlGeneratedClass* object, KzVariant& value) const {
     ReadProperty(object, value);
-    return ObjectIn(value);
+    return value.GetTypeAsEnum() == ItemType_Invalid ? nullptr : value.PeekXmlObject();
+}
+
+CXmlCollectionBase& CElementInfo::ReadCollection(const CXmlGeneratedClass* object, KzVariant& value) const {
+    CXmlObjectBase* const held = Required(ReadObject(object, value), m_elementName);
+    if (value.GetTypeAsEnum() == ItemType_xmlCollection) // needs no look at the class
+        return static_cast<CXmlCollectionBase&>(*held);
+    auto* const collection = dynamic_cast<CXmlCollectionBase*>(held);
+    if (!collection)
+        Throw<CKzInvalidStateException>(messages::NotACollection, m_elementName);
+    return *collection;
 }
 
 CSmartPtr<CXmlObjectBase> CElementInfo::HeldObject(const CXmlGeneratedClass* object) const {
     KzVariant value;
-    ReadProperty(object, value);
-    return RequireObjectIn(value, m_elementName);
+    return Required(ReadObject(object, value), m_elementName);
 }
 
 CSmartPtr<CXmlCollectionBase> CElementInfo::HeldCollection(const CXmlGeneratedClass* object) const {
     KzVariant value;
-    ReadProperty(object, value);
-    const CSmartPtr<CXmlObjectBase> held = RequireObjectIn(value, m_elementName);
-    if (value.GetTypeAsEnum() == ItemType_xmlCollection) // needs no look at the class
-        return value.GetXmlCollection();
-    auto* collection = dynamic_cast<CXmlCollectionBase*>(static_cast<CXmlObjectBase*>(held));
-    if (!collection)
-        Throw<CKzInvalidStateException>(messages::NotACollection, m_elementName);
-    return collection;
+    return &ReadCollection(object, value);
 }
 
 CXmlElement* CElementInfo::ReadRun(const CXmlSerializationContext& context, CXmlCollectionBase* collection,

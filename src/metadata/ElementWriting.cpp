@@ -29,7 +29,7 @@ void WriteNil(CXmlWriter* writer, const std::u16string& name, const std::u16stri
 bool CElementInfo::ElementToXmlPrim(const CXmlSerializationContext&, const CXmlGeneratedClass* object,
                                     CXmlWriter* writer) const {
     KzVariant value;
-    ReadProperty(object, value);
+    object->ReadProperty(m_propertyIndex, value);
     if (value.IsNil()) {
         WriteNil(writer, m_elementName, m_elementNamespace);
         return true;
@@ -44,14 +44,14 @@ bool CElementInfo::ElementToXmlPrim(const CXmlSerializationContext&, const CXmlG
     if (type == ItemType_string)
         writer->WriteLeaf(name, value.GetStringRef(), type);
     else
-        WriteLeafOf(*writer, name, type, [&] { return value.ToString(m_formatOverride.c_str()); });
+        WriteLeafOf(*writer, name, type, [&] { return value.ToText(m_formatOverride); });
     return true;
 }
 
 bool CElementInfo::ElementToXmlEnum(const CXmlSerializationContext&, const CXmlGeneratedClass* object,
                                     CXmlWriter* writer, EnumToString enumToString) const {
     KzVariant value;
-    ReadProperty(object, value);
+    object->ReadProperty(m_propertyIndex, value);
     if (value.IsNil()) {
         WriteNil(writer, m_elementName, m_elementNamespace);
         return true;
@@ -65,29 +65,32 @@ bool CElementInfo::ElementToXmlEnum(const CXmlSerializationContext&, const CXmlG
 
 bool CElementInfo::ElementToXmlCls(const CXmlSerializationContext& context, const CXmlGeneratedClass* object,
                                    CXmlWriter* writer, bool isOptional) const {
-    const CSmartPtr<CXmlObjectBase> child = ReadObject(object);
+    KzVariant value;
+    const CXmlObjectBase* const child = ReadObject(object, value);
     if (!child)
         return false;
     // The object writes its own element name, which its constructor or its reading gave it.
-    static_cast<const CXmlObjectBase&>(*child).ToXml_Int(writer, false, m_elementNamespace.c_str(), context,
-                                                         isOptional);
+    child->ToXml_Int(writer, false, m_elementNamespace.c_str(), context, isOptional);
     return true;
 }
 
 bool CElementInfo::ElementToXmlCol(const CXmlSerializationContext& context, const CXmlGeneratedClass* object,
                                    CXmlWriter* writer) const {
-    const CSmartPtr<CXmlCollectionBase> collection = HeldCollection(object);
-    if (collection->GetCount() < 1)
+    KzVariant value;
+    CXmlCollectionBase& collection = ReadCollection(object, value);
+    if (collection.GetCount() < 1)
         return false;
-    const CXmlObjectBase* base = collection->GetBase();
+    const CXmlObjectBase* base = collection.GetBase();
     base->ToXml_Int(writer, false, m_elementNamespace.c_str(), context, false);
     return true;
 }
 
 bool CElementInfo::CheckedElementToXmlCol(const CXmlSerializationContext& context,
                                           const CXmlGeneratedClass* object, CXmlWriter* writer) const {
-    if (!context.GetIgnoreInvalidCollectionCounts())
-        HeldCollection(object)->ValidateCount(context);
+    if (!context.GetIgnoreInvalidCollectionCounts()) {
+        KzVariant value;
+        ReadCollection(object, value).ValidateCount(context);
+    }
     return ElementToXmlCol(context, object, writer);
 }
 
@@ -103,7 +106,8 @@ void CElementInfo::PseudoAttributesToXml(const CXmlSerializationContext& context
                                          XmlElementType elementType) const {
     if (elementType != XmlElementType_Pseudo)
         return;
-    if (const CSmartPtr<CXmlObjectBase> child = ReadObject(object))
+    KzVariant value;
+    if (const CXmlObjectBase* const child = ReadObject(object, value))
         AttributesToXml_Int(child, writer, context);
 }
 

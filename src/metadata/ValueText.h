@@ -6,11 +6,11 @@
 
 namespace KzXmlLib10Data {
 
-/// What KzVariant::ToString gives, without a copy where the value is a text. The variant must outlive it.
+/// What KzVariant::ToText gives, without a copy where the value is a text. The variant must outlive it.
 class ValueText {
 public:
     ValueText(const KzXmlLib10::KzVariant& value, const std::u16string& format)
-        : m_made(IsText(value) ? std::u16string() : value.ToString(format.c_str())),
+        : m_made(IsText(value) ? std::u16string() : value.ToText(format)),
           m_text(IsText(value) ? value.GetStringRef() : m_made) {}
     ValueText(const ValueText&) = delete;
     ValueText& operator=(const ValueText&) = delete;

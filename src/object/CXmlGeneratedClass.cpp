@@ -20,11 +20,6 @@ CXmlGeneratedClass::CXmlGeneratedClass(const CXmlGeneratedClass& other) = defaul
 CXmlGeneratedClass& CXmlGeneratedClass::operator=(const CXmlGeneratedClass& other) = default;
 CXmlGeneratedClass::~CXmlGeneratedClass() = default;
 
-void CXmlGeneratedClass::ReadProperty(int propertyIndex, KzVariant& value) const {
-    // Reading a property changes nothing, but one operation both reads and stores.
-    const_cast<CXmlGeneratedClass*>(this)->AccessProperty(propertyIndex, true, value);
-}
-
 bool CXmlGeneratedClass::IsElementInList(const CXmlSerializationContext& context,
                                          CXmlElement* element) const {
     if (!element)

@@ -20,6 +20,8 @@ namespace KzXmlLib10 {
 
 using namespace KzXmlLib10Data;
 
+// The steps are inline, since each stands in one place.
+
 void CXmlGeneratedClass::ToXml_Int(CXmlWriter* writer, bool isRoot, const char16_t* elementNamespace,
                                    const CXmlSerializationContext& context, bool isOptional) const {
     try {
@@ -30,8 +32,8 @@ void CXmlGeneratedClass::ToXml_Int(CXmlWriter* writer, bool isRoot, const char16
     }
 }
 
-void CXmlGeneratedClass::WriteObject(CXmlWriter* writer, bool isRoot, const char16_t* elementNamespace,
-                                     const CXmlSerializationContext& context, bool isOptional) const {
+inline void CXmlGeneratedClass::WriteObject(CXmlWriter* writer, bool isRoot, const char16_t* elementNamespace,
+                                            const CXmlSerializationContext& context, bool isOptional) const {
     const CParentElementInfo& info = *GetClassInfo();
     const bool hasTag = info.GetElementType() == XmlElementType_Element;
     if (hasTag)
@@ -47,8 +49,9 @@ void CXmlGeneratedClass::WriteObject(CXmlWriter* writer, bool isRoot, const char
         writer->EndElement();
 }
 
-void CXmlGeneratedClass::StartElement(CXmlWriter* writer, bool isRoot, const char16_t* elementNamespace,
-                                      const CXmlSerializationContext& context, bool isOptional) const {
+inline void CXmlGeneratedClass::StartElement(CXmlWriter* writer, bool isRoot,
+                                             const char16_t* elementNamespace,
+                                             const CXmlSerializationContext& context, bool isOptional) const {
     if (isRoot) {
         for (const std::u16string& instruction : context.GetProcessingInstructions())
             writer->WriteProcessingInstruction(instruction);
@@ -72,8 +75,8 @@ void CXmlGeneratedClass::StartElement(CXmlWriter* writer, bool isRoot, const cha
     }
 }
 
-void CXmlGeneratedClass::WriteContent(CXmlWriter* writer, const CXmlSerializationContext& context,
-                                      bool isOptional) const {
+inline void CXmlGeneratedClass::WriteContent(CXmlWriter* writer, const CXmlSerializationContext& context,
+                                             bool isOptional) const {
     switch (GetClassInfo()->GetElementGroupType()) {
     case XmlElementGroupType_Sequence:
         return ProcessElementSeqToXml(context, GetClassElementInfo(), writer);
@@ -86,18 +89,18 @@ void CXmlGeneratedClass::WriteContent(CXmlWriter* writer, const CXmlSerializatio
     }
 }
 
-void CXmlGeneratedClass::ProcessElementSeqToXml(const CXmlSerializationContext& context,
-                                                CElementInfo** elements, CXmlWriter* writer) const {
+inline void CXmlGeneratedClass::ProcessElementSeqToXml(const CXmlSerializationContext& context,
+                                                       CElementInfo** elements, CXmlWriter* writer) const {
     for (; *elements; ++elements)
         (*elements)->ElementToXml(context, this, writer);
 }
 
-void CXmlGeneratedClass::ProcessElementAllToXml(const CXmlSerializationContext& context,
-                                                CElementInfo** elements, CXmlWriter* writer) const {
+inline void CXmlGeneratedClass::ProcessElementAllToXml(const CXmlSerializationContext& context,
+                                                       CElementInfo** elements, CXmlWriter* writer) const {
     ProcessElementSeqToXml(context, elements, writer);
 }
 
-void CXmlGeneratedClass::WritePrimitiveValue(CXmlWriter* writer) const {
+inline void CXmlGeneratedClass::WritePrimitiveValue(CXmlWriter* writer) const {
     const CParentElementInfo* info = GetClassInfo();
     const int property = info->GetPrimitiveValuePropertyIndex();
     if (property == -1 || info->GetPrimitiveDataType() == ItemType_Invalid)
@@ -125,9 +128,9 @@ void CXmlGeneratedClass::AttributesToXml_Int(CXmlWriter* writer,
     }
 }
 
-void CXmlGeneratedClass::ProcessAttributesToXml(const CXmlSerializationContext& context,
-                                                CElementInfo** elements, CAttributeInfo** attributes,
-                                                CXmlWriter* writer) const {
+inline void CXmlGeneratedClass::ProcessAttributesToXml(const CXmlSerializationContext& context,
+                                                       CElementInfo** elements, CAttributeInfo** attributes,
+                                                       CXmlWriter* writer) const {
     for (; *attributes; ++attributes)
         (*attributes)->AttributeToXml(context, this, writer);
     for (; *elements; ++elements)

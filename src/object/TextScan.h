@@ -1,5 +1,6 @@
 #pragma once
 
+#include <algorithm>
 #include <cstddef>
 #include <cstdint>
 #include <cstring>
@@ -30,16 +31,18 @@ inline bool SameText(std::u16string_view a, std::u16string_view b) {
                 return false;
         return true;
     }
-    const auto isSameAt = [from = a.data(), other = b.data()](std::size_t at) {
+    const auto difference = [from = a.data(), other = b.data()](std::size_t at) {
         UnitBlock left, right;
         std::memcpy(&left, from + at, sizeof left);
         std::memcpy(&right, other + at, sizeof right);
-        return left == right;
+        return left ^ right;
     };
-    for (std::size_t at = 0; at + unitsOfBlock < size; at += unitsOfBlock)
-        if (!isSameAt(at))
+    constexpr std::size_t two = 2 * unitsOfBlock;
+    std::size_t at = 0;
+    for (; at + two < size; at += two)
+        if ((difference(at) | difference(at + unitsOfBlock)) != 0)
             return false;
-    return isSameAt(size - unitsOfBlock);
+    return (difference(std::min(at, size - unitsOfBlock)) | difference(size - unitsOfBlock)) == 0;
 }
 
 /// What a test finds in some block of a text, four units at once; the last block overlaps the one before, and

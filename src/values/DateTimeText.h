@@ -23,6 +23,10 @@ public:
             *this += static_cast<char16_t>(u'0' + number % 10);
             return;
         }
+        if (number < 10000 && width == 4) {
+            AppendNumber(number / 100, 2);
+            return AppendNumber(number % 100, 2);
+        }
         char16_t digits[20];
         char16_t* const end = std::end(digits);
         char16_t* begin = end;

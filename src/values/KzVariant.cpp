@@ -9,6 +9,8 @@
 #include "values/Payload.h"
 
 #include <bit>
+#include <cstddef>
+#include <iterator>
 #include <utility>
 
 namespace KzXmlLib10 {
@@ -30,32 +32,48 @@ constexpr const char16_t* typeNames[] = {
     u"time",      u"char",      u"string",       u"boolean", u"decimal", u"integer",
 };
 
-/// How the kind owns its payload; null for kinds that have none.
+/// How each kind owns its payload; null for kinds that have none.
+constexpr const PayloadKind* payloadKinds[] = {
+    nullptr,                    // Invalid
+    &HeapValue<CBinaryData>,    // hexBinary
+    &HeapValue<CBinaryData>,    // base64Binary
+    nullptr,                    // i1
+    nullptr,                    // i2
+    nullptr,                    // i4
+    nullptr,                    // i8
+    nullptr,                    // ui1
+    nullptr,                    // ui2
+    nullptr,                    // ui4
+    nullptr,                    // ui8
+    nullptr,                    // r4
+    nullptr,                    // r8
+    &HeapValue<CDateTimeSpan>,  // duration
+    &HeapValue<CDateTime>,      // yearMonth
+    &HeapValue<CDateTime>,      // monthDay
+    nullptr,                    // year
+    nullptr,                    // month
+    nullptr,                    // day
+    &HeapValue<CDateTime>,      // date
+    &HeapValue<CDateTime>,      // datetime
+    &HeapValue<CDateTime>,      // time
+    nullptr,                    // char
+    &HeapValue<std::u16string>, // string
+    nullptr,                    // boolean
+    &HeapValue<CDecimal>,       // decimal
+    &HeapValue<CBigInteger>,    // integer
+    &CountedObject,             // xmlObject
+    &CountedObject,             // xmlCollection
+};
+
+/// Null for what is no kind, too.
 const PayloadKind* FindPayloadKind(ItemType type) {
-    switch (type) {
-    case ItemType_string:
-        return &HeapValue<std::u16string>;
-    case ItemType_hexBinary:
-    case ItemType_base64Binary:
-        return &HeapValue<CBinaryData>;
-    case ItemType_duration:
-        return &HeapValue<CDateTimeSpan>;
-    case ItemType_yearMonth:
-    case ItemType_monthDay:
-    case ItemType_date:
-    case ItemType_datetime:
-    case ItemType_time:
-        return &HeapValue<CDateTime>;
-    case ItemType_decimal:
-        return &HeapValue<CDecimal>;
-    case ItemType_integer:
-        return &HeapValue<CBigInteger>;
-    case ItemType_xmlObject:
-    case ItemType_xmlCollection:
-        return &CountedObject;
-    default:
-        return nullptr;
-    }
+    const auto index = static_cast<std::size_t>(type);
+    return index < std::size(payloadKinds) ? payloadKinds[index] : nullptr;
+}
+
+void LetPayloadGo(ItemType type, const KzVariant::Cell& cell) {
+    if (const PayloadKind* kind = FindPayloadKind(type); kind && cell.payload)
+        kind->letGo(cell.payload);
 }
 
 } // namespace
@@ -66,7 +84,7 @@ KzVariant::KzVariant(KzVariant&& other) noexcept
     : m_isNil(std::exchange(other.m_isNil, false)), m_type(std::exchange(other.m_type, ItemType_Invalid)),
       m_value(std::exchange(other.m_value, Cell())) {}
 
-KzVariant::~KzVariant() { Clear(); }
+KzVariant::~KzVariant() { LetPayloadGo(m_type, m_value); }
 
 KzVariant& KzVariant::operator=(const KzVariant& other) {
     if (this == &other) {
@@ -103,8 +121,7 @@ void KzVariant::Clear() {
     m_isNil = false;
     const ItemType type = std::exchange(m_type, ItemType_Invalid);
     const Cell cell = std::exchange(m_value, Cell());
-    if (const PayloadKind* kind = FindPayloadKind(type); kind && cell.payload)
-        kind->letGo(cell.payload);
+    LetPayloadGo(type, cell);
 }
 
 void KzVariant::SetInvalid() { Clear(); }
@@ -122,12 +139,26 @@ std::u16string KzVariant::GetType() const {
     return typeNames[m_type];
 }
 
-std::u16string KzVariant::ToString(const char16_t* format) const {
+void KzVariant::FailNoPayload(ItemType wanted) const {
+    Throw<CKzInvalidStateException>(messages::NoSuchPayload, m_type, wanted);
+}
+
+/// `type` is what the caller hoped for. Any kind with a payload of its class will do.
+template <class T>
+const T& KzVariant::GetValue(ItemType type) const {
+    if (FindPayloadKind(m_type) != &HeapValue<T> || !m_value.payload)
+        FailNoPayload(type);
+    return *static_cast<const T*>(m_value.payload);
+}
+
+std::u16string KzVariant::ToString(const char16_t* format) const { return ToText(EmptyIfNull(format)); }
+
+std::u16string KzVariant::ToText(const std::u16string& format) const {
     switch (m_type) {
     case ItemType_hexBinary:
-        return CConversions::hexBinaryToString(GetHexBinary());
+        return CConversions::hexBinaryToString(GetValue<CBinaryData>(m_type));
     case ItemType_base64Binary:
-        return CConversions::base64BinaryToString(GetBase64Binary());
+        return CConversions::base64BinaryToString(GetValue<CBinaryData>(m_type));
     case ItemType_i1:
         return CConversions::i1ToString(GetI1());
     case ItemType_i2:
@@ -145,18 +176,18 @@ std::u16string KzVariant::ToString(const char16_t* format) const {
     case ItemType_ui8:
         return CConversions::ui8ToString(GetUI8());
     case ItemType_r4:
-        return CConversions::r4ToString(GetR4(), EmptyIfNull(format));
+        return CConversions::r4ToString(GetR4(), format);
     case ItemType_r8:
-        return CConversions::r8ToString(GetR8(), EmptyIfNull(format));
+        return CConversions::r8ToString(GetR8(), format);
     case ItemType_duration:
-        return CConversions::durationToString(GetDuration());
+        return CConversions::durationToString(GetValue<CDateTimeSpan>(m_type));
     case ItemType_yearMonth:
     case ItemType_monthDay:
     case ItemType_date:
     case ItemType_datetime:
     case ItemType_time:
         // Deliberate: the DTType of the value decides on its form, not the kind of the variant.
-        return CConversions::dateToString(GetDate());
+        return CConversions::dateToString(GetValue<CDateTime>(ItemType_date));
     case ItemType_year:
         return CConversions::yearToString(GetYear());
     case ItemType_month:
@@ -170,7 +201,7 @@ std::u16string KzVariant::ToString(const char16_t* format) const {
     case ItemType_boolean:
         return CConversions::booleanToString(GetBoolean());
     case ItemType_decimal:
-        return CConversions::decimalToString(GetDecimalRef(), EmptyIfNull(format));
+        return CConversions::decimalToString(GetDecimalRef(), format);
     case ItemType_integer:
         return CConversions::integerToString(GetIntegerRef());
     default:
@@ -265,14 +296,6 @@ void KzVariant::SetMade(ItemType type, Make make) {
     m_value.payload = payload;
 }
 
-/// `type` is what the caller hoped for. Any kind with a payload of its class will do.
-template <class T>
-const T& KzVariant::GetValue(ItemType type) const {
-    if (FindPayloadKind(m_type) != &HeapValue<T> || !m_value.payload)
-        Throw<CKzInvalidStateException>(messages::NoSuchPayload, m_type, type);
-    return *static_cast<const T*>(m_value.payload);
-}
-
 void KzVariant::SetI1(std::int8_t value) { SetBits(ItemType_i1, static_cast<std::uint8_t>(value)); }
 void KzVariant::SetI2(std::int16_t value) { SetBits(ItemType_i2, static_cast<std::uint16_t>(value)); }
 void KzVariant::SetI4(std::int32_t value) { SetBits(ItemType_i4, static_cast<std::uint32_t>(value)); }
@@ -326,6 +349,10 @@ void KzVariant::CopyString(const std::u16string& value) {
     m_value.payload = copy;
 }
 
+void KzVariant::CopyDecimal(const CDecimal& value) {
+    SetMade(ItemType_decimal, [&]() -> CDecimal { return value; });
+}
+
 std::u16string KzVariant::GetString() const { return GetStringRef(); }
 CBinaryData KzVariant::GetHexBinary() const { return GetValue<CBinaryData>(ItemType_hexBinary); }
 CBinaryData KzVariant::GetBase64Binary() const { return GetValue<CBinaryData>(ItemType_base64Binary); }
@@ -338,7 +365,6 @@ CDateTime KzVariant::GetTime() const { return GetValue<CDateTime>(ItemType_time)
 CDecimal KzVariant::GetDecimal() const { return GetDecimalRef(); }
 CBigInteger KzVariant::GetInteger() const { return GetIntegerRef(); }
 
-const std::u16string& KzVariant::GetStringRef() const { return GetValue<std::u16string>(ItemType_string); }
 // A payload is the variant's own, so the variant decides on whether it can change.
 std::u16string&& KzVariant::TakeString() { return std::move(const_cast<std::u16string&>(GetStringRef())); }
 CDecimal&& KzVariant::TakeDecimal() { return std::move(const_cast<CDecimal&>(GetDecimalRef())); }

@@ -30,19 +30,21 @@ void KzVariant::SetXmlCollection(CXmlCollectionBase* collection) {
     SetCounted(ItemType_xmlCollection, collection);
 }
 
-CSmartPtr<CXmlObjectBase> KzVariant::GetXmlObject() const {
+CSmartPtr<CXmlObjectBase> KzVariant::GetXmlObject() const { return PeekXmlObject(); }
+
+CXmlObjectBase* KzVariant::PeekXmlObject() const {
     if (m_type != ItemType_xmlObject && m_type != ItemType_xmlCollection)
-        Throw<CKzInvalidStateException>(messages::NoSuchPayload, m_type, ItemType_xmlObject);
+        FailNoPayload(ItemType_xmlObject);
     return static_cast<CXmlObjectBase*>(m_value.payload);
 }
 
 CSmartPtr<CXmlCollectionBase> KzVariant::GetXmlCollection() const {
     if (m_type == ItemType_xmlCollection)
         return static_cast<CXmlCollectionBase*>(static_cast<CXmlObjectBase*>(m_value.payload));
-    CXmlObjectBase* object = GetXmlObject();
+    CXmlObjectBase* const object = PeekXmlObject();
     auto* collection = dynamic_cast<CXmlCollectionBase*>(object);
     if (object && !collection)
-        Throw<CKzInvalidStateException>(messages::NoSuchPayload, m_type, ItemType_xmlCollection);
+        FailNoPayload(ItemType_xmlCollection);
     return collection;
 }
 

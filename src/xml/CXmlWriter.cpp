@@ -38,6 +38,12 @@ void CXmlWriter::AddNamespace(const std::u16string& alias, const std::u16string&
         m_namespaces[uri] = alias;
 }
 
+const std::u16string& CXmlWriter::KeepNamespace(std::u16string_view uri) {
+    if (!SameText(uri, m_keptNamespace)) // which is rare
+        m_keptNamespace = uri;
+    return m_keptNamespace;
+}
+
 void CXmlWriter::WriteLeafByParts(const LeafName& name, const std::u16string& text, ItemType type) {
     StartElement(name.local, name.namespaceUri);
     WriteText(text, type);

@@ -37,7 +37,7 @@ inline void ToVariant(std::u16string&& member, KzVariant& value) { value.SetStri
 inline void ToVariant(std::int32_t member, KzVariant& value) { value.SetI4(member); }
 inline void ToVariant(double member, KzVariant& value) { value.SetR8(member); }
 inline void ToVariant(bool member, KzVariant& value) { value.SetBoolean(member); }
-inline void ToVariant(const CDecimal& member, KzVariant& value) { value.SetDecimal(member); }
+inline void ToVariant(const CDecimal& member, KzVariant& value) { value.CopyDecimal(member); }
 inline void ToVariant(const CDateTime& member, KzVariant& value) {
     if (member.GetType() == CDateTime::DTType_date)
         value.SetDate(member);

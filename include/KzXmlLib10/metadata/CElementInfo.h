@@ -115,8 +115,10 @@ protected:
     CSmartPtr<CXmlObjectBase> CreateObject(ClassFactory factory, int classId) const;
     /// Puts an object, or null, into the property.
     void StoreObject(CXmlGeneratedClass* object, CXmlObjectBase* child);
-    /// The object in the property, or null.
-    CSmartPtr<CXmlObjectBase> ReadObject(const CXmlGeneratedClass* object) const;
+    /// Reads the property into the variant, which holds what is returned: the object, or null.
+    CXmlObjectBase* ReadObject(const CXmlGeneratedClass* object, KzVariant& value) const;
+    /// The same for a collection that the generated class created. Throws as HeldCollection does.
+    CXmlCollectionBase& ReadCollection(const CXmlGeneratedClass* object, KzVariant& value) const;
     /// The object that the generated class created for a mandatory member. Throws CKzInvalidStateException if
     /// it created none.
     CSmartPtr<CXmlObjectBase> HeldObject(const CXmlGeneratedClass* object) const;

@@ -57,7 +57,10 @@ public:
 protected:
     /// Whether a descriptor of this class names the element.
     bool IsElementInList(const CXmlSerializationContext& context, CXmlElement* element) const;
-    void ReadProperty(int propertyIndex, KzVariant& value) const;
+    void ReadProperty(int propertyIndex, KzVariant& value) const {
+        // Reading a property changes nothing, but one operation both reads and stores.
+        const_cast<CXmlGeneratedClass*>(this)->AccessProperty(propertyIndex, true, value);
+    }
     /// Whether an empty choice is acceptable: a member is optional, or a repeated one may be absent.
     bool DoesElementContainOptionalElements() const;
     void ProcessAttributesFromXml(const CXmlSerializationContext& context, CXmlElement* element,

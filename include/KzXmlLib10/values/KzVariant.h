@@ -69,6 +69,8 @@ public:
     /// Dates and times are written in the form of their own DTType. The nil flag is not looked at: a nil of a
     /// kind with a payload has none and throws. Throws CKzException for a kind without a text.
     std::u16string ToString(const char16_t* format) const;
+    /// The same for a format that is a string.
+    std::u16string ToText(const std::u16string& format) const;
     /// Takes the value of an XML text of the given kind under the given rule. Throws what the conversion of
     /// the kind throws for a text of another form, CKzException for a kind that cannot come from text; the
     /// variant is unchanged then.
@@ -114,7 +116,11 @@ public:
     void CopyString(const std::u16string& value);
     std::u16string GetString() const;
     /// The text itself, valid until the variant changes.
-    const std::u16string& GetStringRef() const;
+    const std::u16string& GetStringRef() const {
+        if (m_type != ItemType_string || !m_value.payload)
+            FailNoPayload(ItemType_string);
+        return *static_cast<const std::u16string*>(m_value.payload);
+    }
     /// The text itself, to be moved from. For generated classes, which need not copy it.
     std::u16string&& TakeString();
 
@@ -147,10 +153,14 @@ public:
     const CBigInteger& GetIntegerRef() const;
     /// The number itself, to be moved from.
     CDecimal&& TakeDecimal();
+    /// What SetDecimal does with a copy. For generated classes.
+    void CopyDecimal(const CDecimal& value);
 
     /// Adds a reference to the object, which may be null.
     void SetXmlObject(CXmlObjectBase* object);
     CSmartPtr<CXmlObjectBase> GetXmlObject() const;
+    /// The object itself, or null; the variant keeps its reference.
+    CXmlObjectBase* PeekXmlObject() const;
     /// As for objects. Either getter reads what either setter stored; this one throws
     /// CKzInvalidStateException for an object that is no collection.
     void SetXmlCollection(CXmlCollectionBase* collection);
@@ -167,6 +177,7 @@ public:
     Cell m_value;
 
 private:
+    [[noreturn]] void FailNoPayload(ItemType wanted) const;
     void SetBits(ItemType type, std::uint64_t bits);
     template <class T>
     void SetValue(ItemType type, T&& value);

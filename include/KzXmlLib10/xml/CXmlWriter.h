@@ -7,6 +7,7 @@
 #include <map>
 #include <memory>
 #include <string>
+#include <string_view>
 #include <typeinfo>
 
 namespace KzXmlLib10 {
@@ -85,7 +86,7 @@ public:
 
     /// A namespace as a string, which the writer keeps until the next call, to spare an allocation for each
     /// element.
-    const std::u16string& KeepNamespace(const char16_t* uri) { return m_keptNamespace = uri; }
+    const std::u16string& KeepNamespace(std::u16string_view uri);
 
 protected:
     CXmlWriter();
