@@ -1,5 +1,6 @@
 #include <KzXmlLib10/fastinfoset/CFIVocabulary.h>
 
+#include "object/TextScan.h"
 #include "xml/XmlNamespaces.h"
 
 // A new vocabulary, to which <o:order xmlns:o="urn:o"/> has been added:
@@ -91,6 +92,11 @@ void CFIVocabulary::MakeKey(std::u16string_view prefix, std::u16string_view name
     key += namespaceName;
     key += separator;
     key += prefix;
+}
+
+bool CFIVocabulary::IsKeyOf(std::u16string_view localName, std::u16string_view key) {
+    return key.size() == localName.size() + 2 && key[localName.size()] == separator &&
+           key.back() == separator && SameText(key.substr(0, localName.size()), localName);
 }
 
 void CFIVocabulary::AddValueToMap(std::u16string_view value, IndexMap& map) { map.Add(value); }

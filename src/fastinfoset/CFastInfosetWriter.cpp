@@ -79,6 +79,48 @@ CFastInfosetWriter::CFastInfosetWriter(CBinaryStream* stream, const CFastInfoset
 
 CFastInfosetWriter::~CFastInfosetWriter() = default;
 
+/// False, and nothing written, if the text has no bytes.
+template <const IntegerRule& rule>
+bool CFastInfosetWriter::WriteUtf8String(unsigned char bits, const std::u16string& text) {
+    constexpr std::size_t longestShort = 256;
+    constexpr std::size_t bytesPerUnit = 3;
+    if (text.empty())
+        return false;
+    if (text.size() > longestShort) {
+        m_octets.clear();
+        AppendUtf8(m_octets, text);
+        if (!m_octets.empty())
+            WriteOctets(rule, bits, m_octets);
+        return !m_octets.empty();
+    }
+    // Most texts are ASCII, so that the length is known before the bytes are.
+    CBinaryData& out = m_stream->m_data;
+    Byte* const start = out.Reserve(IntegerRule::MaxOctets + bytesPerUnit * text.size());
+    std::size_t count = text.size();
+    Byte* to = start + rule.Encode(count, bits, start);
+    if (!WriteAscii(reinterpret_cast<char*>(to), text)) {
+        count = MeasureUtf8(text).bytes;
+        if (count == 0)
+            return false;
+        to = start + rule.Encode(count, bits, start);
+        WriteUtf8(reinterpret_cast<char*>(to), text);
+    }
+    out.Commit(to + count);
+    return true;
+}
+
+/// Writes a text in the form for its kind. False, and nothing written, if that form has no bytes.
+template <const EncodedStringForm& form>
+bool CFastInfosetWriter::EncodedCharacterString(unsigned char bits, const std::u16string& text,
+                                                ItemType type) {
+    const auto& encoding = m_fiContext->GetEncoding(static_cast<unsigned long>(type));
+    if (encoding.m_type != CFastInfosetContext::EncodingType_Default)
+        return WriteInEncoding(form, bits, text, type);
+    if (m_fiContext->GetDefaultStringEncoding() != 0)
+        Throw<CKzException>(messages::Utf16NotWritten);
+    return WriteUtf8String<form.length>(bits, text);
+}
+
 void CFastInfosetWriter::WriteHeader(FInfoDecl declaration) {
     if (declaration < 0 || static_cast<std::size_t>(declaration) >= std::size(declarations))
         Throw<CKzInvalidParamException>(messages::NoSuchDeclaration, declaration);
@@ -235,7 +277,7 @@ void CFastInfosetWriter::WriteAttribute(const std::u16string& name, const std::u
     FlushPendingElement(true);
     RequireOpenStartTag();
     if (namespaceUri.empty())
-        WriteAttributeName(u"", u"", name);
+        WritePlainAttributeName(name);
     else
         WriteAttributeName(BindPrefix(*m_context, namespaceUri).prefix, namespaceUri, name);
     WriteAttributeValue(value, type);
@@ -298,6 +340,20 @@ void CFastInfosetWriter::WriteOtherElementName(unsigned char flag, const std::u1
     }
     WriteQName(flag | LiteralElementName, shownPrefix, uri, localName);
     CFIVocabulary::AddValueToMap(m_key, map);
+}
+
+/// The name of an attribute in no namespace.
+void CFastInfosetWriter::WritePlainAttributeName(const std::u16string& name) {
+    const auto& map = m_vocabulary->m_attributeNameIndex;
+    std::uint32_t& recent = m_recentAttributes[PlaceOf(name) % m_recentAttributes.size()];
+    if (recent == 0 || !CFIVocabulary::IsKeyOf(name, map.TextOf(recent))) {
+        CFIVocabulary::MakeKey({}, {}, name, m_key);
+        recent = map.Find(m_key);
+    }
+    if (recent != 0)
+        WriteIntegerBit2(0, recent);
+    else
+        WriteAttributeName(u"", u"", name);
 }
 
 void CFastInfosetWriter::WriteAttributeName(const std::u16string& prefix, const std::u16string& uri,
@@ -373,24 +429,13 @@ void CFastInfosetWriter::WriteCharacterChunk(const std::u16string& text, ItemTyp
 /// In attribute values the string starts on the third bit, and its length on the fifth.
 bool CFastInfosetWriter::EncodedCharacterStringBit5(unsigned char bits, const std::u16string& value,
                                                     ItemType type) {
-    return EncodedCharacterString(attributeValueForm, bits, value, type);
+    return EncodedCharacterString<attributeValueForm>(bits, value, type);
 }
 
 /// In character chunks the string starts on the fifth bit, and its length on the seventh.
 bool CFastInfosetWriter::EncodedCharacterStringBit7(unsigned char bits, const std::u16string& text,
                                                     ItemType type) {
-    return EncodedCharacterString(characterChunkForm, bits, text, type);
-}
-
-/// Writes a text in the form for its kind. False, and nothing written, if that form has no bytes.
-bool CFastInfosetWriter::EncodedCharacterString(const EncodedStringForm& form, unsigned char bits,
-                                                const std::u16string& text, ItemType type) {
-    const auto& encoding = m_fiContext->GetEncoding(static_cast<unsigned long>(type));
-    if (encoding.m_type != CFastInfosetContext::EncodingType_Default)
-        return WriteInEncoding(form, bits, text, type);
-    if (m_fiContext->GetDefaultStringEncoding() != 0)
-        Throw<CKzException>(messages::Utf16NotWritten);
-    return WriteUtf8String(form.length, bits, text);
+    return EncodedCharacterString<characterChunkForm>(bits, text, type);
 }
 
 /// The same for a form other than the plain string.
@@ -423,36 +468,6 @@ bool CFastInfosetWriter::WriteEncoded(const EncodedStringForm& form, unsigned ki
     return true;
 }
 
-/// False, and nothing written, if the text has no bytes.
-bool CFastInfosetWriter::WriteUtf8String(const IntegerRule& rule, unsigned char bits,
-                                         const std::u16string& text) {
-    constexpr std::size_t longestShort = 256;
-    constexpr std::size_t bytesPerUnit = 3;
-    if (text.empty())
-        return false;
-    if (text.size() > longestShort) {
-        m_octets.clear();
-        AppendUtf8(m_octets, text);
-        if (!m_octets.empty())
-            WriteOctets(rule, bits, m_octets);
-        return !m_octets.empty();
-    }
-    // Most texts are ASCII, so that the length is known before the bytes are.
-    CBinaryData& out = m_stream->m_data;
-    Byte* const start = out.Reserve(IntegerRule::MaxOctets + bytesPerUnit * text.size());
-    std::size_t count = text.size();
-    Byte* to = start + rule.Encode(count, bits, start);
-    if (!WriteAscii(reinterpret_cast<char*>(to), text)) {
-        count = MeasureUtf8(text).bytes;
-        if (count == 0)
-            return false;
-        to = start + rule.Encode(count, bits, start);
-        WriteUtf8(reinterpret_cast<char*>(to), text);
-    }
-    out.Commit(to + count);
-    return true;
-}
-
 void CFastInfosetWriter::AppendRestrictedAlphabetString(std::uint32_t index, const std::u16string& text) {
     if (index != AlphabetNumeric && index != AlphabetDateAndTime)
         Throw<CKzException>(messages::WrittenAlphabet, index);
@@ -460,7 +475,7 @@ void CFastInfosetWriter::AppendRestrictedAlphabetString(std::uint32_t index, con
 }
 
 void CFastInfosetWriter::WriteIdentifyingString(const std::u16string& text) {
-    if (!WriteUtf8String(octetsBit2, 0, text))
+    if (!WriteUtf8String<octetsBit2>(0, text))
         Throw<CKzException>(messages::EmptyNameWritten);
 }
 

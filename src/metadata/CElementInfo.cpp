@@ -3,7 +3,6 @@
 #include "metadata/Messages.h"
 #include "object/NotNull.h"
 
-#include <KzXmlLib10/conversions/FacetChecks.h>
 #include <KzXmlLib10/object/CXmlGeneratedClass.h>
 #include <KzXmlLib10/object/CXmlSerializationContext.h>
 #include <KzXmlLib10/values/KzVariant.h>
@@ -41,12 +40,6 @@ void CElementInfo::PseudoChildAttributeToXml(const CXmlSerializationContext&, co
 std::u16string CElementInfo::GetElementName() const { return m_elementName; }
 std::u16string CElementInfo::GetElementNamespace() const { return m_elementNamespace; }
 int CElementInfo::GetPropertyIndex() const { return m_propertyIndex; }
-
-void CElementInfo::CheckRestriction(const KzVariant& value) const {
-    if (!m_isPrimitive)
-        Throw<CKzException>(messages::CannotCheckRestriction, value.GetType());
-    CheckPrimitiveRestrictions(m_elementName.c_str(), value, m_itemType, m_restrictions);
-}
 
 std::u16string CElementInfo::GetAnyDefaultNamespace(const char16_t* namespaceConstraint,
                                                     const char16_t* ownerNamespace,

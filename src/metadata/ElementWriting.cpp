@@ -2,10 +2,13 @@
 
 #include <KzXmlLib10/metadata/CElementInfo.h>
 
+#include "metadata/Messages.h"
 #include "object/NotNull.h"
+#include "object/Throw.h"
 #include "xml/Leaf.h"
 
 #include <KzXmlLib10/collections/CXmlCollectionBase.h>
+#include <KzXmlLib10/conversions/FacetChecks.h>
 #include <KzXmlLib10/object/CXmlGeneratedClass.h>
 #include <KzXmlLib10/object/CXmlObjectBase.h>
 #include <KzXmlLib10/object/CXmlSerializationContext.h>
@@ -25,6 +28,12 @@ void WriteNil(CXmlWriter* writer, const std::u16string& name, const std::u16stri
 }
 
 } // namespace
+
+void CElementInfo::CheckRestriction(const KzVariant& value) const {
+    if (!m_isPrimitive)
+        Throw<CKzException>(messages::CannotCheckRestriction, value.GetType());
+    CheckPrimitiveRestrictions(m_elementName.c_str(), value, m_itemType, m_restrictions);
+}
 
 bool CElementInfo::ElementToXmlPrim(const CXmlSerializationContext&, const CXmlGeneratedClass* object,
                                     CXmlWriter* writer) const {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <algorithm>
+#include <cassert>
 #include <cstddef>
 #include <cstdint>
 #include <cstring>
@@ -107,7 +108,7 @@ std::size_t CopyUntil(char16_t* to, std::u16string_view text) {
 /// itself. Inline, since the texts of documents are short.
 template <class Stops>
 inline std::size_t CopyStringUntil(char16_t* to, const std::u16string& text) {
-    static_assert(std::u16string().capacity() + 1 >= unitsAtOnce);
+    assert(text.capacity() + 1 >= unitsAtOnce);
     const std::size_t size = text.size();
     if (size < unitsAtOnce &&
         !detail::Any(Stops::Among(detail::CopyUnits(to, text.data())) & detail::FirstUnits(size)))

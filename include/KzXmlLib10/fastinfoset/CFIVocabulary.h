@@ -149,6 +149,9 @@ private:
     static void MakeKey(std::u16string_view prefix, std::u16string_view namespaceName,
                         std::u16string_view localName, std::u16string& key);
 
+    /// Whether a key is that of a local name without a namespace and a prefix.
+    static bool IsKeyOf(std::u16string_view localName, std::u16string_view key);
+
     static void AddValueToMap(std::u16string_view value, IndexMap& map);
     static void AddValueToVector(std::u16string_view value, std::vector<std::u16string>& vector);
     static void AddQNameToVector(std::uint32_t prefix, std::uint32_t namespaceName, std::uint32_t localName,

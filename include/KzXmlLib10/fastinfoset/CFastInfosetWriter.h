@@ -95,6 +95,7 @@ private:
                           const std::u16string& localName, std::uint64_t namespaceState);
     void WriteOtherElementName(unsigned char flag, const std::u16string* prefix, const std::u16string& uri,
                                const std::u16string& localName, std::uint64_t namespaceState);
+    void WritePlainAttributeName(const std::u16string& name);
     void WriteAttributeName(const std::u16string& prefix, const std::u16string& uri,
                             const std::u16string& localName);
     void WriteQName(unsigned char literal, const std::u16string& prefix, const std::u16string& uri,
@@ -107,8 +108,8 @@ private:
     void WriteCharacterChunk(const std::u16string& text, ItemType type);
     bool EncodedCharacterStringBit5(unsigned char bits, const std::u16string& value, ItemType type);
     bool EncodedCharacterStringBit7(unsigned char bits, const std::u16string& text, ItemType type);
-    bool EncodedCharacterString(const fastinfoset::EncodedStringForm& form, unsigned char bits,
-                                const std::u16string& text, ItemType type);
+    template <const fastinfoset::EncodedStringForm& form>
+    bool EncodedCharacterString(unsigned char bits, const std::u16string& text, ItemType type);
     bool WriteInEncoding(const fastinfoset::EncodedStringForm& form, unsigned char bits,
                          const std::u16string& text, ItemType type);
     bool WriteEncoded(const fastinfoset::EncodedStringForm& form, unsigned kind, unsigned char bits,
@@ -116,8 +117,8 @@ private:
     void AppendRestrictedAlphabetString(std::uint32_t index, const std::u16string& text);
 
     void WriteIdentifyingString(const std::u16string& text);
-    bool WriteUtf8String(const fastinfoset::IntegerRule& rule, unsigned char bits,
-                         const std::u16string& text);
+    template <const fastinfoset::IntegerRule& rule>
+    bool WriteUtf8String(unsigned char bits, const std::u16string& text);
     void WriteOctets(const fastinfoset::IntegerRule& rule, unsigned char bits, std::string_view octets);
     void WriteIntegerBit2(unsigned char bits, std::uint32_t value);
     void WriteIntegerBit3(unsigned char bits, std::uint32_t value);
@@ -134,6 +135,8 @@ private:
     std::array<RecentName, 128> m_recentNames;
     /// Each at a place that the number of its name tells.
     std::array<KnownLeaf, 64> m_knownLeaves;
+    /// The indices of attributes in no namespace, each at a place that its name tells; 0 for none.
+    std::array<std::uint32_t, 64> m_recentAttributes{};
     std::u16string m_key; ///< of the name that is looked up, kept for its memory
     /// The bytes of the string that is being written, kept for their memory.
     std::string m_octets;
