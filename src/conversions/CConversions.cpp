@@ -5,6 +5,7 @@
 #include "conversions/NumberText.h"
 #include "conversions/WorkingText.h"
 #include "object/Throw.h"
+#include "object/Utf8.h"
 
 #include <algorithm>
 #include <charconv>
@@ -23,7 +24,10 @@ template <class... Style>
 std::u16string WriteNumber(auto value, Style... style) {
     char digits[32];
     const char* end = std::to_chars(digits, digits + sizeof digits, value, style...).ptr;
-    return std::u16string(static_cast<const char*>(digits), end);
+    const std::string_view text(digits, static_cast<std::size_t>(end - digits));
+    char16_t units[sizeof digits];
+    WriteAscii(units, text);
+    return std::u16string(units, text.size());
 }
 
 /// A number of at least two digits behind a prefix.

@@ -11,6 +11,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <limits>
 #include <utility>
 
 namespace KzXmlLib10 {
@@ -297,11 +298,13 @@ CBigInteger CBigInteger::Pow10(std::uint32_t exponent) {
 void CBigInteger::Build(std::uint32_t value, Digits& out) { BuildDWORDLONG(value, out); }
 
 void CBigInteger::BuildDWORDLONG(std::uint64_t value, Digits& out) {
-    out.clear();
+    char16_t digits[std::numeric_limits<std::uint64_t>::digits10 + 1];
+    char16_t* end = digits;
     do {
-        out.push_back(static_cast<char16_t>(value % 10));
+        *end++ = static_cast<char16_t>(value % 10);
         value /= 10;
     } while (value != 0);
+    out.assign(digits, end);
 }
 
 void CBigInteger::BuildDouble(double value, Digits& out) {

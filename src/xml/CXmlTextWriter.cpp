@@ -347,8 +347,10 @@ void CXmlTextWriter::WriteAttribute(const std::u16string& name, const std::u16st
         AppendUpToZero(bound.prefix);
         Buffer().AppendChar(u':');
     }
-    AppendUpToZero(name);
-    Buffer().Append(u"=\""sv);
+    char16_t* to = PutUpToZero(Buffer().Reserve(name.size() + 2 + unitsAtOnce), name);
+    *to++ = u'=';
+    *to++ = u'"';
+    Buffer().Commit(to);
     WriteEscaped<StopInAttribute>(value);
     Buffer().AppendChar(u'"');
     FlushIfFull();
