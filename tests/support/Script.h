@@ -2,6 +2,8 @@
 
 #include "support/Basics.h"
 
+#include <map>
+
 namespace KzXmlLib10::support {
 
 /// Calls the writer by a text with a word for each call:
@@ -15,8 +17,9 @@ void RunScript(CXmlWriter& writer, const std::string& words);
 /// Writes an element with nothing but text, at one go or by the three calls that it stands for.
 inline void WriteLeaf(CXmlWriter& writer, bool atOnce, const std::u16string& name, const char16_t* uri,
                       const std::u16string& text) {
+    static std::map<std::u16string, UniqueNumber> numbers; // each name has one, as in a descriptor
     if (atOnce)
-        return writer.WriteLeaf({name, uri}, text, ItemType_string);
+        return writer.WriteLeaf({name, uri, numbers[name + u'\n' + uri].Get()}, text, ItemType_string);
     writer.StartElement(name, uri);
     writer.WriteText(text, ItemType_string);
     writer.EndElement();
