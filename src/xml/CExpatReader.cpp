@@ -114,7 +114,7 @@ void CExpatReader::Handle(void* userData, Action action) noexcept {
     }
 }
 
-void CExpatReader::StartElement(const XML_Char* name, const XML_Char** attributes) {
+inline void CExpatReader::StartElement(const XML_Char* name, const XML_Char** attributes) {
     const bool isRoot = !m_document->m_documentElement;
     if (isRoot) {
         m_document->StartTree();

@@ -117,7 +117,8 @@ private:
                SameText(last.View(), {m_next, size});
     }
     void AddPiece(TextPiece*& last, std::size_t size) {
-        auto* piece = ::new (reinterpret_cast<std::byte*>(m_next) - TextPiece::headerSize) TextPiece;
+        std::byte* const room = reinterpret_cast<std::byte*>(m_next) - TextPiece::headerSize;
+        auto* piece = ::new (std::assume_aligned<alignof(TextPiece)>(room)) TextPiece;
         piece->size = static_cast<std::uint32_t>(size) & TextPiece::mostUnits;
         piece->times = 1;
         piece->next = last ? std::exchange(last->next, piece) : piece;
