@@ -16,7 +16,6 @@ extern "C" {
 void* __libc_malloc(std::size_t size);
 void* __libc_calloc(std::size_t count, std::size_t size);
 void* __libc_realloc(void* block, std::size_t size);
-void* __libc_memalign(std::size_t alignment, std::size_t size);
 
 void* malloc(std::size_t size) {
     ++allocations;
@@ -31,10 +30,5 @@ void* calloc(std::size_t count, std::size_t size) {
 void* realloc(void* block, std::size_t size) {
     ++allocations;
     return __libc_realloc(block, size);
-}
-
-void* aligned_alloc(std::size_t alignment, std::size_t size) {
-    ++allocations;
-    return __libc_memalign(alignment, size);
 }
 }

@@ -62,7 +62,7 @@ private:
     const Entry& Search(std::string_view text, SharedNames& names) {
         if (const auto found = m_entries.find(text); found != m_entries.end())
             return *found;
-        return *m_entries.insert({std::pmr::string(text, m_memory.Get()), &Split(text, names)}).first;
+        return *m_entries.insert({std::pmr::string(text, &m_memory), &Split(text, names)}).first;
     }
 
     /// Deliberate: at the first separator.
@@ -77,7 +77,7 @@ private:
     }
 
     ChunkMemory m_memory;
-    std::pmr::set<Entry, Order> m_entries{m_memory.Get()};
+    std::pmr::set<Entry, Order> m_entries{&m_memory};
     std::u16string m_namespaceUri; ///< of the name split last
     std::u16string m_localName;
     Entry m_start; ///< what the first name follows

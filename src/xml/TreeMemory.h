@@ -16,10 +16,10 @@ namespace KzXmlLib10 {
 /// names.
 struct TreeMemory {
     ChunkMemory chunks;
-    NodePool<CXmlElement> elements{chunks.Get()};
-    NodePool<CXmlAttribute> attributes{chunks.Get()};
-    NodePool<std::vector<CXmlAttribute*>> attributeLists{chunks.Get()};
-    SharedNames names{chunks.Get()};
+    NodePool<CXmlElement> elements{&chunks};
+    NodePool<CXmlAttribute> attributes{&chunks};
+    NodePool<std::vector<CXmlAttribute*>> attributeLists{&chunks};
+    SharedNames names{&chunks};
     TextArena texts;
 };
 
