@@ -84,7 +84,8 @@ KzVariant::KzVariant(KzVariant&& other) noexcept
     : m_isNil(std::exchange(other.m_isNil, false)), m_type(std::exchange(other.m_type, ItemType_Invalid)),
       m_value(std::exchange(other.m_value, Cell())) {}
 
-KzVariant::~KzVariant() { LetPayloadGo(m_type, m_value); }
+// A payload that goes may look at the variant, which is empty then.
+KzVariant::~KzVariant() { Clear(); }
 
 KzVariant& KzVariant::operator=(const KzVariant& other) {
     if (this == &other) {

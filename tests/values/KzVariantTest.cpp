@@ -173,6 +173,17 @@ TEST(KzVariant, ObjectsAreSharedAndCounted) {
     EXPECT_THROW(v.GetXmlObject(), CKzInvalidStateException);
 }
 
+TEST(KzVariant, AnObjectThatGoesWithItsVariantFindsThatEmpty) {
+    struct CLooking : CHolder {
+        ~CLooking() override { EXPECT_FALSE(held->IsValid()); }
+        const KzVariant* held = nullptr;
+    };
+    auto* const object = new CLooking;
+    KzVariant v;
+    v.SetXmlObject(object);
+    object->held = &v;
+}
+
 TEST(KzVariant, AssignmentFromInsideTheOwnObjectKeepsTheSourceAlive) {
     for (const bool moved : {false, true}) {
         auto* object = new CHolder;
