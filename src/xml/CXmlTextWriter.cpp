@@ -11,7 +11,6 @@
 #include <algorithm>
 #include <array>
 #include <cstring>
-#include <limits>
 #include <type_traits>
 #include <typeinfo>
 
@@ -21,11 +20,7 @@ using namespace std::string_view_literals;
 
 namespace {
 
-/// The length from which a stream is to flush. One in memory, which has nothing to flush, is not asked.
-std::uint32_t FlushThreshold(const CTextStream& stream) {
-    return typeid(stream) == typeid(CTextStream) ? std::numeric_limits<std::uint32_t>::max() : 4096;
-}
-
+constexpr std::uint32_t flushThreshold = 4096;
 constexpr std::size_t sliceSize = 1024;
 constexpr std::size_t longestEscape = 5; // &amp;
 constexpr std::size_t tabsAtOnce = 16;
@@ -66,7 +61,8 @@ struct CXmlTextWriter::LeafTags {
 
 CXmlTextWriter::CXmlTextWriter(CTextStream* stream)
     : CXmlWriter(typeid(CXmlTextWriter), static_cast<LeafOperation>(&CXmlTextWriter::WritePlainLeaf)),
-      m_stream(NotNull(stream, u"stream")), m_flushThreshold(FlushThreshold(*stream)),
+      m_stream(NotNull(stream, u"stream")),
+      m_unflushed(typeid(*stream) == typeid(CTextStream) ? stream : nullptr),
       m_leafTags(std::make_unique_for_overwrite<LeafTags>()) {
     m_stream->Open();
 }
@@ -271,7 +267,7 @@ void CXmlTextWriter::WriteEndTag(CXmlWriterContext& context) {
 
 /// Whether a stream would see a flush on the way to so many more characters.
 bool CXmlTextWriter::WouldFlush(std::size_t count) const {
-    return Buffer().GetLength() + count >= m_flushThreshold;
+    return Buffer().GetLength() + count >= flushThreshold && m_stream != m_unflushed;
 }
 
 /// The tag of a leaf, or null if it can only be written by its parts.
@@ -437,7 +433,7 @@ void CXmlTextWriter::WriteRootNamespaces() {
 }
 
 void CXmlTextWriter::FlushIfFull() {
-    if (Buffer().GetLength() >= m_flushThreshold)
+    if (WouldFlush(0))
         m_stream->Flush();
 }
 

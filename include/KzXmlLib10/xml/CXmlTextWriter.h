@@ -107,7 +107,7 @@ protected:
     CTextStream* m_stream;
 
 private:
-    std::uint32_t m_flushThreshold;
+    const CTextStream* m_unflushed; ///< the stream if it stays in memory, where a flush does nothing
     std::unique_ptr<LeafTags> m_leafTags;
 };
 
