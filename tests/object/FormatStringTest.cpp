@@ -21,7 +21,8 @@ TEST(FormatString, RareForms) {
         FormatString(u"%*d|%*d|%hd|%hu|%lld|%Fd|%Ld|%Nu", -4, 7, least, 7, 70000, 70000, 1ll << 40, 1, 2, 3u),
         u"7   |7|4464|4464|1099511627776|1|2|3");
     EXPECT_EQ(FormatString(u"%.0d|%#.0o|%#o|%#o|%#.3o", 0, 0, 0, 8, 8), u"|0|0|010|010");
-    EXPECT_EQ(FormatString(u"%#g|%#g|%#g", 123456.0, 1234567.0, 0.00001), u"123456.|1.23457e+06|1.00000e-05");
+    EXPECT_EQ(FormatString(u"%#g|%#g|%#g|%#g", 123456.0, 1234567.0, 0.0001, 0.00001),
+              u"123456.|1.23457e+06|0.000100000|1.00000e-05");
     EXPECT_EQ(FormatString(u"%p", reinterpret_cast<void*>(0xABC)), u"0000000000000ABC");
     EXPECT_EQ(FormatString(u"%y|%I6d|%-5I32d|%"), u"%y|%I6d|%-5I32d|%"); // none of them is a placeholder
 }

@@ -210,6 +210,7 @@ TEST(CDateTime, AnOffsetIsUtcToo) {
     EXPECT_TRUE(value.IsUTC() && value.HasTimeZone());
     EXPECT_TRUE(value.GetZoneHour() == -23 && value.GetZoneMinute() == 59);
     EXPECT_EQ(InvalidValue([&] { value.SetTimeZone(24, 0); }), "Invalid TimeZone [24:0]");
+    EXPECT_EQ(InvalidValue([&] { value.SetTimeZone(-24, 0); }), "Invalid TimeZone [-24:0]");
     EXPECT_EQ(value.ToString(), u"2001-05-12-23:59");
     value.SetUTC();
     EXPECT_EQ(value.ToString(), u"2001-05-12Z");
