@@ -205,18 +205,17 @@ void XMLCALL CExpatReader::CharacterDataHandler(void* reader, const XML_Char* te
     const std::string_view piece(text, static_cast<std::size_t>(length));
     TextArena& texts = *static_cast<CExpatReader*>(reader)->m_texts;
     if (!texts.HasRoom(piece.size()))
-        return OtherDataHandler(reader, text, length);
+        return TakeOtherData(reader, text, length);
     if (length != 1) {
         if (!texts.TryWriteAscii(piece))
-            OtherDataHandler(reader, text, length);
+            TakeOtherData(reader, text, length);
     } else if (*text != '\r') { // a line feed mostly, which is ASCII as all that is one byte
         texts.WriteUnit(static_cast<unsigned char>(*text));
     }
 }
 
 /// The same for any text. Apart, since what is usual takes only a few instructions.
-[[gnu::noinline]] void XMLCALL CExpatReader::OtherDataHandler(void* reader, const XML_Char* text,
-                                                              int length) {
+[[gnu::noinline]] void CExpatReader::TakeOtherData(void* reader, const XML_Char* text, int length) {
     const std::string_view piece(text, static_cast<std::size_t>(length));
     if (piece != "\r")
         Handle(reader, [piece](CExpatReader& self) { self.AppendText(piece); });

@@ -53,7 +53,7 @@ private:
     static void XMLCALL StartNamespaceDeclHandler(void* reader, const XML_Char* prefix, const XML_Char* uri);
     static void XMLCALL EndNamespaceDeclHandler(void* reader, const XML_Char* prefix);
     static void XMLCALL CharacterDataHandler(void* reader, const XML_Char* text, int length);
-    static void XMLCALL OtherDataHandler(void* reader, const XML_Char* text, int length);
+    static void TakeOtherData(void* reader, const XML_Char* text, int length);
     static void XMLCALL MixedDataHandler(void* reader, const XML_Char* text, int length);
     static void XMLCALL EntityDeclHandler(void* reader, const XML_Char* name, int isParameter,
                                           const XML_Char* text, int length, const XML_Char* base,

@@ -108,6 +108,7 @@ std::size_t CopyUntil(char16_t* to, std::u16string_view text) {
 /// itself. Inline, since the texts of documents are short.
 template <class Stops>
 inline std::size_t CopyStringUntil(char16_t* to, const std::u16string& text) {
+    static_assert(sizeof(std::u16string) >= unitsAtOnce * sizeof(char16_t) + sizeof(void*));
     assert(text.capacity() + 1 >= unitsAtOnce);
     const std::size_t size = text.size();
     if (size < unitsAtOnce &&

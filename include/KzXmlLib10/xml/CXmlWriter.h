@@ -72,7 +72,7 @@ public:
     struct LeafName {
         const std::u16string& local;
         const std::u16string& namespaceUri;
-        /// Tells the name from every other one, at any time, so that the writer knows it again; 0 does not.
+        /// That of a UniqueNumber which stands for this name alone, so that it is known again; 0 for none.
         std::uint64_t number = 0;
     };
     /// Writes an element that holds a text, or nothing if that is empty: what StartElement, WriteText and
