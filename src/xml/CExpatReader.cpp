@@ -20,8 +20,9 @@ namespace KzXmlLib10 {
 
 namespace {
 
-/// The most that one call of XML_Parse is given: its length is an int.
-constexpr std::size_t SliceSize = 1u << 30;
+/// The most that one call of XML_Parse is given: its length is an int, and what is left over of a slice goes
+/// into a buffer of two and more of them, whose length is an int as well.
+constexpr std::size_t SliceSize = 1u << 28;
 
 /// The most of a text that enters the tree before it is charged.
 constexpr std::size_t TextSliceSize = 1u << 14;
