@@ -300,15 +300,15 @@ void EncodeHalfGibibyte(const std::string&) {
         throw CKzException(u"the text is cut");
 }
 
-void ReportGibibytes(const char* name, const Measured& measured) {
+void ReportGibibytes(const char* name, const Measured& measured, double most = 4) {
     const std::string_view outcome = measured.outcome;
-    report.Line(outcome != "died" && outcome != "the text is cut" && measured.peak <= 4.0 * (1 << 30),
+    report.Line(outcome != "died" && outcome != "the text is cut" && measured.peak <= most * (1 << 30),
                 "%-27s %.1f s, %.2f GiB: %s", name, measured.seconds, measured.peak / (1 << 30),
                 measured.outcome);
 }
 
 /// A few megabytes of gzip that hold gigabytes.
-void MeasureBomb(const char* name, std::string_view unit, int mebibytes) {
+void MeasureBomb(const char* name, std::string_view unit, int mebibytes, double most = 4) {
     const auto bomb = [=](std::size_t) {
         CBinaryData data;
         const std::string elements = Filled(unit, 1 << 20);
@@ -317,7 +317,7 @@ void MeasureBomb(const char* name, std::string_view unit, int mebibytes) {
         Compress(data, CompressionType_GZip);
         return FromBinary(data);
     };
-    ReportGibibytes(name, Measure({name, bomb, LoadStream}, 0));
+    ReportGibibytes(name, Measure({name, bomb, LoadStream}, 0), most);
 }
 
 // Values of up to 4 KB
@@ -396,9 +396,9 @@ int main(int argc, char** argv) {
         MeasureBomb("bomb of elements", "<a/>", 1023);
         MeasureBomb("bomb of text", "x", 1023);
         MeasureBomb("bomb beyond the limit", "x", 1025);
-        limits.inflatedBytes = 0xFFFFFFFF;
+        limits.inflatedBytes = 0xFFFFFFFF; // which takes more than 4 GiB
         SetLimits(limits);
-        MeasureBomb("comments beyond 2 GiB", "<!--x-->", 2100);
+        MeasureBomb("comments beyond 2 GiB", "<!--x-->", 2100, 4.5);
     }
     return report.ExitCode();
 }
