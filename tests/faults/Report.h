@@ -34,9 +34,18 @@ inline const char* Option(int argc, char** argv, const char* name, const char* o
     return otherwise;
 }
 
-/// Whether times and depths mean anything: not in a debug build, as those with sanitizers are, too.
+#if !defined(__has_feature)
+#    define __has_feature(name) 0
+#endif
+#if defined(__SANITIZE_ADDRESS__) || __has_feature(address_sanitizer) || __has_feature(thread_sanitizer)
+constexpr bool isSanitized = true;
+#else
+constexpr bool isSanitized = false;
+#endif
+
+/// Whether times mean anything: not in a debug build, nor under a sanitizer.
 #ifdef NDEBUG
-constexpr bool isFast = true;
+constexpr bool isFast = !isSanitized;
 #else
 constexpr bool isFast = false;
 #endif

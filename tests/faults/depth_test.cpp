@@ -97,7 +97,7 @@ public:
     }
 
     void TimeFailures() const {
-        const std::size_t levels = faults::isFast ? 5000 : 1000;
+        const std::size_t levels = faults::isSanitized ? 1000 : 5000;
         double whole = 1e9, half = 1e9;
         for (int round = 0; round < 5; ++round) {
             whole = std::min(whole, SecondsToFail(levels));
@@ -141,7 +141,7 @@ int main(int argc, char** argv) {
     const Objects objects;
     objects.FindTheLimit("main thread", 0, levels);
     RunOnStack(8 << 20, [&] {
-        objects.FindTheLimit("8 MiB of stack", faults::isFast ? 5000 : 1000, levels);
+        objects.FindTheLimit("8 MiB of stack", faults::isSanitized ? 1000 : 5000, levels);
         objects.TimeFailures();
     });
     RunOnStack(512 * 1024, [&] { objects.FindTheLimit("512 KiB of stack", 1, levels); });
