@@ -8,6 +8,7 @@
 
 #include <zlib.h>
 
+#include <algorithm>
 #include <limits>
 #include <memory>
 #include <new>
@@ -62,6 +63,13 @@ bool MayBeCompressed(const unsigned char* data, unsigned long size) {
     return size > 0 && (data[0] == 0x1F || (data[0] & 0x0F) == Z_DEFLATED);
 }
 
+/// How long the content will be if the rest is as dense as what was read: room that is made once is not
+/// copied again and again. What stands already vouches for sixteen times its length.
+std::uint64_t ExpectedLength(const z_stream& stream, std::uint64_t inputSize, std::uint64_t limit) {
+    const std::uint64_t content = stream.total_out * inputSize / std::max(stream.total_in, 1UL);
+    return std::min({content, 16 * std::uint64_t{stream.total_out}, limit});
+}
+
 [[noreturn]] void FailToCompress(int code) { Throw<CKzException>(messages::CompressionFailed, code); }
 
 } // namespace
@@ -110,12 +118,17 @@ bool Inflate(const unsigned char* data, unsigned long size, CBinaryData& content
     if (Checked(inflateInit2(&stream, eitherFormat)) != Z_OK)
         return false;
     const ByteArray block(new unsigned char[blockSize]);
+    std::uint64_t room = 0;
     int result;
     do { // anything but Z_OK ends it: a stream that asks for a dictionary would ask for ever
         stream.SetOutput(block.get(), blockSize);
         result = Checked(inflate(&stream, Z_NO_FLUSH));
         if (stream.total_out > limit)
             Throw<CKzException>(messages::InflatedTooLong, limit);
+        if (stream.total_out > room) {
+            room = ExpectedLength(stream, size, limit);
+            content.Reserve(room - content.GetLength());
+        }
         content.Append(block.get(), blockSize - stream.avail_out);
     } while (result == Z_OK);
     return result == Z_STREAM_END;
