@@ -1,7 +1,5 @@
 #include "CAddress.h"
 
-#include "SimpleTypes.h"
-
 #include <KzXmlLib10/metadata/CElementInfoSeq.h>
 
 namespace orders {

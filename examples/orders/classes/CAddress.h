@@ -2,6 +2,7 @@
 #pragma once
 
 #include "GeneratedObject.h"
+#include "SimpleTypes.h"
 
 #include <optional>
 #include <string>
@@ -9,7 +10,7 @@
 namespace orders {
 
 /// The complex type AddressType.
-class CAddress : public CGeneratedObject {
+class CAddress : public CObjectIn<ordersNamespace> {
 public:
     explicit CAddress(const char16_t* elementName);
 

@@ -10,7 +10,7 @@ namespace orders {
 inline constexpr char16_t shipmentNamespace[] = u"urn:example:shipment";
 
 /// The abstract complex type CarrierType.
-class CCarrier : public CGeneratedObject {
+class CCarrier : public CObjectIn<shipmentNamespace> {
 public:
     const std::u16string& GetName() const { return m_name; }
     /// Throws CKzException for a value that the facets refuse.

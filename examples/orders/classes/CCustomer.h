@@ -6,7 +6,7 @@
 namespace orders {
 
 /// The complex type CustomerType.
-class CCustomer : public CGeneratedObject {
+class CCustomer : public CObjectIn<ordersNamespace> {
 public:
     explicit CCustomer(const char16_t* elementName);
 

@@ -3,6 +3,7 @@
 
 #include "GeneratedObject.h"
 #include "ObjectCollection.h"
+#include "SimpleTypes.h"
 
 #include <KzXmlLib10/values/CDecimal.h>
 
@@ -12,7 +13,7 @@
 namespace orders {
 
 /// The complex type ItemType.
-class CItem : public CGeneratedObject {
+class CItem : public CObjectIn<ordersNamespace> {
 public:
     explicit CItem(const char16_t* elementName);
 

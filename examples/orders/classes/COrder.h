@@ -12,7 +12,7 @@
 namespace orders {
 
 /// The complex type OrderType.
-class COrder : public CGeneratedObject {
+class COrder : public CObjectIn<ordersNamespace> {
 public:
     explicit COrder(const char16_t* elementName);
 

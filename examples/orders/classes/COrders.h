@@ -6,7 +6,7 @@
 namespace orders {
 
 /// The complex type OrdersType, and the element orders: the root of a document.
-class COrders : public CGeneratedObject {
+class COrders : public CObjectIn<ordersNamespace> {
 public:
     explicit COrders(const char16_t* elementName = u"orders");
 

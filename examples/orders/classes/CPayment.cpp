@@ -1,7 +1,6 @@
 #include "CPayment.h"
 
 #include "ClassFactory.h"
-#include "SimpleTypes.h"
 
 #include <KzXmlLib10/metadata/CElementInfoChoice.h>
 #include <KzXmlLib10/metadata/CElementInfoSeq.h>

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "GeneratedObject.h"
+#include "SimpleTypes.h"
 
 #include <optional>
 #include <string>
@@ -9,7 +10,7 @@
 namespace orders {
 
 /// The complex type CardType.
-class CCard : public CGeneratedObject {
+class CCard : public CObjectIn<ordersNamespace> {
 public:
     explicit CCard(const char16_t* elementName);
 
@@ -36,7 +37,7 @@ private:
 };
 
 /// The complex type TransferType.
-class CTransfer : public CGeneratedObject {
+class CTransfer : public CObjectIn<ordersNamespace> {
 public:
     explicit CTransfer(const char16_t* elementName);
 
@@ -63,7 +64,7 @@ private:
 };
 
 /// The complex type PaymentType: one of its members is set, the others are null.
-class CPayment : public CGeneratedObject {
+class CPayment : public CObjectIn<ordersNamespace> {
 public:
     explicit CPayment(const char16_t* elementName);
 

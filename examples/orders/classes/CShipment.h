@@ -11,7 +11,7 @@
 namespace orders {
 
 /// The complex type ShipmentType, and the element shipment.
-class CShipment : public CGeneratedObject {
+class CShipment : public CObjectIn<shipmentNamespace> {
 public:
     explicit CShipment(const char16_t* elementName = u"shipment");
 

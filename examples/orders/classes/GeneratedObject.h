@@ -12,6 +12,7 @@
 
 #include <atomic>
 #include <initializer_list>
+#include <iterator>
 #include <string>
 #include <utility>
 
@@ -25,8 +26,6 @@ class CGeneratedObject : public CXmlGeneratedClass {
 public:
     using CXmlObjectBase::GetBase;
     CXmlObjectBase* GetBase() override { return this; }
-    std::u16string GetTargetNamespace() const override { return GetClassInfo()->GetElementNamespace(); }
-    std::u16string GetNamespace() const override { return GetClassInfo()->GetElementNamespace(); }
 
 protected:
     struct Tables {
@@ -112,6 +111,15 @@ private:
             descriptor->CheckRestriction(value);
         FromVariant(value, member);
     }
+};
+
+/// What the classes of one schema share: its target namespace.
+template <const auto& targetNamespace>
+class CObjectIn : public CGeneratedObject {
+public:
+    std::u16string GetTargetNamespace() const override { return GetNamespace(); }
+    // Reading asks for it with each child, so nothing is looked up.
+    std::u16string GetNamespace() const override { return {targetNamespace, std::size(targetNamespace) - 1}; }
 };
 
 } // namespace orders
