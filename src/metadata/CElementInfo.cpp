@@ -2,6 +2,7 @@
 
 #include "metadata/Messages.h"
 #include "object/NotNull.h"
+#include "object/RecursionLevel.h"
 
 #include <KzXmlLib10/object/CXmlGeneratedClass.h>
 #include <KzXmlLib10/object/CXmlSerializationContext.h>
@@ -80,6 +81,7 @@ CXmlElement* CElementInfo::FromXml_Int(CXmlObjectBase* object, CXmlElement* elem
 
 void CElementInfo::AttributesToXml_Int(const CXmlObjectBase* object, CXmlWriter* writer,
                                        const CXmlSerializationContext& context) {
+    const RecursionLevel level; // groups inside each other come here without an element in between
     object->AttributesToXml_Int(writer, context);
 }
 

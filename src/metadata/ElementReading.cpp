@@ -3,10 +3,12 @@
 #include <KzXmlLib10/metadata/CElementInfo.h>
 
 #include "metadata/Messages.h"
-#include "object/SchemaInstance.h"
+#include "object/BooleanWords.h"
+#include "object/Messages.h"
 #include "object/TextScan.h"
 #include "object/Throw.h"
 #include "xml/ElementText.h"
+#include "xml/SchemaInstanceAttribute.h"
 
 #include <KzXmlLib10/collections/CElement.h>
 #include <KzXmlLib10/collections/CElementCol.h>
@@ -55,7 +57,7 @@ bool CElementInfo::SeekElement(const CXmlSerializationContext& context, CXmlElem
 bool CElementInfo::IsNil(const CXmlElement& element) const {
     if (!element.HasAttributes())
         return false;
-    const std::u16string& value = element.GetAttribute(nilAttribute, schemaInstanceNamespace);
+    const std::u16string& value = SchemaInstanceAttribute(element, u"nil");
     if (value.empty() || IsFalseWord(value))
         return false;
     if (!m_nillable)

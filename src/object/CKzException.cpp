@@ -10,19 +10,20 @@ namespace KzXmlLib10 {
 
 namespace {
 
-/// True while a chain is copied link by link, so that the copy constructor leaves the inner exception to the
-/// loop. Recursion would cost stack for every element of the path that the chain describes.
-thread_local bool copyingOneLink = false;
+/// The link that is copied while a chain is copied link by link, so that the copy constructor leaves its
+/// inner exception to the loop. Recursion would cost stack for every element of the path that the chain
+/// describes.
+thread_local constinit const CKzException* linkInCopy = nullptr;
 
 class OneLink {
 public:
-    OneLink() : m_before(std::exchange(copyingOneLink, true)) {}
-    ~OneLink() { copyingOneLink = m_before; }
+    explicit OneLink(const CKzException& link) : m_before(std::exchange(linkInCopy, &link)) {}
+    ~OneLink() { linkInCopy = m_before; }
     OneLink(const OneLink&) = delete;
     OneLink& operator=(const OneLink&) = delete;
 
 private:
-    bool m_before;
+    const CKzException* m_before;
 };
 
 } // namespace
@@ -40,7 +41,7 @@ CKzException::CKzException(MoveInner, std::u16string message, CKzException& caug
 
 CKzException::CKzException(const CKzException& other)
     : m_message(other.m_message),
-      m_innerException(copyingOneLink ? nullptr : CopyChain(other.m_innerException)) {}
+      m_innerException(linkInCopy == &other ? nullptr : CopyChain(other.m_innerException)) {}
 
 CKzException& CKzException::operator=(const CKzException& other) {
     m_message = other.m_message;
@@ -76,19 +77,22 @@ CKzException* CKzException::CopyChain(const CKzException* head) {
     CKzException chain;
     CKzException* last = &chain;
     for (const CKzException* link = head; link; link = link->m_innerException) {
-        OneLink guard;
-        last->m_innerException = link->Clone();
+        last->m_innerException = CloneOne(*link);
         last = last->m_innerException;
     }
     return std::exchange(chain.m_innerException, nullptr);
 }
 
+CKzException* CKzException::CloneOne(const CKzException& link) {
+    const OneLink guard(link);
+    CKzException* const clone = link.Clone();
+    delete std::exchange(clone->m_innerException,
+                         nullptr); // which a class of the application may have copied
+    return clone;
+}
+
 CKzException* CKzException::MoveToHeap(CKzException& caught) {
-    CKzException* moved;
-    {
-        OneLink guard;
-        moved = caught.Clone();
-    }
+    CKzException* const moved = CloneOne(caught);
     moved->m_innerException = std::exchange(caught.m_innerException, nullptr);
     return moved;
 }

@@ -13,7 +13,8 @@ using KzXmlLib10Data::CAttributeInfo;
 using KzXmlLib10Data::CElementInfo;
 using KzXmlLib10Data::CParentElementInfo;
 
-CKZCriticalSection CXmlGeneratedClass::m_csInit;
+// Ready before the static objects of a program that links the library into itself.
+[[gnu::init_priority(101)]] CKZCriticalSection CXmlGeneratedClass::m_csInit;
 
 CXmlGeneratedClass::CXmlGeneratedClass() = default;
 CXmlGeneratedClass::CXmlGeneratedClass(const CXmlGeneratedClass& other) = default;

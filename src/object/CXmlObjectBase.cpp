@@ -43,7 +43,7 @@ void CXmlObjectBase::TakeElementName(const std::u16string& name) {
 }
 
 void CXmlObjectBase::SetElementName(CXmlObjectBase* object, const char16_t* name) {
-    object->SetElementName(name);
+    NotNull(object, u"object")->SetElementName(name);
 }
 
 void CXmlObjectBase::AttributesToXml_Int(CXmlWriter*, const CXmlSerializationContext&) const {}

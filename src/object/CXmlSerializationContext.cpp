@@ -4,7 +4,8 @@
 
 namespace KzXmlLib10 {
 
-CXmlSerializationContext CXmlSerializationContext::m_defaultContext;
+// Ready before the static objects of a program that links the library into itself.
+[[gnu::init_priority(101)]] CXmlSerializationContext CXmlSerializationContext::m_defaultContext;
 
 CXmlSerializationContext::CXmlSerializationContext() = default;
 CXmlSerializationContext::CXmlSerializationContext(const CXmlSerializationContext& other) = default;

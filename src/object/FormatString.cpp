@@ -1,5 +1,7 @@
 #include <KzXmlLib10/object/FormatString.h>
 
+#include "object/NotNull.h"
+
 #include <algorithm>
 #include <charconv>
 #include <cmath>
@@ -300,6 +302,7 @@ private:
 } // namespace
 
 std::u16string FormatString(const char16_t* format, ...) {
+    NotNull(format, u"format");
     std::va_list arguments;
     va_start(arguments, format);
     std::u16string text = Formatter(format, arguments).Run();

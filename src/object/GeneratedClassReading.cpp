@@ -2,9 +2,9 @@
 
 #include <KzXmlLib10/object/CXmlGeneratedClass.h>
 
+#include "object/BooleanWords.h"
 #include "object/Messages.h"
 #include "object/RecursionLevel.h"
-#include "object/SchemaInstance.h"
 #include "object/Throw.h"
 
 #include <KzXmlLib10/metadata/CAttributeInfo.h>

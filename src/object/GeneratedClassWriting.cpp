@@ -116,7 +116,6 @@ inline void CXmlGeneratedClass::WritePrimitiveValue(CXmlWriter* writer) const {
 void CXmlGeneratedClass::AttributesToXml_Int(CXmlWriter* writer,
                                              const CXmlSerializationContext& context) const {
     try {
-        const RecursionLevel level; // groups inside each other come here without an element in between
         if (context.GetWriteTypeAttribute()) {
             const CParentElementInfo* info = GetClassInfo();
             if (info->GetHasBaseClasses() && ElementName() != info->GetElementName())

@@ -16,6 +16,24 @@ TEST(CKzException, ChainsAreJoinedByLineFeedsConvertedAndCloned) {
     EXPECT_NE(dynamic_cast<const CKzInvalidValueException*>(cause), nullptr);
 }
 
+TEST(CKzException, ClassesOfTheApplicationAreCopiedWhole) {
+    struct CWithMember : CKzException {
+        CWithMember() : CKzException(u"a"), other(u"b", CKzException(u"c")) {}
+        CKzException* Clone() const override { return new CWithMember(*this); }
+        CKzException other;
+    };
+    struct CWithCopiedChain : CKzException {
+        using CKzException::CKzException;
+        CKzException* Clone() const override {
+            return new CWithCopiedChain(GetMessageW(), *GetInnerException());
+        }
+    };
+    const CKzException around(u"x", CWithMember());
+    EXPECT_EQ(dynamic_cast<const CWithMember&>(*around.GetInnerException()).other.GetFullMessage(), u"b\nc");
+    const CKzException twice(u"x", CWithCopiedChain(u"y", CKzException(u"z"))); // leaks nothing
+    EXPECT_EQ(CKzException(twice).GetFullMessage(), u"x\ny\nz");
+}
+
 TEST(CKzException, LongChainsAreWrappedCopiedPrintedAndDestroyedWithoutRecursion) {
     // Two calls a link would take more than this stack.
     RunOnStack(256 << 10, [] {

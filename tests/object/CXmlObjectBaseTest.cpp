@@ -35,7 +35,9 @@ TEST(CSmartPtr, AssignsWhatTheOldObjectOwns) {
     EXPECT_EQ(head, second);
     CSmartPtr<CLink>& self = head;
     head = self;
-    EXPECT_EQ(head->AddRef(), 2);
+    CSmartPtr<CXmlObjectBase> base;
+    base = head;
+    EXPECT_EQ(head->AddRef(), 3);
     head->Release();
 }
 

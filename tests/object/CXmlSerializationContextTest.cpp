@@ -2,6 +2,9 @@
 
 namespace {
 
+/// As a static object of a program that links the library into itself may do, before main.
+const bool stripsCDataBeforeMain = CXmlSerializationContext::GetDefaultContext().GetStripCDATA();
+
 TEST(CXmlSerializationContext, SchemaTypeWithoutNamespacesIgnoresThemWhateverTheFlag) {
     CXmlSerializationContext context;
     context.SetSchemaType(SchemaType_NoNamespaces);
@@ -9,6 +12,10 @@ TEST(CXmlSerializationContext, SchemaTypeWithoutNamespacesIgnoresThemWhateverThe
     EXPECT_TRUE(context.GetIgnoreNamespaces());
     context.SetSchemaType(static_cast<SchemaType>(1));
     EXPECT_FALSE(context.GetIgnoreNamespaces());
+}
+
+TEST(CXmlSerializationContext, TheDefaultOneIsReadyBeforeOtherStaticObjects) {
+    EXPECT_TRUE(stripsCDataBeforeMain);
 }
 
 TEST(CXmlSerializationContext, UnknownAndMissingElementsAreNotIgnoredTogether) {

@@ -57,6 +57,17 @@ TEST(Limits, EachFigureBoundsItsWork) {
     }
 }
 
+TEST(Limits, WhatIsReadAtTheDeepestLevelIsWritten) {
+    kit::Model leaf(u"n");
+    leaf.Attribute(u"id", kit::Optional, ItemType_string);
+    kit::Model root(u"n");
+    root.Class(u"n", kit::Opt, leaf);
+    LimitsScope limits(&Limits::nestedObjects, 2);
+    const auto object = root.New();
+    object->FromXml(u"<n><n id='x'/></n>", CXmlSerializationContext());
+    EXPECT_EQ(Text(*object), "<n><n id=\"x\"/></n>");
+}
+
 TEST(Limits, AreSetTogetherOrNotAtAll) {
     const LimitsScope unchanged;
     Limits limits;

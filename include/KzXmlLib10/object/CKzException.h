@@ -52,6 +52,7 @@ private:
     friend struct ExceptionAccess;
 
     static CKzException* CopyChain(const CKzException* head);
+    static CKzException* CloneOne(const CKzException& link);
     static CKzException* MoveToHeap(CKzException& caught);
 
     std::u16string m_message;

@@ -33,6 +33,10 @@ public:
         return *this;
     }
     CSmartPtr& operator=(const CSmartPtr& other) { return *this = other.m_object; }
+    template <class U>
+    CSmartPtr& operator=(const CSmartPtr<U>& other) {
+        return *this = static_cast<U*>(other);
+    }
     CSmartPtr& operator=(CSmartPtr&& other) noexcept {
         CSmartPtr(std::move(other)).Swap(*this);
         return *this;

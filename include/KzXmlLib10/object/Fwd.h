@@ -1,6 +1,6 @@
 #pragma once
 
-/// Declares every class of the library without defining it.
+/// Declares the classes that signatures of the library refer to, without defining them.
 
 namespace KzXmlLib10 {
 

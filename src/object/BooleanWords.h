@@ -1,15 +1,8 @@
 #pragma once
 
-#include "object/Messages.h"
-
-#include <string>
 #include <string_view>
 
 namespace KzXmlLib10 {
-
-inline const std::u16string schemaInstanceNamespace = u"http://www.w3.org/2001/XMLSchema-instance";
-inline const std::u16string nilAttribute = u"nil";
-inline const std::u16string typeAttribute = u"type";
 
 /// Whether the text is `word` (lower-case ASCII), in any mixture of cases.
 constexpr bool IsWord(std::u16string_view text, std::u16string_view word) {
