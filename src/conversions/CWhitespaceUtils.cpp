@@ -1,6 +1,7 @@
 #include <KzXmlLib10/conversions/CWhitespaceUtils.h>
 
 #include "conversions/Messages.h"
+#include "object/NotNull.h"
 #include "object/TextScan.h"
 #include "object/Throw.h"
 
@@ -57,7 +58,8 @@ std::u16string CWhitespaceUtils::Preserve(const std::u16string& text) {
 std::u16string CWhitespaceUtils::Preserve(const char16_t* text, std::int32_t length) {
     if (length <= 0)
         return {};
-    return WithLineFeeds(UpToNul(std::u16string_view(text, static_cast<std::size_t>(length))));
+    return WithLineFeeds(
+        UpToNul(std::u16string_view(NotNull(text, u"text"), static_cast<std::size_t>(length))));
 }
 
 std::u16string CWhitespaceUtils::Replace(const std::u16string& text) {

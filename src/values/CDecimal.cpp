@@ -86,7 +86,7 @@ CDecimal::CDecimal(long value) : m_integral(value), m_divider(1) {}
 
 CDecimal::CDecimal(long long value) : m_integral(value), m_divider(1) {}
 
-CDecimal::CDecimal(double value) : m_divider(1) { Parse(FormatString(u"%.13f", value).c_str()); }
+CDecimal::CDecimal(double value) : m_divider(1) { Parse(FormatString(u"%.13f\n", value).c_str()); }
 
 CDecimal::CDecimal(const CBigInteger& value) : m_integral(value), m_divider(1) {}
 
@@ -105,6 +105,8 @@ CDecimal CDecimal::FromScaled(CBigInteger value, std::int32_t places) {
     const std::int32_t sign = value.IsZero() ? 1 : value.m_sign;
     Digits low = TakeLow(value.m_digits, static_cast<std::size_t>(places));
     CDecimal result(CBigInteger(sign, std::move(value.m_digits)), CBigInteger(sign, std::move(low)), places);
+    if (result.m_fractional.IsZero())
+        result.m_fractional.m_sign = 1;
     result.Rationalise();
     result.LimitPlaces();
     return result;

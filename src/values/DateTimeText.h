@@ -8,7 +8,7 @@
 namespace KzXmlLib10 {
 
 /// The text of a date, time or duration while it is made, on the stack. All of their fields together have at
-/// most 70 digits.
+/// most 90 digits and 10 marks.
 class DateTimeText {
 public:
     DateTimeText& operator+=(char16_t unit) {
@@ -55,7 +55,7 @@ public:
     std::u16string Get() const { return std::u16string(m_units, static_cast<const char16_t*>(m_end)); }
 
 private:
-    char16_t m_units[96];
+    char16_t m_units[100];
     char16_t* m_end = m_units;
 };
 

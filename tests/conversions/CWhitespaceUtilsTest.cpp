@@ -35,7 +35,8 @@ TEST(CWhitespaceUtils, PreserveOfUnterminatedCharactersStaysInside) {
     EXPECT_EQ(CWhitespaceUtils::Preserve(units, 4), u"a\nb");
     EXPECT_EQ(CWhitespaceUtils::Preserve(u"a\0b", 3), u"a");
     EXPECT_EQ(CWhitespaceUtils::Preserve(units, 0), u"");
-    EXPECT_EQ(CWhitespaceUtils::Preserve(units, -1), u"");
+    EXPECT_EQ(CWhitespaceUtils::Preserve(nullptr, -1), u"");
+    EXPECT_THROW(CWhitespaceUtils::Preserve(nullptr, 1), CKzInvalidParamException);
 }
 
 TEST(CWhitespaceUtils, UnknownRuleThrowsTheRootException) {

@@ -20,6 +20,9 @@ TEST(CDateTimeSpan, WhatIsReadIsWritten) {
                 "PT4294967295.5S -> PT18446744073709551615.5S"},
                Read);
     EXPECT_EQ(Span(u"PT1.5S2YT.7S").GetMilliSeconds(), 1200); // a second series adds to the fraction
+    const std::u16string series = Repeat<std::u16string>(u"YT.999999S", 64);
+    EXPECT_EQ(Span((u"-P" + series + u"1Y4294967295DT4294967295M4294967295S").c_str()).ToString(),
+              u"-P1Y4294967295DT18446744073709551615M18446744073709551615.6393663936S");
 }
 
 TEST(CDateTimeSpan, BadFormsAreRefusedAndLeaveNothing) {
@@ -53,6 +56,11 @@ TEST(CDateTimeSpan, SettingClearsTheSignAndWhatIsNotNamed) {
     span.SetMicroSeconds(6);
     span.SetNanoSeconds(7);
     EXPECT_EQ(span.ToString(), u"P1Y15M40DT50H70M0.5000006007S");
+    constexpr std::uint32_t most = 0xFFFFFFFF;
+    CDateTimeSpan longest(0xFFFF, most, most, most, ~0ull, ~0ull, 0xFFFF, 0xFFFF, 0xFFFF);
+    longest.Negate();
+    EXPECT_EQ(longest.ToString(), u"-P65535Y4294967295M4294967295DT4294967295H18446744073709551615M"
+                                  u"18446744073709551615.655356553565535S");
 }
 
 TEST(CDateTimeSpan, AsNegativeIsNoNegation) {
