@@ -168,7 +168,9 @@ void CFastInfosetWriter::FlushPendingElement(bool hasAttribute) {
     CXmlWriterContext& context = *m_pendingContext;
     context.m_hasAttributes = hasAttribute;
     Byte flag = hasAttribute ? HasAttributes : 0;
-    if (!m_context) {
+    if (m_context) {
+        context.InheritAgain(*m_context);
+    } else {
         WriteNamespaceAttributes(flag);
         flag = 0;
     }
@@ -266,9 +268,9 @@ void CFastInfosetWriter::WritePlainLeaf(const LeafName& name, const std::u16stri
 /// Writes the name of a leaf in the namespace of its parent, and remembers it once it is in its table.
 [[gnu::noinline]] void CFastInfosetWriter::WriteLeafName(KnownLeaf& known, const LeafName& name) {
     const std::uint64_t state = m_context->StateOfPrefix();
-    WriteElementName(0, m_context->m_prefix, name.namespaceUri, name.local, state);
+    WriteElementName(0, m_context->Prefix(), name.namespaceUri, name.local, state);
     const RecentName& recent = RecentNameOf(name.local);
-    if (name.number != 0 && IsRecent(recent, m_context->m_prefix, name.namespaceUri, name.local, state))
+    if (name.number != 0 && IsRecent(recent, m_context->Prefix(), name.namespaceUri, name.local, state))
         known = {name.number, state, recent.index};
 }
 

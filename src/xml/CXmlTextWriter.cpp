@@ -249,18 +249,18 @@ void CXmlTextWriter::EndElement() {
 }
 
 void CXmlTextWriter::WriteEndTag(CXmlWriterContext& context) {
+    const std::u16string* prefix = context.Prefix();
     if (!context.IsPrefixKnown()) { // the namespace state has changed since the start tag
         const std::u16string& uri = context.m_namespaceUri;
-        context.m_prefix = context.NeedsPrefix(uri) ? &context.GetAlias(uri) : nullptr;
+        prefix = context.NeedsPrefix(uri) ? &context.GetAlias(uri) : nullptr;
     }
     const std::size_t depth = context.m_childCount > 0 ? IndentDepth(context) : 0;
     const std::u16string& name = context.m_name;
-    char16_t* to =
-        Buffer().Reserve(IndentRoom(depth) + PrefixRoom(context.m_prefix) + name.size() + m_eol.size() + 3);
+    char16_t* to = Buffer().Reserve(IndentRoom(depth) + PrefixRoom(prefix) + name.size() + m_eol.size() + 3);
     to = PutIndent(to, depth);
     *to++ = u'<';
     *to++ = u'/';
-    to = PutUpToZero(PutPrefix(to, context.m_prefix), name);
+    to = PutUpToZero(PutPrefix(to, prefix), name);
     *to++ = u'>';
     Buffer().Commit(PutEol(to));
 }
@@ -281,7 +281,7 @@ inline const CXmlTextWriter::LeafTag* CXmlTextWriter::FindLeafTag(const LeafName
 /// Only the namespace of the parent is sure to need no declaration.
 [[gnu::noinline]] const CXmlTextWriter::LeafTag* CXmlTextWriter::MakeLeafTag(LeafTag& tag,
                                                                              const LeafName& name) {
-    const std::u16string* const prefix = m_context->m_prefix;
+    const std::u16string* const prefix = m_context->Prefix();
     if (!m_context->IsPrefixKnown() || !SameText(name.namespaceUri, m_context->m_namespaceUri) ||
         PrefixRoom(prefix) + name.local.size() >= LeafTag::room)
         return nullptr;

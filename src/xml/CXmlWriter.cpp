@@ -59,7 +59,7 @@ CXmlWriter::BoundPrefix CXmlWriter::BindPrefix(CXmlWriterContext& context, const
 
 CXmlWriter::NamePrefix CXmlWriter::BindName(CXmlWriterContext& context) {
     if (context.IsPrefixKnown())
-        return {context.m_prefix, false};
+        return {context.Prefix(), false};
     if (!context.NeedsPrefix(context.m_namespaceUri)) {
         context.SetPrefix(nullptr);
         return {nullptr, false};

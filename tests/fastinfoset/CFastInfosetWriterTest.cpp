@@ -78,6 +78,12 @@ TEST(CFastInfosetWriter, NamespaceAttributesStandOnTheRootOnly) {
                            "3F 83 83 80 FF F0"));          // the same prefix, made up again
 }
 
+TEST(CFastInfosetWriter, AnElementThatIsNotWrittenYetSeesTheNamespacesOfItsParent) {
+    const std::string start = header + "38 F0 3C 00 'r' 3C 00 'm' ";
+    EXPECT_EQ(Write("<r ' <m ' <{u}c +p=u > > >"), Hex(start + "3F 00 'p' 00 'u' 00 'c' FF FF"));
+    EXPECT_EQ(Write("<r ' <m ' <{u}c +=u > > >"), Hex(start + "3D 00 'u' 00 'c' FF FF"));
+}
+
 TEST(CFastInfosetWriter, XsiTypeHasTwoFormsForPrefixes) {
     EXPECT_EQ(
         Write("<a type=T nil >"), // in no namespace

@@ -128,6 +128,8 @@ protected:
 
         /// Whether the namespace state is that of an ancestor.
         bool InheritsNamespaces() const { return m_inherits; }
+        /// For an element that is not written yet, whose parent may have got a namespace state of its own.
+        void InheritAgain(const CXmlWriterContext& parent) { m_namespaces = parent.m_namespaces; }
         /// Whether names in the namespace are written with a prefix here.
         bool NeedsPrefix(const std::u16string& uri) const;
         /// Counts one more child element.
@@ -142,14 +144,15 @@ protected:
         std::u16string m_name;
         std::unique_ptr<CXmlWriterContext> m_parent;
         bool m_hasAttributes = false;
-        /// Whether `m_prefix` holds in the namespace state as it is now.
+        /// Whether the prefix holds in the namespace state as it is now.
         bool IsPrefixKnown() const;
         /// Remembers the prefix in the name of the element, or null for none. Restart with the same namespace
         /// keeps it.
         void SetPrefix(const std::u16string* prefix);
         /// The namespace state in which the prefix was found, which no other state shares its number with.
         std::uint64_t StateOfPrefix() const { return m_stateOfPrefix; }
-        const std::u16string* m_prefix = nullptr;
+        /// The prefix that was remembered, or null.
+        const std::u16string* Prefix() const { return m_prefix; }
 
     private:
         void OwnNamespaces();
@@ -158,6 +161,7 @@ protected:
         NamespaceMap* m_namespaces = nullptr;
         bool m_inherits = false;
         bool m_ownsMap = false;
+        const std::u16string* m_prefix = nullptr;
         std::uint64_t m_stateOfPrefix = 0; ///< the namespace state in which `m_prefix` was found
     };
 
