@@ -40,8 +40,7 @@ std::u16string CAttributeCol::GetNamespace() const { return m_elementNamespace; 
 std::u16string CAttributeCol::GetTargetNamespace() const { return m_elementNamespace; }
 
 CSmartPtr<CAttribute> CAttributeCol::Add(CAttribute* attribute) {
-    AppendItem(attribute);
-    return attribute;
+    return static_cast<CAttribute*>(&*AppendHeld(attribute));
 }
 
 CSmartPtr<CAttribute> CAttributeCol::Add(const char16_t* name) { return Add(name, u""); }

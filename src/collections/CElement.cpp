@@ -31,7 +31,19 @@ CElement::CElement(const char16_t* name, const char16_t* namespaceUri, const cha
 }
 
 CElement::CElement(const CElement& other) = default;
-CElement& CElement::operator=(const CElement& other) = default;
+CElement& CElement::operator=(const CElement& other) {
+    const CSmartPtr<CElementCol> held = m_childElements; // which may be what keeps `other` alive
+    CXmlObjectBase::operator=(other);
+    m_name = other.m_name;
+    m_text = other.m_text;
+    m_namespace = other.m_namespace;
+    m_namespaceRestriction = other.m_namespaceRestriction;
+    m_targetNamespace = other.m_targetNamespace;
+    m_attributes = other.m_attributes;
+    m_childElements = other.m_childElements;
+    m_defaultNamespace = other.m_defaultNamespace;
+    return *this;
+}
 CElement::~CElement() = default;
 
 void CElement::Init(const char16_t* name, const char16_t* namespaceUri, const char16_t* namespaceRestriction,

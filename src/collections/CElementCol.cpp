@@ -21,7 +21,13 @@ CElementCol::CElementCol(const char16_t* defaultNamespace, const char16_t* names
 }
 
 CElementCol::CElementCol(const CElementCol& other) = default;
-CElementCol& CElementCol::operator=(const CElementCol& other) = default;
+CElementCol& CElementCol::operator=(const CElementCol& other) {
+    m_namespaceRestriction = other.m_namespaceRestriction;
+    m_defaultNamespace = other.m_defaultNamespace;
+    m_targetNamespace = other.m_targetNamespace;
+    CXmlCollection::operator=(other); // last, since the items may be what keeps `other` alive
+    return *this;
+}
 CElementCol::~CElementCol() = default;
 
 std::u16string CElementCol::GetNamespace() const { return m_targetNamespace; }
@@ -30,8 +36,7 @@ std::u16string CElementCol::GetTargetNamespace() const { return m_targetNamespac
 CSmartPtr<CElement> CElementCol::Add(CElement* element) {
     KzXmlLib10::TestNamespace(NotNull(element, u"element")->m_namespace, m_namespaceRestriction,
                               m_targetNamespace);
-    AppendItem(element);
-    return element;
+    return static_cast<CElement*>(&*AppendHeld(element));
 }
 
 CSmartPtr<CElement> CElementCol::Add(const char16_t* name) {

@@ -46,13 +46,19 @@ CXmlCollection& CXmlCollection::operator=(const CXmlCollection& other) {
 }
 
 CXmlCollection::~CXmlCollection() {
-    while (m_head) {
+    const bool observed = HasEventListeners();
+    if (observed)
+        AddRef(); // a listener may hold the sender while it listens
+    // As many as there are, since a listener may add an item again.
+    for (std::int32_t left = m_count; observed && left > 0 && m_head; --left) {
         Swallow([&] { FireOnCollectionRemove(noIndex); });
         if (m_head)
             DropNode(m_head);
         Swallow([&] { FireOnCollectionRemoveComplete(noIndex); });
         Swallow([&] { FireOnCollectionChange(); });
     }
+    while (m_head)
+        DropNode(m_head);
 }
 
 int CXmlCollection::GetCount() const { return m_count; }
@@ -69,17 +75,20 @@ void CXmlCollection::AttributesToXml_Int(CXmlWriter* writer, const CXmlSerializa
 /// `findNext` finds the cell in front of which the item goes, or null for the end. It is asked behind the add
 /// event, which may change the list.
 template <class FindNext>
-void CXmlCollection::AddItem(CXmlObjectBase* item, FindNext findNext) {
+CSmartPtr<CXmlObjectBase> CXmlCollection::AddItem(CXmlObjectBase* item, FindNext findNext) {
     FireOnCollectionAdd(NotNull(item, u"item"));
     LinkInFrontOf(findNext(), item);
-    const CSmartPtr<CXmlObjectBase> held = item; // a listener may remove it before the others have heard
+    CSmartPtr<CXmlObjectBase> held = item; // a listener may remove it before the others have heard
     FireOnCollectionAddComplete(item);
     FireOnCollectionChange();
+    return held;
 }
 
-void CXmlCollection::AppendItem(CXmlObjectBase* item) {
-    AddItem(item, [] { return nullptr; });
+CSmartPtr<CXmlObjectBase> CXmlCollection::AppendHeld(CXmlObjectBase* item) {
+    return AddItem(item, [] { return nullptr; });
 }
+
+void CXmlCollection::AppendItem(CXmlObjectBase* item) { AppendHeld(item); }
 
 void CXmlCollection::PrependItem(CXmlObjectBase* item) {
     AddItem(item, [this] { return m_head; });
@@ -106,6 +115,7 @@ void CXmlCollection::AddItemAt(int index, CXmlObjectBase* item) {
 }
 
 void CXmlCollection::RemoveNode(CNode* node) {
+    NotNull(node, u"node");
     const bool observed = HasEventListeners();
     FireOnCollectionRemove(noIndex);
     if (observed)

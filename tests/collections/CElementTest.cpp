@@ -74,6 +74,17 @@ TEST(CElement, ClonesDeeplyAndCopiesShare) {
     EXPECT_EQ(Text(element), "<AA:r xmlns:AA=\"urn:r\" a=\"1\"/>");
 }
 
+TEST(CElement, WhatIsAssignedMayLiveInWhatItIsAssignedTo) {
+    CElement element(u"any");
+    element.FromXml(u"<a><b><c><d/></c></b></a>");
+    CElementCol& children = *element.GetChildElements();
+    const CElementCol& below = *children.begin()->GetChildElements(); // each is counted once
+    children = below;
+    EXPECT_EQ(Text(element), "<a><c><d/></c></a>");
+    element = *element.GetChildElements()->begin();
+    EXPECT_EQ(Text(element), "<c><d/></c>");
+}
+
 /// Whether an element fits a restriction of namespaces, or how it fails.
 std::string Check(CElement& element, const char16_t* restriction) {
     return Failure<CKzInvalidNamespaceException>([&] {

@@ -27,6 +27,7 @@ struct CItemCol : CXmlCollection {
     using CXmlCollection::GetNodeAtIndex;
     using CXmlCollection::GetNodeForItem;
     using CXmlCollection::PrependItem;
+    using CXmlCollection::RemoveNode;
     using CXmlCollectionBase::GetTargetNamespace;
 
     CKzIterator<CItem> begin() const { return CKzIterator<CItem>(m_head); }
@@ -112,6 +113,7 @@ TEST(CXmlCollection, RefusesBadIndexesAnchorsAndNull) {
         EXPECT_EQ(log.Of([&] { items.AddItemAt(index, stranger); }), "Index out of range");
     EXPECT_EQ(log.Of([&] { items.Remove(0); }), "Index 0 is out of range, use 0 - 0");
     EXPECT_EQ(log.Of([&] { items.AppendItem(nullptr); }), "The argument item may not be null");
+    EXPECT_EQ(log.Of([&] { items.RemoveNode(nullptr); }), "The argument node may not be null");
     items.Fill(u"ab");
     EXPECT_EQ(log.Of([&] { items.GetNodeAtIndex(-1); }), "Index -1 is out of range, use 0 - 2");
     EXPECT_EQ(log.Of([&] { items.GetNodeAtIndex(2); }), "Index 2 is out of range, use 0 - 2");
@@ -196,6 +198,24 @@ TEST(CXmlCollection, AListenerMayRemoveTheItemThatTheEventIsAbout) {
     EXPECT_EQ(InvalidParam([&] { items.Remove(0); }), "The object was not found in the collection");
     EXPECT_EQ(items.Names(), "b");
     log.during = nullptr; // the destructor fires events too
+}
+
+TEST(CXmlCollection, GoesWhileListenersHoldItOrAddItsItemsAgain) {
+    Log log;
+    const CSmartPtr<CItem> item = new CItem(u'a');
+    {
+        CItemCol items;
+        items.AppendItem(item);
+        log.Watch(items);
+        log.during = [&](IEventSink::MsgType type) {
+            const CSmartPtr<CItemCol> sender = &items;
+            if (type == MsgType_CollectionRemoveComplete)
+                items.AppendItem(item);
+        };
+    }
+    EXPECT_EQ(log.Take(), "remove(null) removed(null) add(a) added(a) change change ");
+    EXPECT_EQ(item->AddRef(), 2);
+    item->Release();
 }
 
 TEST(CXmlCollection, ACopySharesTheItemsInAListOfItsOwn) {

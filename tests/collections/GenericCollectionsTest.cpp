@@ -88,6 +88,18 @@ TEST(CElementCol, HoldsItsRestrictionAgainstTheDefaultNamespaceOnly) {
     EXPECT_EQ(Describe(elements), "{}v {urn:a}x {urn:b}y {}w {urn:c}z ");
 }
 
+TEST(CElementCol, AddGivesAnElementThatAListenerHasRemoved) {
+    EventLog log([](void*) { return std::string(); });
+    CElementCol elements(u"", u"##any", u"", 0, -1);
+    log.Watch(elements);
+    log.during = [&](IEventSink::MsgType type) {
+        if (type == IEventSink::MsgType_CollectionAddComplete)
+            elements.Remove(0);
+    };
+    EXPECT_EQ(elements.Add(new CElement(u"x"))->GetName(), u"x");
+    EXPECT_EQ(elements.GetCount(), 0);
+}
+
 TEST(CElementCol, AKeywordMayStandAsTheDefaultNamespace) {
     EXPECT_EQ(CElementCol(u"", u"##other", u"urn:t", 0, -1).Add(u"x")->GetNamespace(), u"##other");
     CElementCol none(u"", u"urn:a", u"", 0, -1);

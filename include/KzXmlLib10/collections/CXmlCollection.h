@@ -57,7 +57,8 @@ protected:
     /// Writes the attributes of all items onto the open start tag, for repeated groups.
     void AttributesToXml_Int(CXmlWriter* writer, const CXmlSerializationContext& context) const override;
 
-    // Adding tells the listeners first, and nothing is added if one throws. An item that is null throws
+    // Adding tells the listeners first, and nothing is added if one throws. The item is counted after that,
+    // so a listener may not count a fresh one meanwhile. An item that is null throws
     // CKzInvalidParamException.
 
     void AppendItem(CXmlObjectBase* item);
@@ -85,11 +86,15 @@ protected:
     std::int32_t m_count = 0;
 
 private:
+    friend class CAttributeCol;
+    friend class CElementCol;
     friend class KzXmlLib10Data::CAttributeInfo;
     friend class KzXmlLib10Data::CElementInfo;
 
+    /// As AppendItem. A listener may have removed the item again, which is then held by the caller alone.
+    CSmartPtr<CXmlObjectBase> AppendHeld(CXmlObjectBase* item);
     template <class FindNext>
-    void AddItem(CXmlObjectBase* item, FindNext findNext);
+    CSmartPtr<CXmlObjectBase> AddItem(CXmlObjectBase* item, FindNext findNext);
     void ShareItemsOf(const CXmlCollection& other);
     void LinkInFrontOf(CNode* next, CXmlObjectBase* item);
     void RequireNode(const CNode* node) const;
