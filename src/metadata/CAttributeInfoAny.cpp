@@ -41,8 +41,9 @@ bool CAttributeInfoAny::AttributeFromXml(const CXmlSerializationContext&, CXmlGe
 
 void CAttributeInfoAny::AttributeToXml(const CXmlSerializationContext& context,
                                        const CXmlGeneratedClass* object, CXmlWriter* writer) const {
+    const CSmartPtr<CXmlObjectBase> held = ReadObject(object);
     const std::u16string targetNamespace = GetTargetNamespace(object);
-    if (const CSmartPtr<CXmlObjectBase> held = ReadObject(object))
+    if (held)
         ToXml_Int(held, writer, false, targetNamespace.c_str(), context);
 }
 

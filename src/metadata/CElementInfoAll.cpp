@@ -90,7 +90,7 @@ QUILLON_FROM_XML(CElementInfoAllAbsClsOpt) { Throw<CKzException>(messages::AllAb
 QUILLON_FROM_XML(CElementInfoAllUntpdMnd) {
     if (!*current)
         return false;
-    CXmlElement* result = ReadUntyped(context, HeldObject(object), parent, *current);
+    CXmlElement* result = ReadUntyped(context, HeldObjectOrNull(object), parent, *current);
     const bool taken = result != *current;
     *current = result;
     return taken;

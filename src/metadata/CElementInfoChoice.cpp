@@ -2,6 +2,7 @@
 
 #include "metadata/Leaves.h"
 #include "metadata/Messages.h"
+#include "object/NotNull.h"
 #include "object/Throw.h"
 
 #include <KzXmlLib10/collections/CXmlCollectionBase.h>
@@ -54,7 +55,7 @@ QUILLON_FROM_XML(CElementInfoChoiceClsOpt) {
 QUILLON_FROM_XML(CElementInfoChoiceAbsClsOpt) {
     if (!IsThisElement(context, *current))
         return false;
-    const CSmartPtr<CXmlObjectBase> child = m_substitutionFactory(*current);
+    const CSmartPtr<CXmlObjectBase> child = NotNull(m_substitutionFactory, u"substitutionFactory")(*current);
     // Deliberate: stored even if the factory declined, which clears an earlier value.
     StoreObject(object, child);
     if (!child)

@@ -2,6 +2,8 @@
 
 #include "metadata/Leaves.h"
 #include "metadata/Messages.h"
+#include "object/NotNull.h"
+#include "object/RecursionLevel.h"
 #include "object/Throw.h"
 
 #include <KzXmlLib10/collections/CXmlCollectionBase.h>
@@ -26,6 +28,7 @@ QUILLON_FROM_XML(CElementInfoSeqPrimMnd) {
             return TakePrimitive(object, current);
         if (!context.GetIgnoreUnknownElements())
             return false;
+        RecursionLevel::CountSkippedElement();
     }
     return false;
 }
@@ -121,7 +124,7 @@ QUILLON_FROM_XML(CElementInfoSeqClsOpt) {
 QUILLON_FROM_XML(CElementInfoSeqAbsClsMnd) {
     CSmartPtr<CXmlObjectBase> child;
     if (IsThisElement(context, *current))
-        child = m_substitutionFactory(*current);
+        child = NotNull(m_substitutionFactory, u"substitutionFactory")(*current);
     if (!child) {
         if (ownerElementType == XmlElementType_Element)
             Throw<CKzValidationException>(messages::NoSubstitutionElement, m_elementName);
@@ -134,7 +137,8 @@ QUILLON_FROM_XML(CElementInfoSeqAbsClsMnd) {
 QUILLON_FROM_XML(CElementInfoSeqAbsClsOpt) {
     if (!IsThisElement(context, *current))
         return true;
-    if (const CSmartPtr<CXmlObjectBase> child = m_substitutionFactory(*current))
+    if (const CSmartPtr<CXmlObjectBase> child =
+            NotNull(m_substitutionFactory, u"substitutionFactory")(*current))
         ReadAndStoreObject(context, object, child, current);
     return true;
 }
@@ -145,7 +149,7 @@ QUILLON_FROM_XML(CElementInfoSeqUntpdMnd) {
     // Deliberate: the end of the list is a failure even in a group, unlike for every other mandatory member.
     if (!*current)
         FailRequired();
-    CXmlElement* result = ReadUntyped(context, HeldObject(object), parent, *current);
+    CXmlElement* result = ReadUntyped(context, HeldObjectOrNull(object), parent, *current);
     if (result == *current) {
         if (ownerElementType == XmlElementType_Element)
             Throw<CKzValidationException>(messages::RequiredNamespaceNotFound, m_elementNamespace);

@@ -3,6 +3,7 @@
 #include <KzXmlLib10/object/CXmlGeneratedClass.h>
 
 #include "metadata/Messages.h"
+#include "object/RecursionLevel.h"
 #include "object/Throw.h"
 
 #include <KzXmlLib10/collections/CXmlCollectionBase.h>
@@ -71,6 +72,7 @@ bool CXmlGeneratedClass::FindChoice(const CXmlSerializationContext& context, CXm
         // Only a class with a tag of its own skips unknown children in search of a member.
         if (!current || !context.GetIgnoreUnknownElements() || type != XmlElementType_Element)
             return false;
+        RecursionLevel::CountSkippedElement();
         current = current->GetNextSiblingElement();
         if (!current)
             return false;

@@ -5,6 +5,8 @@
 #include "metadata/Messages.h"
 #include "object/BooleanWords.h"
 #include "object/Messages.h"
+#include "object/NotNull.h"
+#include "object/RecursionLevel.h"
 #include "object/TextScan.h"
 #include "object/Throw.h"
 #include "xml/ElementText.h"
@@ -49,6 +51,7 @@ bool CElementInfo::SeekElement(const CXmlSerializationContext& context, CXmlElem
             return false;
         if (!context.GetIgnoreUnknownElements() || !*current)
             FailRequired();
+        RecursionLevel::CountSkippedElement();
         *current = (*current)->GetNextSiblingElement();
     }
     return true;
@@ -81,7 +84,7 @@ bool CElementInfo::TakeEnum(CXmlGeneratedClass* object, CXmlElement** current, S
     if (IsNil(**current))
         value.SetNil();
     else
-        value.SetI4(stringToEnum(ElementText(**current).Get().data()));
+        value.SetI4(NotNull(stringToEnum, u"stringToEnum")(ElementText(**current).Get().data()));
     return StoreAndAdvance(object, value, current);
 }
 
@@ -104,7 +107,7 @@ void CElementInfo::ReadAndStoreObject(const CXmlSerializationContext& context, C
 }
 
 CSmartPtr<CXmlObjectBase> CElementInfo::CreateObject(ClassFactory factory, int classId) const {
-    CSmartPtr<CXmlObjectBase> child = factory(classId, m_elementName.c_str());
+    CSmartPtr<CXmlObjectBase> child = NotNull(factory, u"factory")(classId, m_elementName.c_str());
     if (!child)
         Throw<CKzInvalidStateException>(messages::FactoryGaveNothing, m_elementName);
     return child;
@@ -129,6 +132,11 @@ CXmlCollectionBase& CElementInfo::ReadCollection(const CXmlGeneratedClass* objec
     if (!collection)
         Throw<CKzInvalidStateException>(messages::NotACollection, m_elementName);
     return *collection;
+}
+
+CSmartPtr<CXmlObjectBase> CElementInfo::HeldObjectOrNull(const CXmlGeneratedClass* object) const {
+    KzVariant value;
+    return ReadObject(object, value);
 }
 
 CSmartPtr<CXmlObjectBase> CElementInfo::HeldObject(const CXmlGeneratedClass* object) const {
@@ -180,7 +188,7 @@ CXmlElement* CElementInfo::ReadUntyped(const CXmlSerializationContext& context, 
     // The namespace is not compared here; the generic element applies the wildcard's constraint.
     if (!IsAnyElement() && current->GetLocalName() != m_elementName)
         return current;
-    return FromXml_Int(untyped, parent, current, context, false);
+    return FromXml_Int(Required(untyped, m_elementName), parent, current, context, false);
 }
 
 bool CElementInfo::IsAnyElement() const { return m_elementName == u"AnyElement"; }

@@ -49,7 +49,7 @@ CXmlElement* CXmlGeneratedClass::ReadObject(CXmlElement* element, CXmlElement* c
 
 /// Null for most classes, which it takes long to find out, so it is noted with the tables of the class.
 const INillable* CXmlGeneratedClass::AsNillable(const CParentElementInfo& info) const {
-    const std::atomic_ref noted(info.m_notNillable);
+    std::atomic<const std::type_info*>& noted = info.m_notNillable.type;
     if (noted.load(std::memory_order_relaxed) == &typeid(*this))
         return nullptr;
     const auto* nillable = dynamic_cast<const INillable*>(this);
@@ -145,6 +145,7 @@ CXmlElement* CXmlGeneratedClass::ProcessElementSeqFromXml(const CXmlSerializatio
             while (!OfferElement(context, static_cast<std::size_t>(i), element, current, type)) {
                 if (!context.GetIgnoreUnknownElements() || !current)
                     return start;
+                RecursionLevel::CountSkippedElement();
                 current = current->GetNextSiblingElement();
             }
             if (current != last) {
@@ -156,6 +157,7 @@ CXmlElement* CXmlGeneratedClass::ProcessElementSeqFromXml(const CXmlSerializatio
             return current;
         if (!context.GetIgnoreUnknownElements())
             FailUnprocessed(*element, *current);
+        RecursionLevel::CountSkippedElement();
         current = current->GetNextSiblingElement();
         if (!current)
             return nullptr;

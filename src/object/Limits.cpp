@@ -31,6 +31,7 @@ constexpr Figure figures[] = {
     {&Limits::treeBytesPerInputByte, u"treeBytesPerInputByte", any},
     {&Limits::nestedObjects, u"nestedObjects", any},
     {&Limits::stackReserve, u"stackReserve", any},
+    {&Limits::skippedElements, u"skippedElements", any},
     {&Limits::decimalExponent, u"decimalExponent", 100'000'000},
     {&Limits::patternHeapBytes, u"patternHeapBytes", max32 * 1024},
 };

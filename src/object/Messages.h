@@ -47,6 +47,7 @@ inline constexpr char16_t UnprocessedElement[] =
     u"Failed read all the elements held within the element [%s]. The unexpected element [%s] remains un "
     u"processed"; // sic
 inline constexpr char16_t NestedTooDeep[] = u"The elements are nested too deep (%d levels)";
+inline constexpr char16_t TooManySkipped[] = u"More unknown elements were skipped than the limit of %I64u";
 inline constexpr char16_t ZlibOnlyForStreams[] = u"ZLIB Compression only available for To Stream methods.";
 inline constexpr char16_t InvalidOrEmptyDocument[] = u"Invalid or empty XML document";
 

@@ -31,6 +31,7 @@ constexpr std::uint64_t leastReserve = 0;
 /// Without a destructor, which a thread would have to be told of.
 struct RecursionLevel::Thread {
     std::uint32_t levels = 0;
+    std::uint64_t skippedElements = 0;
     bool isStackKnown = false;
     std::uintptr_t stackLow = 0;
     std::size_t stackSize = 0;
@@ -62,10 +63,17 @@ RecursionLevel::RecursionLevel() : m_thread(CurrentThread()) {
         m_thread.FindStack();
     if (m_thread.levels >= CurrentLimit(&Limits::nestedObjects) || m_thread.IsStackUsedUp())
         FailTooDeep();
-    ++m_thread.levels;
+    if (m_thread.levels++ == 0)
+        m_thread.skippedElements = 0;
 }
 
 void RecursionLevel::FailTooDeep() const { Throw<CKzException>(messages::NestedTooDeep, m_thread.levels); }
+
+void RecursionLevel::CountSkippedElement() {
+    const std::uint64_t limit = CurrentLimit(&Limits::skippedElements);
+    if (CurrentThread().skippedElements++ >= limit)
+        Throw<CKzException>(messages::TooManySkipped, limit);
+}
 
 RecursionLevel::~RecursionLevel() { --m_thread.levels; }
 

@@ -16,6 +16,10 @@ public:
     RecursionLevel(const RecursionLevel&) = delete;
     RecursionLevel& operator=(const RecursionLevel&) = delete;
 
+    /// Counts an element that is skipped within the outermost level. Throws CKzException beyond
+    /// Limits::skippedElements.
+    static void CountSkippedElement();
+
 private:
     struct Thread;
     static Thread& CurrentThread();

@@ -62,6 +62,11 @@ TEST(AllGroup, MandatoryObjectMayBeMissingUnlessItMustConsumeOrHasNoTag) {
     Model pseudo(u"r", All);
     pseudo.Class(u"g", Mnd, group, false);
     ExpectReads(pseudo, {"<r/> -> !Failed to find the mandatory element [g]", "<r><x>1</x></r> -> {1}"});
+    Model silent(u"silent", XmlElementGroupType_Sequence, XmlElementType_PseudoNoAttributes);
+    silent.Prim(u"x", Opt, ItemType_i4);
+    Model spared(u"r", All);
+    spared.Class(u"g", Mnd, silent, false);
+    EXPECT_EQ(Read(spared, u"<r/>"), u"{-}");
 }
 
 TEST(AllGroup, AbstractMembersAreWrittenButNotRead) {

@@ -141,11 +141,14 @@ TEST(RepeatedChoice, TakesOneAlternativeAfterTheOther) {
     EXPECT_EQ(Rewritten(r, u"<r><b>2</b><a>1</a></r>"), u"<r><b>2</b><a>1</a></r>");
 }
 
-TEST(AbstractChoice, StoresNothingWhereTheFactoryDeclines) {
+TEST(AbstractChoice, StoresANullWhereTheFactoryDeclines) {
     Model r(u"r", Choice);
     r.Abstract(u"shape", Opt, [](CXmlElement*) { return CSmartPtr<CXmlObjectBase>(); });
     r.Prim(u"shape", Opt, ItemType_string);
-    EXPECT_EQ(Read(r, u"<r><shape>x</shape></r>"), u"-|x");
+    const auto object = r.New();
+    object->FromXml(u"<r><shape>x</shape></r>", {});
+    EXPECT_EQ(Show(*object), u"-|x");
+    EXPECT_EQ(object->properties[0].GetTypeAsEnum(), ItemType_xmlObject);
 }
 
 TEST(Validate, BelongsToAllGroups) {

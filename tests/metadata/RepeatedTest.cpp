@@ -112,6 +112,11 @@ TEST(Wildcard, MandatoryFailsInItsOwnWords) {
                 {"<r><x/></r> -> <x/>",
                  "<r><x xmlns='urn:t'/></r> -> !Failed to find the required element from namespace [urn:n]",
                  "<r/> -> !Failed to find a required element [AnyElement]"});
+    // An object is asked for only where the name agrees.
+    Model unset(u"r");
+    unset.Element(new CElementInfoSeqUntpdMnd(u"w", u"urn:n", 0, u"##any", u""));
+    ExpectReads(unset, {"<r><x/></r> -> !Failed to find the required element from namespace [urn:n]",
+                        "<r><w/></r> -> !The object of the mandatory element [w] is null"});
     // Even in a group the end of the list is a failure.
     Model group(u"group", XmlElementGroupType_Sequence, Pseudo);
     group.Prim(u"a", Mnd, ItemType_i4)
@@ -144,6 +149,9 @@ TEST(Wildcard, InAChoice) {
     Model single(u"r", XmlElementGroupType_Choice);
     single.Element(new CElementInfoChoiceUntpdOpt(u"x", u"", 0, u"##any", u"")).Prim(u"y", Opt, ItemType_i4);
     ExpectReads(single, {"<r><x>t</x></r> -> <x>t</x>|-", "<r><y>1</y></r> -> -|1"});
+    const auto missed = single.New();
+    missed->FromXml(u"<r><y>1</y></r>", {});
+    EXPECT_EQ(missed->properties[0].GetTypeAsEnum(), ItemType_xmlObject); // a null one, not none
 }
 
 TEST(Wildcard, InAnAllGroup) {

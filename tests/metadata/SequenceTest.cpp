@@ -109,6 +109,16 @@ TEST(SequenceOfClasses, MandatoryObjectIsFilledNotReplacedAndKeptWhenWaived) {
     EXPECT_EQ(Show(*object), u"{1}");
 }
 
+TEST(AbstractClass, MustBeThereWhateverTheContextWaives) {
+    Model r(u"r");
+    r.Abstract(u"s", Mnd, [](CXmlElement*) { return CSmartPtr<CXmlObjectBase>(); });
+    for (const Flag flag : {none, missingElements, unknownElements})
+        ExpectReads(r,
+                    {"<r/> -> !Failed to find a suitable substitution element for [s]",
+                     "<r><s/></r> -> !Failed to find a suitable substitution element for [s]"},
+                    flag);
+}
+
 TEST(NestedGroups, GiveBackThePositionWhenTheyFail) {
     Model pair(u"pair", XmlElementGroupType_Sequence, XmlElementType_Pseudo);
     pair.Prim(u"a", Mnd, ItemType_i4).Prim(u"b", Mnd, ItemType_i4);
@@ -126,6 +136,16 @@ TEST(NestedGroups, GiveBackThePositionWhenTheyFail) {
     relaxed.Class(u"pair", Mnd, pair, false);
     EXPECT_EQ(Read(relaxed, u"<r/>"), u"{-,-}");
     EXPECT_EQ(Read(relaxed, u"<r><u/><a>1</a><u/><b>2</b></r>", unknownElements), u"{1,2}");
+
+    // A group that took nothing is offered again only where a child is left, and an owner with a tag.
+    Model between(u"r");
+    between.Prim(u"x", Mnd, ItemType_i4).Class(u"pair", Mnd, pair).Prim(u"y", Mnd, ItemType_i4);
+    ExpectReads(between, {"<r><x>1</x></r> -> !Failed to find a required element [y]"}, unknownElements);
+    Model inner(u"inner", XmlElementGroupType_Sequence, XmlElementType_Pseudo);
+    inner.Class(u"pair", Mnd, pair).Prim(u"y", Mnd, ItemType_i4);
+    Model outer(u"r");
+    outer.Class(u"inner", Opt, inner);
+    EXPECT_EQ(Read(outer, u"<r><y>1</y></r>", unknownElements), u"{{-,-},1}");
 
     ExpectReads(relaxed, {"<r><a>1</a><b>x</b></r> -> !!The value [x] can not be converted to a i4"});
 }
@@ -149,7 +169,7 @@ TEST(NestedGroups, PutTheirAttributesOnTheParent) {
 
 TEST(Attributes, AreMatchedValidatedAndWritten) {
     Model m(u"m");
-    m.Attribute(u"id", Required, ItemType_i4)
+    m.Attribute(u"id", Required, ItemType_i4, u"1")
         .Attribute(u"size", Optional, ItemType_i4, u"007")
         .Attribute(u"mode", Optional, ItemType_string, u"fast")
         .ColourAttribute(u"colour", Optional, u"red");
@@ -176,8 +196,19 @@ TEST(Attributes, AreMatchedValidatedAndWritten) {
     object->properties[2].SetString(u"fast");
     object->properties[3].SetI4(1);
     EXPECT_EQ(Write(*object), u"<m id=\"1\" size=\"7\" mode=\"fast\" colour=\"red\"/>");
-    // Texts are compared, not values: "7" is not the default "007".
+    // Texts are compared, not values: "7" is not the default "007". One that is required is always written.
     EXPECT_EQ(Write(*object, defaultAttributes), u"<m id=\"1\" size=\"7\"/>");
+    // No default is no empty one, and nil is no missing value.
+    Model plain(u"m");
+    plain.Attribute(u"a", Optional, ItemType_string, u"");
+    const auto empty = plain.New();
+    empty->properties[0].SetString(u"");
+    EXPECT_EQ(Write(*empty, defaultAttributes), u"<m a=\"\"/>");
+    empty->properties[0] = KzVariant();
+    empty->properties[0].SetNil();
+    EXPECT_EQ(
+        Write(*empty),
+        FailedToWrite(u"m", u"Failed to convert attributes to XML\nInvalid Type 0 to convert to string"));
 }
 
 TEST(Names, AreComparedWithNamespacesUnlessIgnored) {

@@ -29,6 +29,16 @@ TEST(Limits, EachFigureBoundsItsWork) {
     const auto load = [](const std::string& bytes) { return [&] { return LoadFailure(bytes); }; };
     const auto decimal = [] { return Failure<CKzInvalidValueException>([] { CDecimal(u"1E3"); }); };
     const auto write = [] { return Failure([] { Text(CElement(u"a")); }); };
+    const auto skip = [] {
+        kit::Model group(u"g", KzXmlLib10Data::XmlElementGroupType_Sequence,
+                         KzXmlLib10Data::XmlElementType_Pseudo);
+        group.Prim(u"a", kit::Mnd, ItemType_i4);
+        kit::Model root(u"r");
+        root.Class(u"g", kit::Opt, group);
+        CXmlSerializationContext context;
+        context.SetIgnoreUnknownElements(true);
+        return Failure<CKzValidationException>([&] { root.New()->FromXml(u"<r><u/><u/><u/></r>", context); });
+    };
     const auto match = [] {
         return MatchXsdPattern("(a|b)*", std::u16string(10000, u'a')) ? "no failure" : "no match";
     };
@@ -46,6 +56,10 @@ TEST(Limits, EachFigureBoundsItsWork) {
              "The string representing a Decimal, contained an exponent above 2 [1E3]"},
             {&Limits::nestedObjects, 0, write, "The elements are nested too deep (0 levels)"},
             {&Limits::stackReserve, most, NestOnUsedStack, "The elements are nested too deep (0 levels)"},
+            {&Limits::skippedElements, 2, skip,
+             "Failed to process the element [r]\nFailed to process the element [r]\nMore unknown elements "
+             "were "
+             "skipped than the limit of 2"},
             {&Limits::patternHeapBytes, 1024, match, "no match"},
         };
     for (const auto& [figure, value, work, failure] : rows) {

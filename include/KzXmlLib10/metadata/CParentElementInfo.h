@@ -5,6 +5,7 @@
 #include <KzXmlLib10/object/Fwd.h>
 #include <KzXmlLib10/object/ItemType.h>
 
+#include <atomic>
 #include <cstdint>
 #include <string>
 #include <typeinfo>
@@ -50,6 +51,15 @@ public:
 private:
     friend class KzXmlLib10::CXmlGeneratedClass;
 
+    /// Noted by any thread, and by each record for itself.
+    struct NotedClass {
+        NotedClass() = default;
+        NotedClass(const NotedClass&) {}
+        NotedClass& operator=(const NotedClass&) { return *this; }
+
+        std::atomic<const std::type_info*> type = nullptr;
+    };
+
     XmlElementGroupType m_elementGroupType;
     XmlElementType m_elementType;
     std::u16string m_elementName;
@@ -60,8 +70,7 @@ private:
     KzXmlLib10::ItemType m_primitiveDataType;
     std::u16string m_primitiveFormatOverride;
     bool m_outputPrimitiveClassAsTextProperty;
-    /// A class found not to be nillable, noted by any thread.
-    mutable const std::type_info* m_notNillable = nullptr;
+    mutable NotedClass m_notNillable; ///< a class found not to be nillable
 };
 
 } // namespace KzXmlLib10Data
