@@ -77,7 +77,7 @@ CDateTime::CDateTime(int year, int month, int day, int hour, int minute, int sec
 }
 
 void CDateTime::SetDateTime(int year, int month, int day, int hour, int minute, int second) {
-    SetDateTime(DTType_dateTime, year, month, day, hour, minute, second, 0, 0, 0);
+    SetDateTime(DTType_dateTime, year, month, day, hour, minute, second);
 }
 
 void CDateTime::SetDateTime(int year, int month, int day, int hour, int minute, int second, int milli,
@@ -85,12 +85,10 @@ void CDateTime::SetDateTime(int year, int month, int day, int hour, int minute, 
     SetDateTime(DTType_dateTime, year, month, day, hour, minute, second, milli, micro, nano);
 }
 
-void CDateTime::SetDate(int year, int month, int day) {
-    SetDateTime(DTType_date, year, month, day, 0, 0, 0, 0, 0, 0);
-}
+void CDateTime::SetDate(int year, int month, int day) { SetDateTime(DTType_date, year, month, day); }
 
 void CDateTime::SetTime(int hour, int minute, int second) {
-    SetDateTime(DTType_time, 0, 0, 0, hour, minute, second, 0, 0, 0);
+    SetDateTime(DTType_time, 0, 0, 0, hour, minute, second);
 }
 
 void CDateTime::SetTime(int hour, int minute, int second, int milli, int micro, int nano) {
@@ -101,19 +99,15 @@ void CDateTime::SetFracTime(int milli, int micro, int nano) {
     SetDateTime(DTType_time, 0, 0, 0, 0, 0, 0, milli, micro, nano);
 }
 
-void CDateTime::SetGYear(int year) { SetDateTime(DTType_gYear, year, 0, 0, 0, 0, 0, 0, 0, 0); }
+void CDateTime::SetGYear(int year) { SetDateTime(DTType_gYear, year); }
 
-void CDateTime::SetGYearMonth(int year, int month) {
-    SetDateTime(DTType_gYearMonth, year, month, 0, 0, 0, 0, 0, 0, 0);
-}
+void CDateTime::SetGYearMonth(int year, int month) { SetDateTime(DTType_gYearMonth, year, month); }
 
-void CDateTime::SetGMonth(int month) { SetDateTime(DTType_gMonth, 0, month, 0, 0, 0, 0, 0, 0, 0); }
+void CDateTime::SetGMonth(int month) { SetDateTime(DTType_gMonth, 0, month); }
 
-void CDateTime::SetGMonthDay(int month, int day) {
-    SetDateTime(DTType_gMonthDay, 0, month, day, 0, 0, 0, 0, 0, 0);
-}
+void CDateTime::SetGMonthDay(int month, int day) { SetDateTime(DTType_gMonthDay, 0, month, day); }
 
-void CDateTime::SetGDay(int day) { SetDateTime(DTType_gDay, 0, 0, day, 0, 0, 0, 0, 0, 0); }
+void CDateTime::SetGDay(int day) { SetDateTime(DTType_gDay, 0, 0, day); }
 
 void CDateTime::SetDateTime(DTType kind, int year, int month, int day, int hour, int minute, int second,
                             int milli, int micro, int nano) {

@@ -72,13 +72,13 @@ CDateTime& CDateTime::operator=(long long time) {
     const calendar::Date date = calendar::DateFromDays(calendar::FloorDivide(time, secondsOfDay));
     const int second = static_cast<int>(calendar::FloorModulo(time, secondsOfDay));
     SetDateTime(DTType_dateTime, static_cast<int>(date.year), date.month, date.day, second / 3600,
-                second / 60 % 60, second % 60, 0, 0, 0);
+                second / 60 % 60, second % 60);
     return *this;
 }
 
 CDateTime& CDateTime::operator=(const SYSTEMTIME& time) {
     SetDateTime(DTType_dateTime, time.wYear, time.wMonth, time.wDay, time.wHour, time.wMinute, time.wSecond,
-                time.wMilliseconds, 0, 0);
+                time.wMilliseconds);
     return *this;
 }
 

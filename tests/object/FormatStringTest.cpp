@@ -12,7 +12,7 @@ TEST(FormatString, Integers) {
                            std::numeric_limits<unsigned long long>::max()),
               u"-9223372036854775808 18446744073709551615");
     EXPECT_EQ(FormatString(u"%ld", std::numeric_limits<int>::min()), u"-2147483648");
-    EXPECT_EQ(FormatString(u"%*d|%-*d|%.*f", 4, 1, 4, 1, 2, 1.0), u"   1|1   |1.00");
+    EXPECT_EQ(FormatString(u"%*d|%-*d|%*d|%.*f", 4, 1, 4, 1, -1, 1, 2, 1.0), u"   1|1   |1|1.00");
 }
 
 TEST(FormatString, RareForms) {

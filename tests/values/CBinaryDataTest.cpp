@@ -54,6 +54,9 @@ TEST(CBinaryData, AnAdoptedArrayGoesWithTheLastHandle) {
 }
 
 TEST(CBinaryData, AppendsItselfAndPiecesOfItself) {
+    auto* const array = new unsigned char[1]{'a'};
+    const std::unique_ptr<unsigned char[]> same(CBinaryData(array, 1, true).ReleaseData());
+    EXPECT_EQ(same.get(), array);
     CBinaryData adopted(new unsigned char[3]{'a', 'b', 'c'}, 3, true); // full, so that each step moves it
     adopted.Append(adopted);
     adopted.Append(adopted.GetData() + 4, 2);
@@ -142,6 +145,8 @@ TEST(CBinaryData, RefusesNullAndWhatDoesNotFit32Bits) {
     const std::string tooLong = "Binary data cannot hold more than 4294967295 bytes";
     for (const std::size_t length : {(1ul << 32) - 3, 1ul << 32, ~0ul})
         EXPECT_EQ(Failure([&] { data.Append(&byte, length); }), tooLong);
+    CBinaryData empty = ToBinary("");
+    EXPECT_EQ(Failure([&] { empty.Append(&byte, 1ul << 32); }), tooLong);
     EXPECT_EQ(Failure([&] { data.SetBuffer(&byte, 1ul << 32); }), tooLong);
     EXPECT_EQ(Failure([&] { CBinaryData(&byte, 1ul << 32, true); }), tooLong);
     EXPECT_THROW(data.Append(static_cast<const char16_t*>(nullptr)), CKzInvalidParamException);

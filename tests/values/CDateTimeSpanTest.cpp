@@ -73,7 +73,8 @@ TEST(CDateTimeSpan, AsNegativeIsNoNegation) {
 
 TEST(CDateTimeSpan, ComparisonSeesYearsAndDaysOfTheSums) {
     ExpectAnswers(Span, {"P1Y = P12M", "P1Y < P2Y", "P2D > P1D", "P1D = PT24H", "P1M = P2M", "PT1H = PT2H",
-                         "P1M ? P30D", "P1M1D = P1D", "P4M ? P1M", "P65535Y < P1Y", "P16777215M1D ? P1D",
+                         "P1M ? P30D", "P2D ? P28D", "P1M30D ? P41D", "P6Y5M < P2372D", "P1M1D = P1D",
+                         "P4M ? P1M", "P65535Y < P1Y", "P16777215M1D ? P1D",
                          "P1D < -P1D"}); // the day is the 2nd against the last
 }
 

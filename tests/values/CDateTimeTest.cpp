@@ -136,6 +136,8 @@ TEST(CDateTime, SettersByKindValidateAndRefuseAnotherKind) {
                         "Invalid Milli-Second [1000] (0 <= milli <= 999)\n"
                         "Invalid Micro-Second [1000] (0 <= micro <= 999)\n"
                         "Invalid Nano-Second [1000] (0 <= nano <= 999)\n");
+    EXPECT_EQ(InvalidValue([] { CDateTime().SetFracTime(0, 0, -1); }),
+              "Invalid Nano-Second [-1] (0 <= nano <= 999)");
 }
 
 TEST(CDateTime, ValueConstructorsSwallowTheFailureAndLeaveNothing) {

@@ -209,8 +209,8 @@ public:
     SYSTEMTIME GetAsSystemTime() const;
 
 private:
-    void SetDateTime(DTType kind, int year, int month, int day, int hour, int minute, int second, int milli,
-                     int micro, int nano);
+    void SetDateTime(DTType kind, int year, int month = 0, int day = 0, int hour = 0, int minute = 0,
+                     int second = 0, int milli = 0, int micro = 0, int nano = 0);
     static void ValidateFields(DTType kind, int year, int month, int day, int hour, int minute, int second,
                                int milli, int micro, int nano);
     static bool CheckConversion(DTType source, DTType target);
