@@ -10,7 +10,7 @@
 #include "object/TextScan.h"
 #include "object/Throw.h"
 #include "xml/ElementText.h"
-#include "xml/SchemaInstanceAttribute.h"
+#include "xml/FindAttribute.h"
 
 #include <KzXmlLib10/collections/CElement.h>
 #include <KzXmlLib10/collections/CElementCol.h>
@@ -60,7 +60,7 @@ bool CElementInfo::SeekElement(const CXmlSerializationContext& context, CXmlElem
 bool CElementInfo::IsNil(const CXmlElement& element) const {
     if (!element.HasAttributes())
         return false;
-    const std::u16string& value = SchemaInstanceAttribute(element, u"nil");
+    const std::u16string& value = FindSchemaInstanceAttribute(element, u"nil");
     if (value.empty() || IsFalseWord(value))
         return false;
     if (!m_nillable)
@@ -140,8 +140,7 @@ CSmartPtr<CXmlObjectBase> CElementInfo::HeldObjectOrNull(const CXmlGeneratedClas
 }
 
 CSmartPtr<CXmlObjectBase> CElementInfo::HeldObject(const CXmlGeneratedClass* object) const {
-    KzVariant value;
-    return Required(ReadObject(object, value), m_elementName);
+    return Required(HeldObjectOrNull(object), m_elementName);
 }
 
 CSmartPtr<CXmlCollectionBase> CElementInfo::HeldCollection(const CXmlGeneratedClass* object) const {

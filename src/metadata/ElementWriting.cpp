@@ -67,8 +67,9 @@ bool CElementInfo::ElementToXmlEnum(const CXmlSerializationContext&, const CXmlG
     }
     if (value.GetTypeAsEnum() == ItemType_Invalid)
         return false;
-    WriteLeafOf(*writer, {m_elementName, m_elementNamespace, m_nameNumber.Get()}, ItemType_string,
-                [&] { return std::u16string(EmptyIfNull(enumToString(value.GetI4()))); });
+    WriteLeafOf(*writer, {m_elementName, m_elementNamespace, m_nameNumber.Get()}, ItemType_string, [&] {
+        return std::u16string(EmptyIfNull(NotNull(enumToString, u"enumToString")(value.GetI4())));
+    });
     return true;
 }
 

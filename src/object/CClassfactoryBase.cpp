@@ -1,7 +1,7 @@
 #include <KzXmlLib10/object/CClassfactoryBase.h>
 
 #include "object/NotNull.h"
-#include "xml/SchemaInstanceAttribute.h"
+#include "xml/FindAttribute.h"
 
 #include <KzXmlLib10/xml/CXmlDocument.h>
 #include <KzXmlLib10/xml/CXmlElement.h>
@@ -11,13 +11,13 @@ namespace KzXmlLib10 {
 CClassfactoryBase::~CClassfactoryBase() = default;
 
 std::u16string CClassfactoryBase::GetElementType(CXmlElement* element) {
-    const std::u16string& type = SchemaInstanceAttribute(*NotNull(element, u"element"), u"type");
+    const std::u16string& type = FindSchemaInstanceAttribute(*NotNull(element, u"element"), u"type");
     const std::size_t colon = type.find(u':');
     return colon == type.npos ? type : type.substr(colon + 1);
 }
 
 std::u16string CClassfactoryBase::GetElementTypeNamespaceUri(CXmlElement* element) {
-    const std::u16string& type = SchemaInstanceAttribute(*NotNull(element, u"element"), u"type");
+    const std::u16string& type = FindSchemaInstanceAttribute(*NotNull(element, u"element"), u"type");
     const std::size_t colon = type.find(u':');
     if (colon == type.npos)
         return element->GetNamespaceURI();

@@ -86,8 +86,8 @@ CKzException* CKzException::CopyChain(const CKzException* head) {
 CKzException* CKzException::CloneOne(const CKzException& link) {
     const OneLink guard(link);
     CKzException* const clone = link.Clone();
-    delete std::exchange(clone->m_innerException,
-                         nullptr); // which a class of the application may have copied
+    // A class of the application may have copied that too.
+    delete std::exchange(clone->m_innerException, nullptr);
     return clone;
 }
 

@@ -145,7 +145,7 @@ CXmlElement* CXmlGeneratedClass::ProcessElementSeqFromXml(const CXmlSerializatio
             while (!OfferElement(context, static_cast<std::size_t>(i), element, current, type)) {
                 if (!context.GetIgnoreUnknownElements() || !current)
                     return start;
-                RecursionLevel::CountSkippedElement();
+                RecursionLevel::CountSkippedElement(element->GetAttributes().size());
                 current = current->GetNextSiblingElement();
             }
             if (current != last) {
@@ -157,7 +157,7 @@ CXmlElement* CXmlGeneratedClass::ProcessElementSeqFromXml(const CXmlSerializatio
             return current;
         if (!context.GetIgnoreUnknownElements())
             FailUnprocessed(*element, *current);
-        RecursionLevel::CountSkippedElement();
+        RecursionLevel::CountSkippedElement(element->GetAttributes().size());
         current = current->GetNextSiblingElement();
         if (!current)
             return nullptr;

@@ -69,9 +69,9 @@ RecursionLevel::RecursionLevel() : m_thread(CurrentThread()) {
 
 void RecursionLevel::FailTooDeep() const { Throw<CKzException>(messages::NestedTooDeep, m_thread.levels); }
 
-void RecursionLevel::CountSkippedElement() {
+void RecursionLevel::CountSkippedElement(std::size_t attributes) {
     const std::uint64_t limit = CurrentLimit(&Limits::skippedElements);
-    if (CurrentThread().skippedElements++ >= limit)
+    if ((CurrentThread().skippedElements += 1 + attributes) > limit)
         Throw<CKzException>(messages::TooManySkipped, limit);
 }
 

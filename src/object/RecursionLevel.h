@@ -2,6 +2,8 @@
 
 #include "values/PayloadMemory.h"
 
+#include <cstddef>
+
 namespace KzXmlLib10 {
 
 /// Counts one level of nested objects while it lives, and keeps memory of payloads for their values.
@@ -16,9 +18,9 @@ public:
     RecursionLevel(const RecursionLevel&) = delete;
     RecursionLevel& operator=(const RecursionLevel&) = delete;
 
-    /// Counts an element that is skipped within the outermost level. Throws CKzException beyond
-    /// Limits::skippedElements.
-    static void CountSkippedElement();
+    /// Counts an element that is skipped within the outermost level, and so many attributes that are looked
+    /// at again for that. Throws CKzException beyond Limits::skippedElements.
+    static void CountSkippedElement(std::size_t attributes = 0);
 
 private:
     struct Thread;

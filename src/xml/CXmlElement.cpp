@@ -1,6 +1,7 @@
 #include <KzXmlLib10/xml/CXmlElement.h>
 
 #include "object/TextScan.h"
+#include "xml/FindAttribute.h"
 #include "xml/TreeBuilding.h"
 
 #include <memory>
@@ -8,11 +9,7 @@
 
 namespace KzXmlLib10 {
 
-namespace {
-
-const std::u16string none;
-
-} // namespace
+namespace {} // namespace
 
 CXmlElement::~CXmlElement() {
     if (m_firstChild)
@@ -62,7 +59,7 @@ std::u16string CXmlElement::GetText() const {
 
 std::u16string_view CXmlElement::ViewText(std::u16string& room) const {
     if (!m_text)
-        return none;
+        return u"";
     if (m_text->IsAlone())
         return m_text->View();
     room.clear();
@@ -81,12 +78,7 @@ const std::vector<CXmlAttribute*>& CXmlElement::GetAttributes() const {
 
 const std::u16string& CXmlElement::GetAttribute(const std::u16string& localName,
                                                 const std::u16string& namespaceUri) const {
-    for (const CXmlAttribute* attribute : GetAttributes()) {
-        if (SameText(attribute->GetLocalName(), localName) &&
-            SameText(attribute->GetNamespaceURI(), namespaceUri))
-            return attribute->GetValue();
-    }
-    return none;
+    return FindAttribute(*this, localName, namespaceUri);
 }
 
 void CXmlElement::ReserveAttributes(std::size_t count) {

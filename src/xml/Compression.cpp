@@ -64,10 +64,10 @@ bool MayBeCompressed(const unsigned char* data, unsigned long size) {
 }
 
 /// How long the content will be if the rest is as dense as what was read: room that is made once is not
-/// copied again and again. What stands already vouches for sixteen times its length.
+/// copied again and again. What stands already vouches for four times its length.
 std::uint64_t ExpectedLength(const z_stream& stream, std::uint64_t inputSize, std::uint64_t limit) {
     const std::uint64_t content = stream.total_out * inputSize / std::max(stream.total_in, 1UL);
-    return std::min({content, 16 * std::uint64_t{stream.total_out}, limit});
+    return std::min({content, 4 * std::uint64_t{stream.total_out}, limit});
 }
 
 [[noreturn]] void FailToCompress(int code) { Throw<CKzException>(messages::CompressionFailed, code); }
@@ -127,7 +127,8 @@ bool Inflate(const unsigned char* data, unsigned long size, CBinaryData& content
             Throw<CKzException>(messages::InflatedTooLong, limit);
         if (stream.total_out > room) {
             room = ExpectedLength(stream, size, limit);
-            content.Reserve(room - content.GetLength());
+            if (room / 2 > content.GetLength())
+                content.Reserve(room / 2 - content.GetLength()); // which makes room for twice as much
         }
         content.Append(block.get(), blockSize - stream.avail_out);
     } while (result == Z_OK);

@@ -82,6 +82,14 @@ TEST(CFastInfosetWriter, AnElementThatIsNotWrittenYetSeesTheNamespacesOfItsParen
     const std::string start = header + "38 F0 3C 00 'r' 3C 00 'm' ";
     EXPECT_EQ(Write("<r ' <m ' <{u}c +p=u > > >"), Hex(start + "3F 00 'p' 00 'u' 00 'c' FF FF"));
     EXPECT_EQ(Write("<r ' <m ' <{u}c +=u > > >"), Hex(start + "3D 00 'u' 00 'c' FF FF"));
+    // What failed to be written is tried again under the prefix that was made up for it.
+    const ScriptedObject failing([](CXmlWriter& writer) {
+        RunScript(writer, "<r <m");
+        writer.StartElement(u"", u"u");
+        for (int i = 0; i < 2; ++i)
+            EXPECT_THROW(writer.WriteText(u"", ItemType_string), CKzException);
+    });
+    EXPECT_THROW(failing.Written(defaults), CKzException);
 }
 
 TEST(CFastInfosetWriter, XsiTypeHasTwoFormsForPrefixes) {

@@ -57,9 +57,8 @@ TEST(Limits, EachFigureBoundsItsWork) {
             {&Limits::nestedObjects, 0, write, "The elements are nested too deep (0 levels)"},
             {&Limits::stackReserve, most, NestOnUsedStack, "The elements are nested too deep (0 levels)"},
             {&Limits::skippedElements, 2, skip,
-             "Failed to process the element [r]\nFailed to process the element [r]\nMore unknown elements "
-             "were "
-             "skipped than the limit of 2"},
+             "Failed to process the element [r]\nFailed to process the element [r]\n"
+             "More unknown elements were skipped than the limit of 2"},
             {&Limits::patternHeapBytes, 1024, match, "no match"},
         };
     for (const auto& [figure, value, work, failure] : rows) {

@@ -36,7 +36,8 @@ public:
     /// Shares the items, in a list of its own. Without events.
     CXmlCollection(const CXmlCollection& other);
     CXmlCollection& operator=(const CXmlCollection& other);
-    /// Removes all items as Clear does; what listeners throw is swallowed.
+    /// Removes all items as Clear does; what listeners throw is swallowed, and what they add goes without
+    /// events.
     ~CXmlCollection() override;
 
     int GetCount() const override;
@@ -62,6 +63,8 @@ protected:
     // CKzInvalidParamException.
 
     void AppendItem(CXmlObjectBase* item);
+    /// The same. A listener may have removed the item again, which is then held by the caller alone.
+    CSmartPtr<CXmlObjectBase> AppendHeld(CXmlObjectBase* item);
     void PrependItem(CXmlObjectBase* item);
     /// Throws CKzInvalidParamException if `existing` is not in the list.
     ///
@@ -86,13 +89,9 @@ protected:
     std::int32_t m_count = 0;
 
 private:
-    friend class CAttributeCol;
-    friend class CElementCol;
     friend class KzXmlLib10Data::CAttributeInfo;
     friend class KzXmlLib10Data::CElementInfo;
 
-    /// As AppendItem. A listener may have removed the item again, which is then held by the caller alone.
-    CSmartPtr<CXmlObjectBase> AppendHeld(CXmlObjectBase* item);
     template <class FindNext>
     CSmartPtr<CXmlObjectBase> AddItem(CXmlObjectBase* item, FindNext findNext);
     void ShareItemsOf(const CXmlCollection& other);

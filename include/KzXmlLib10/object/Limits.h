@@ -39,9 +39,10 @@ struct Limits {
     /// thread keeps at most half its stack free. In a build with the address sanitizer it is at least 512
     /// KiB.
     std::uint64_t stackReserve = 128 * 1024;
-    /// Unknown elements that reading one document may skip, under SetIgnoreUnknownElements. Where groups nest
-    /// inside each other, each of them skips the same elements again.
-    std::uint64_t skippedElements = 100'000'000;
+    /// Unknown elements that reading an object, with all objects in it, may skip under
+    /// SetIgnoreUnknownElements. Where groups nest inside each other, each of them skips the same elements
+    /// again, and looks at the attributes of their parent again, which count like elements.
+    std::uint64_t skippedElements = 10'000'000;
 
     /// The greatest positive exponent in the text of a decimal or an integer; beyond it the text fails with
     /// CKzInvalidValueException. At most 100,000,000.

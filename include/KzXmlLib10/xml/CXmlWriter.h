@@ -129,7 +129,10 @@ protected:
         /// Whether the namespace state is that of an ancestor.
         bool InheritsNamespaces() const { return m_inherits; }
         /// For an element that is not written yet, whose parent may have got a namespace state of its own.
-        void InheritAgain(const CXmlWriterContext& parent) { m_namespaces = parent.m_namespaces; }
+        void InheritAgain(const CXmlWriterContext& parent) {
+            if (m_inherits)
+                m_namespaces = parent.m_namespaces;
+        }
         /// Whether names in the namespace are written with a prefix here.
         bool NeedsPrefix(const std::u16string& uri) const;
         /// Counts one more child element.
