@@ -72,7 +72,7 @@ bool CXmlGeneratedClass::FindChoice(const CXmlSerializationContext& context, CXm
         // Only a class with a tag of its own skips unknown children in search of a member.
         if (!current || !context.GetIgnoreUnknownElements() || type != XmlElementType_Element)
             return false;
-        RecursionLevel::CountSkippedElement(element->GetAttributes().size());
+        RecursionLevel::CountSkippedElement(element);
         current = current->GetNextSiblingElement();
         if (!current)
             return false;

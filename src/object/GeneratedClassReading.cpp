@@ -133,6 +133,20 @@ bool CXmlGeneratedClass::OfferElement(const CXmlSerializationContext& context, s
                                                         GetNamespace().c_str(), type);
 }
 
+namespace {
+
+/// Passes over a child that no descriptor takes. False if there is none, or if it may not be skipped.
+[[gnu::cold]] bool SkipUnknown(const CXmlSerializationContext& context, const CXmlElement& parent,
+                               CXmlElement*& current) {
+    if (!context.GetIgnoreUnknownElements() || !current)
+        return false;
+    RecursionLevel::CountSkippedElement(&parent);
+    current = current->GetNextSiblingElement();
+    return true;
+}
+
+} // namespace
+
 CXmlElement* CXmlGeneratedClass::ProcessElementSeqFromXml(const CXmlSerializationContext& context,
                                                           CXmlElement* element, CXmlElement* current,
                                                           XmlElementType type) {
@@ -142,12 +156,9 @@ CXmlElement* CXmlGeneratedClass::ProcessElementSeqFromXml(const CXmlSerializatio
     int resume = 0; // the descriptor that moved the position last gets the next look
     for (;;) {
         for (int i = resume; i < count; ++i) {
-            while (!OfferElement(context, static_cast<std::size_t>(i), element, current, type)) {
-                if (!context.GetIgnoreUnknownElements() || !current)
+            while (!OfferElement(context, static_cast<std::size_t>(i), element, current, type))
+                if (!SkipUnknown(context, *element, current))
                     return start;
-                RecursionLevel::CountSkippedElement(element->GetAttributes().size());
-                current = current->GetNextSiblingElement();
-            }
             if (current != last) {
                 last = current;
                 resume = i;
@@ -155,10 +166,8 @@ CXmlElement* CXmlGeneratedClass::ProcessElementSeqFromXml(const CXmlSerializatio
         }
         if (type != XmlElementType_Element || !current)
             return current;
-        if (!context.GetIgnoreUnknownElements())
+        if (!SkipUnknown(context, *element, current))
             FailUnprocessed(*element, *current);
-        RecursionLevel::CountSkippedElement(element->GetAttributes().size());
-        current = current->GetNextSiblingElement();
         if (!current)
             return nullptr;
     }

@@ -4,6 +4,8 @@
 #include "object/Messages.h"
 #include "object/Throw.h"
 
+#include <KzXmlLib10/xml/CXmlElement.h>
+
 #include <algorithm>
 #include <cstddef>
 #include <cstdint>
@@ -69,7 +71,8 @@ RecursionLevel::RecursionLevel() : m_thread(CurrentThread()) {
 
 void RecursionLevel::FailTooDeep() const { Throw<CKzException>(messages::NestedTooDeep, m_thread.levels); }
 
-void RecursionLevel::CountSkippedElement(std::size_t attributes) {
+void RecursionLevel::CountSkippedElement(const CXmlElement* parent) {
+    const std::size_t attributes = parent ? parent->GetAttributes().size() : 0;
     const std::uint64_t limit = CurrentLimit(&Limits::skippedElements);
     if ((CurrentThread().skippedElements += 1 + attributes) > limit)
         Throw<CKzException>(messages::TooManySkipped, limit);

@@ -2,7 +2,7 @@
 
 #include "values/PayloadMemory.h"
 
-#include <cstddef>
+#include <KzXmlLib10/object/Fwd.h>
 
 namespace KzXmlLib10 {
 
@@ -18,9 +18,9 @@ public:
     RecursionLevel(const RecursionLevel&) = delete;
     RecursionLevel& operator=(const RecursionLevel&) = delete;
 
-    /// Counts an element that is skipped within the outermost level, and so many attributes that are looked
-    /// at again for that. Throws CKzException beyond Limits::skippedElements.
-    static void CountSkippedElement(std::size_t attributes = 0);
+    /// Counts an element that is skipped within the outermost level, and the attributes of its parent, if
+    /// they are looked at again for that. Throws CKzException beyond Limits::skippedElements.
+    [[gnu::cold]] static void CountSkippedElement(const CXmlElement* parent = nullptr);
 
 private:
     struct Thread;
