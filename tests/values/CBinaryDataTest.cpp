@@ -105,6 +105,7 @@ TEST(CBinaryData, BadHexadecimalTextThrowsAndLeavesTheObjectEmpty) {
     for (const char16_t c : u" Gg@`/:\u0141") { // and the terminating zero
         const std::string message = "Invalid char in hex string [" + ToUtf8(std::u16string(1, c)) + ']';
         EXPECT_EQ(failure({u'0', u'1', u'2', c}), message);
+        EXPECT_EQ(failure({u'0', u'1', c, u'2'}), message);
         EXPECT_EQ(failure({c, u'z'}), message);
         EXPECT_EQ(failure({c, u'1'}), message);
     }

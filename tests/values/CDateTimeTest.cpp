@@ -26,7 +26,7 @@ TEST(CDateTime, TheFormOfADateDecidesOnItsKind) {
                 "2001 -> gYear 2001", "-2001Z -> gYear -2001Z", "2001-05 -> gYearMonth 2001-05",
                 "-2001-05+23:59 -> gYearMonth -2001-05+23:59", "--05 -> gMonth --05", "--05-- -> gMonth --05",
                 "--05--Z -> gMonth --05Z", "--05xy -> gMonth --05", "2001-01-01x01:00 -> date 2001-01-01",
-                "---05 -> gDay ---05", "---31-00:30 -> gDay ---31+00:30", "--02-29 -> gMonthDay --02-29"});
+                "---01 -> gDay ---01", "---31-00:30 -> gDay ---31+00:30", "--02-29 -> gMonthDay --02-29"});
 }
 
 TEST(CDateTime, BadDatesAreRefusedWithTheirMessage) {
