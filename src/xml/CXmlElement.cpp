@@ -9,8 +9,6 @@
 
 namespace KzXmlLib10 {
 
-namespace {} // namespace
-
 CXmlElement::~CXmlElement() {
     if (m_firstChild)
         DestroyChain(m_firstChild);
