@@ -122,6 +122,7 @@ protected:
     /// The object that the generated class created for a mandatory member. Throws CKzInvalidStateException if
     /// it created none.
     CSmartPtr<CXmlObjectBase> HeldObject(const CXmlGeneratedClass* object) const;
+    /// The same, but null where the property has none.
     CSmartPtr<CXmlObjectBase> HeldObjectOrNull(const CXmlGeneratedClass* object) const;
     /// The collection that the generated class created. Throws CKzInvalidStateException if it is none.
     CSmartPtr<CXmlCollectionBase> HeldCollection(const CXmlGeneratedClass* object) const;
