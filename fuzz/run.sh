@@ -26,7 +26,7 @@ done
 done
 
 # A short quarantine and no stacks of allocations: memory that is used again soon is what makes a run quick.
-export ASAN_OPTIONS=quarantine_size_mb=4:malloc_context_size=0
+export ASAN_OPTIONS=quarantine_size_mb=1:thread_local_quarantine_size_kb=64:malloc_context_size=0
 
 build fuzz "${targets[@]/%/Fuzz}"
 
