@@ -1,6 +1,6 @@
 #include "support/Model.h"
 
-#include <stdexcept>
+#include <deque>
 #include <string_view>
 
 namespace kit {
@@ -271,6 +271,12 @@ CModelObject* Model::NewRaw(const char16_t* elementName) const {
 
 CSmartPtr<CXmlObjectBase> Model::Create(int classId, const char16_t* elementName) {
     return Models().at(static_cast<std::size_t>(classId))->New(elementName);
+}
+
+Model& NewModel(const char16_t* name, XmlElementGroupType group, XmlElementType type,
+                const char16_t* namespaceUri) {
+    static auto& models = *new std::deque<Model>; // never destroyed
+    return models.emplace_back(name, group, type, namespaceUri);
 }
 
 CPrimitiveRestrictions Facets(const char16_t* pattern, int minLength, int maxLength,

@@ -9,10 +9,11 @@
 
 /// Classes as a generator would write them, but described by the test that needs them:
 ///
-///     Model line(u"line");
-///     line.Attribute(u"id", Required, ItemType_i4).Prim(u"sku", Mnd, ItemType_string).Prim(u"note", Opt,
-///     ItemType_string); auto object = line.New(); object->FromXml(u"<line id='1'><sku>A</sku></line>",
-///     context); EXPECT_EQ(object->Text(1), u"A");
+///     const Model& line =
+///         NewModel(u"line").Attribute(u"id").Prim(u"sku", Mnd, ItemType_string).Prim(u"count", Opt);
+///     auto object = line.New();
+///     object->FromXml(u"<line id='1'><sku>A</sku></line>", context);
+///     EXPECT_EQ(object->Text(1), u"A");
 ///
 /// Each call adds one descriptor and one property; properties are numbered in the order of the calls. Setters
 /// check facets, mandatory objects are created by the constructor, Init resets everything else, as in
@@ -110,13 +111,15 @@ public:
     /// The class has a text of its own.
     Model& Content(ItemType type, const char16_t* format = u"", bool asText = false);
 
-    Model& Attribute(const char16_t* name, Use use, ItemType type, const char16_t* defaultValue = nullptr,
-                     const CPrimitiveRestrictions& facets = Facets(), const char16_t* namespaceUri = u"");
+    Model& Attribute(const char16_t* name, Use use = Required, ItemType type = ItemType_i4,
+                     const char16_t* defaultValue = nullptr, const CPrimitiveRestrictions& facets = Facets(),
+                     const char16_t* namespaceUri = u"");
     /// The colours red 1, green 2 and blue 3; an unknown text is 0.
     Model& ColourAttribute(const char16_t* name, Use use, const char16_t* defaultValue = nullptr);
 
-    Model& Prim(const char16_t* name, Cardinality cardinality, ItemType type, bool nillable = false,
-                const CPrimitiveRestrictions& facets = Facets(), const char16_t* format = nullptr);
+    Model& Prim(const char16_t* name, Cardinality cardinality = Mnd, ItemType type = ItemType_i4,
+                bool nillable = false, const CPrimitiveRestrictions& facets = Facets(),
+                const char16_t* format = nullptr);
     Model& Colour(const char16_t* name, Cardinality cardinality, bool nillable = false);
     Model& Class(const char16_t* name, Cardinality cardinality, const Model& child,
                  bool consumeRequired = false);
@@ -172,6 +175,10 @@ private:
     mutable std::vector<CElementInfo*> m_elements{nullptr};
     mutable std::vector<CAttributeInfo*> m_attributes{nullptr};
 };
+
+/// A model that outlives all objects, so that one statement can make and describe it.
+Model& NewModel(const char16_t* name, XmlElementGroupType group = XmlElementGroupType_Sequence,
+                XmlElementType type = XmlElementType_Element, const char16_t* namespaceUri = u"");
 
 /// The full message of the failure of the action; "" if it does not fail.
 std::u16string FailureOf(const std::function<void()>& action);

@@ -51,35 +51,30 @@ std::u16string FailedToWrite(const char16_t* name, const std::u16string& cause) 
 
 std::u16string Show(const CModelObject& object) { return ShowProperties(object, u"|"); }
 
-std::u16string Read(const Model& model, const std::u16string& xml, Flag flag) {
-    CXmlSerializationContext context;
-    if (flag)
-        (context.*flag)(true);
+std::u16string Read(const Model& model, const std::u16string& xml, Context& context) {
     const CSmartPtr<CModelObject> object = model.New();
     const std::u16string failure = FailureOf([&] { object->FromXml(xml.c_str(), context); });
     return failure.empty() ? Show(*object) : failure;
 }
 
-namespace {
-
 /// What a row tells of an element of that name.
-std::u16string Meant(const std::u16string& row, const char16_t* name) {
+static std::u16string Meant(const std::u16string& row, const std::u16string& name) {
     if (row[0] == u'!')
-        return FailedToRead(name, Meant(row.substr(1), name));
+        return FailedToRead(name.c_str(), Meant(row.substr(1), name));
+    if (row[0] == u'?')
+        return FailedToRead(name.c_str(), u"Failed to find a required element [" + row.substr(1) + u"]");
     if (row[0] != u'+')
         return row;
-    return FailedToRead(name, u"Failed read all the elements held within the element [" +
-                                  std::u16string(name) + u"]. The unexpected element [" + row.substr(1) +
-                                  u"] remains un processed");
+    return FailedToRead(name.c_str(), u"Failed read all the elements held within the element [" + name +
+                                          u"]. The unexpected element [" + row.substr(1) +
+                                          u"] remains un processed");
 }
 
-} // namespace
-
-void ExpectReads(const Model& model, std::initializer_list<Row> rows, Flag flag) {
-    for (const auto& [xml, row] : rows) {
-        const std::u16string root = xml.substr(1, xml.find_first_of(u" />") - 1);
-        EXPECT_EQ(Read(model, xml, flag), Meant(FromUtf8(row), root.c_str())) << ToUtf8(xml);
-    }
+void ExpectReads(const Model& model, std::initializer_list<Row> rows, Context& context) {
+    for (const auto& [xml, row] : rows)
+        EXPECT_EQ(Read(model, xml, context),
+                  Meant(FromUtf8(row), xml.substr(1, xml.find_first_of(u" />") - 1)))
+            << ToUtf8(xml);
 }
 
 std::u16string Rewritten(const Model& model, const std::u16string& xml) {
@@ -88,13 +83,7 @@ std::u16string Rewritten(const Model& model, const std::u16string& xml) {
     return Write(*object);
 }
 
-std::u16string Write(const CXmlObjectBase& object, Flag flag) {
-    CXmlSerializationContext context;
-    (context.*flag)(true);
-    return Write(object, context);
-}
-
-std::u16string Write(const CXmlObjectBase& object, const CXmlSerializationContext& context) {
+std::u16string Write(const CXmlObjectBase& object, Context& context) {
     std::u16string text;
     const std::u16string failure = FailureOf([&] { text = object.ToXml(false, false, EOLType_LF, context); });
     return failure.empty() ? text : failure;

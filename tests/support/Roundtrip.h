@@ -5,18 +5,32 @@
 /// Whole documents in, one line of text out: what tests of content models compare.
 namespace kit {
 
-inline constexpr char16_t xsi[] = u" xmlns:xsi='http://www.w3.org/2001/XMLSchema-instance'";
+inline constexpr auto Sequence = XmlElementGroupType_Sequence;
+inline constexpr auto Choice = XmlElementGroupType_Choice;
+inline constexpr auto All = XmlElementGroupType_All;
+inline constexpr auto Element = XmlElementType_Element;
+inline constexpr auto Pseudo = XmlElementType_Pseudo;
 
-/// A tolerance of the context to switch on.
-using Flag = void (CXmlSerializationContext::*)(bool);
-inline constexpr Flag none = nullptr;
-inline constexpr Flag unknownElements = &CXmlSerializationContext::SetIgnoreUnknownElements;
-inline constexpr Flag missingElements = &CXmlSerializationContext::SetIgnoreMissingMandatoryElements;
-inline constexpr Flag unknownAttributes = &CXmlSerializationContext::SetIgnoreUnknownAttributes;
-inline constexpr Flag missingChoice = &CXmlSerializationContext::SetIgnoreMissingChoice;
-inline constexpr Flag invalidCounts = &CXmlSerializationContext::SetIgnoreInvalidCollectionCounts;
-inline constexpr Flag defaultAttributes = &CXmlSerializationContext::SetNoOptionalAttributeDefaultOutput;
-inline constexpr Flag namespaces = &CXmlSerializationContext::SetIgnoreNamespaces;
+/// As attributes of a start tag, when read and when written.
+inline const std::u16string xsi = u" xmlns:xsi='http://www.w3.org/2001/XMLSchema-instance'";
+inline const std::u16string nilled =
+    u" xmlns:AA=\"http://www.w3.org/2001/XMLSchema-instance\" AA:nil=\"true\"";
+
+/// A context with one tolerance switched on.
+inline CXmlSerializationContext With(void (CXmlSerializationContext::*flag)(bool)) {
+    CXmlSerializationContext context;
+    (context.*flag)(true);
+    return context;
+}
+using Context = const CXmlSerializationContext;
+inline Context strict;
+inline Context unknownElements = With(&Context::SetIgnoreUnknownElements);
+inline Context missingElements = With(&Context::SetIgnoreMissingMandatoryElements);
+inline Context unknownAttributes = With(&Context::SetIgnoreUnknownAttributes);
+inline Context missingChoice = With(&Context::SetIgnoreMissingChoice);
+inline Context invalidCounts = With(&Context::SetIgnoreInvalidCollectionCounts);
+inline Context defaultAttributes = With(&Context::SetNoOptionalAttributeDefaultOutput);
+inline Context namespaces = With(&Context::SetIgnoreNamespaces);
 
 /// The failure of reading an element of this name, in front of `cause`.
 std::u16string FailedToRead(const char16_t* name, const std::u16string& cause);
@@ -29,15 +43,14 @@ std::u16string Show(const CModelObject& object);
 
 /// The properties of a fresh object of the model after reading the document, or the full message of the
 /// failure.
-std::u16string Read(const Model& model, const std::u16string& xml, Flag flag = none);
+std::u16string Read(const Model& model, const std::u16string& xml, Context& context = strict);
 
-/// Compares what Read gives for each document. In the rows "!cause" is FailedToRead the root, and "+child" is
-/// the failure of a root that has this child left over.
-void ExpectReads(const Model& model, std::initializer_list<Row> rows, Flag flag = none);
+/// Compares what Read gives for each document. In the rows "!cause" is FailedToRead the root, "+child" is the
+/// failure of a root that has this child left over, and "?child" of one in which this child is missing.
+void ExpectReads(const Model& model, std::initializer_list<Row> rows, Context& context = strict);
 
 /// The object as unformatted text, or the full message of the failure.
-std::u16string Write(const CXmlObjectBase& object, const CXmlSerializationContext& context = {});
-std::u16string Write(const CXmlObjectBase& object, Flag flag);
+std::u16string Write(const CXmlObjectBase& object, Context& context = strict);
 
 /// What a fresh object of the model writes after reading the document.
 std::u16string Rewritten(const Model& model, const std::u16string& xml);
