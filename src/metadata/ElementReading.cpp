@@ -26,13 +26,6 @@ using namespace KzXmlLib10;
 
 namespace {
 
-[[gnu::always_inline]] inline bool IsNamed(const CXmlElement* element, const std::u16string& name,
-                                           const std::u16string& namespaceUri,
-                                           const CXmlSerializationContext& context) {
-    return element && SameText(element->GetLocalName(), name) &&
-           (SameText(element->GetNamespaceURI(), namespaceUri) || context.GetIgnoreNamespaces());
-}
-
 CXmlObjectBase* Required(CXmlObjectBase* object, const std::u16string& elementName) {
     if (!object)
         Throw<CKzInvalidStateException>(messages::MandatoryMemberIsNull, elementName);
@@ -41,12 +34,27 @@ CXmlObjectBase* Required(CXmlObjectBase* object, const std::u16string& elementNa
 
 } // namespace
 
+/// Whether an element of this name was met in the document before, as is usual.
+inline bool CElementInfo::IsKnown(const CXmlElement& element) const {
+    return element.m_name->IsKnownAs(m_nameNumber);
+}
+
+[[gnu::noinline]] bool CElementInfo::HasNameOf(const CXmlElement& element,
+                                               const CXmlSerializationContext& context) const {
+    if (!SameText(element.GetLocalName(), m_elementName))
+        return false;
+    if (!SameText(element.GetNamespaceURI(), m_elementNamespace))
+        return context.GetIgnoreNamespaces();
+    element.m_name->MakeKnownAs(m_nameNumber);
+    return true;
+}
+
 bool CElementInfo::IsThisElement(const CXmlSerializationContext& context, const CXmlElement* element) const {
-    return IsNamed(element, m_elementName, m_elementNamespace, context);
+    return element && (IsKnown(*element) || HasNameOf(*element, context));
 }
 
 bool CElementInfo::SeekElement(const CXmlSerializationContext& context, CXmlElement** current) const {
-    while (!IsNamed(*current, m_elementName, m_elementNamespace, context)) {
+    while (!IsThisElement(context, *current)) {
         if (context.GetIgnoreMissingMandatoryElements())
             return false;
         if (!context.GetIgnoreUnknownElements() || !*current)

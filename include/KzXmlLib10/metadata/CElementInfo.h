@@ -160,8 +160,10 @@ protected:
     bool m_isPrimitive;
 
 private:
-    KzXmlLib10::UniqueNumber m_nameNumber; ///< by which a writer knows the name again
+    KzXmlLib10::UniqueNumber m_nameNumber; ///< by which writers and documents know the name again
 
+    bool IsKnown(const CXmlElement& element) const;
+    bool HasNameOf(const CXmlElement& element, const CXmlSerializationContext& context) const;
     bool IsNil(const CXmlElement& element) const;
     bool StoreAndAdvance(CXmlGeneratedClass* object, KzVariant& value, CXmlElement** current);
 };

@@ -58,6 +58,7 @@ private:
     friend class RecordParser;
     friend class CXmlDocument;
     friend class ElementText;
+    friend class KzXmlLib10Data::CElementInfo;
 
     CXmlElement(const CXmlDocument* document, const SharedName& name) noexcept;
 
