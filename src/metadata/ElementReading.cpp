@@ -65,9 +65,11 @@ bool CElementInfo::SeekElement(const CXmlSerializationContext& context, CXmlElem
     return true;
 }
 
-bool CElementInfo::IsNil(const CXmlElement& element) const {
-    if (!element.HasAttributes())
-        return false;
+inline bool CElementInfo::IsNil(const CXmlElement& element) const {
+    return element.HasAttributes() && HasNilAttribute(element);
+}
+
+[[gnu::noinline]] bool CElementInfo::HasNilAttribute(const CXmlElement& element) const {
     const std::u16string& value = FindSchemaInstanceAttribute(element, u"nil");
     if (value.empty() || IsFalseWord(value))
         return false;
@@ -78,12 +80,18 @@ bool CElementInfo::IsNil(const CXmlElement& element) const {
     return true;
 }
 
+/// The rule for the text of an element, which holds no carriage return.
+inline CWhitespaceUtils::WhitespaceRule CElementInfo::RuleForElements() const {
+    const bool changesNothing = m_whitespaceRule == CWhitespaceUtils::WhitespaceRule_Preserve;
+    return changesNothing ? CWhitespaceUtils::WhitespaceRule_None : m_whitespaceRule;
+}
+
 bool CElementInfo::TakePrimitive(CXmlGeneratedClass* object, CXmlElement** current) {
     KzVariant value;
     if (IsNil(**current))
         value.SetNil();
     else
-        value.FromText(ElementText(**current).Get(), m_itemType, m_whitespaceRule);
+        value.FromText(ElementText(**current).Get(), m_itemType, RuleForElements());
     return StoreAndAdvance(object, value, current);
 }
 

@@ -13,11 +13,11 @@ namespace KzXmlLib10 {
 /// The value of an attribute, or an empty text.
 inline const std::u16string& FindAttribute(const CXmlElement& element, std::u16string_view localName,
                                            std::u16string_view namespaceUri) {
-    static const std::u16string none;
     for (const CXmlAttribute* attribute : element.GetAttributes())
         if (SameText(attribute->GetLocalName(), localName) &&
             SameText(attribute->GetNamespaceURI(), namespaceUri))
             return attribute->GetValue();
+    static const std::u16string none;
     return none;
 }
 

@@ -165,6 +165,8 @@ private:
     bool IsKnown(const CXmlElement& element) const;
     bool HasNameOf(const CXmlElement& element, const CXmlSerializationContext& context) const;
     bool IsNil(const CXmlElement& element) const;
+    bool HasNilAttribute(const CXmlElement& element) const;
+    CWhitespaceUtils::WhitespaceRule RuleForElements() const;
     bool StoreAndAdvance(CXmlGeneratedClass* object, KzVariant& value, CXmlElement** current);
 };
 
