@@ -56,7 +56,7 @@ void CExpatReader::Initialize(const char* protocolEncoding) {
 
     XML_Parser parser = m_parser.get();
     XML_SetUserData(parser, this);
-    XML_SetElementHandler(parser, StartElementHandler, EndElementHandler);
+    XML_SetElementHandler(parser, StartRootHandler, EndElementHandler);
     XML_SetNamespaceDeclHandler(parser, StartNamespaceDeclHandler, EndNamespaceDeclHandler);
     XML_SetCharacterDataHandler(parser, CharacterDataHandler);
     XML_SetEntityDeclHandler(parser, EntityDeclHandler);
@@ -75,7 +75,7 @@ void CExpatReader::ParseChunk(bool isFinal, std::uint64_t handedIn) {
         const bool isLast = isFinal && left.empty();
         const XML_Status status = XML_Parse(m_parser.get(), reinterpret_cast<const char*>(slice.data()),
                                             static_cast<int>(slice.size()), isLast);
-        const std::size_t units = CommitText();
+        const std::size_t units = m_texts ? CommitText() : 0;
         if (status != XML_STATUS_OK || m_failure)
             Fail();
         m_budget.Charge(units);
@@ -115,16 +115,20 @@ void CExpatReader::Handle(void* userData, Action action) noexcept {
     }
 }
 
+void CExpatReader::StartRoot(const XML_Char* name, const XML_Char** attributes) {
+    XML_SetStartElementHandler(m_parser.get(), StartElementHandler);
+    m_document->StartTree();
+    m_texts = &m_document->m_memory->texts;
+    const SharedName& shared = m_names.Find(name, m_document->m_memory->names);
+    m_budget.Charge(shared.Size(), sizeof(CXmlElement));
+    AddAttributes(*m_document->AddDocElement(shared), attributes);
+}
+
 inline void CExpatReader::StartElement(const XML_Char* name, const XML_Char** attributes) {
-    const bool isRoot = !m_document->m_documentElement;
-    if (isRoot) {
-        m_document->StartTree();
-        m_texts = &m_document->m_memory->texts;
-    }
     const std::size_t units = CommitText();
     const SharedName& shared = m_names.Find(name, m_document->m_memory->names);
     m_budget.Charge(units + shared.Size(), sizeof(CXmlElement));
-    CXmlElement* element = isRoot ? m_document->AddDocElement(shared) : m_document->AddChildElement(shared);
+    CXmlElement* element = m_document->AddChildElement(shared);
     if (*attributes)
         AddAttributes(*element, attributes);
 }
@@ -133,6 +137,8 @@ void CExpatReader::AddAttributes(CXmlElement& element, const XML_Char** attribut
     std::size_t count = 0;
     while (attributes[2 * count])
         ++count;
+    if (count == 0)
+        return;
     element.ReserveAttributes(count);
     // A document type can give each element any number of attributes, so they count even if they are empty.
     constexpr std::size_t attributeUnits = sizeof(CXmlAttribute) / sizeof(char16_t);
@@ -167,12 +173,16 @@ void CExpatReader::AppendTextWithoutRoom(std::string_view text) {
 
 /// Makes what was appended part of the tree. Returns the number of its code units.
 inline std::size_t CExpatReader::CommitText() {
-    return m_texts && m_texts->HasText() ? m_texts->Commit(m_document->m_elementStack.back()->m_text) : 0;
+    return m_texts->HasText() ? m_texts->Commit(m_document->m_elementStack.back()->m_text) : 0;
 }
 
 inline void CExpatReader::ChargeText() {
     if (const std::size_t units = CommitText())
         m_budget.Charge(units);
+}
+
+void XMLCALL CExpatReader::StartRootHandler(void* reader, const XML_Char* name, const XML_Char** attributes) {
+    Handle(reader, [=](CExpatReader& self) { self.StartRoot(name, attributes); });
 }
 
 void XMLCALL CExpatReader::StartElementHandler(void* reader, const XML_Char* name,

@@ -48,6 +48,7 @@ public:
     void RenewBudget(std::uint64_t handedIn, std::uint64_t parsed);
 
 private:
+    static void XMLCALL StartRootHandler(void* reader, const XML_Char* name, const XML_Char** attributes);
     static void XMLCALL StartElementHandler(void* reader, const XML_Char* name, const XML_Char** attributes);
     static void XMLCALL EndElementHandler(void* reader, const XML_Char* name);
     static void XMLCALL StartNamespaceDeclHandler(void* reader, const XML_Char* prefix, const XML_Char* uri);
@@ -66,6 +67,7 @@ private:
     template <class Action>
     static void Handle(void* reader, Action action) noexcept;
 
+    void StartRoot(const XML_Char* name, const XML_Char** attributes);
     void StartElement(const XML_Char* name, const XML_Char** attributes);
     void AddAttributes(CXmlElement& element, const XML_Char** attributes);
     void AppendText(std::string_view text);

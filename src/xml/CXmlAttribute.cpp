@@ -18,7 +18,7 @@ bool IsReservedNamespace(std::u16string_view uri) {
 
 } // namespace
 
-CXmlAttribute::CXmlAttribute(const SharedName& name, std::u16string value) noexcept
+CXmlAttribute::CXmlAttribute(const SharedName& name, std::u16string&& value) noexcept
     : CInstanceMonitor(u"CXmlAttribute"), m_name(&name), m_value(std::move(value)) {}
 
 CXmlAttribute::~CXmlAttribute() = default;

@@ -85,7 +85,7 @@ void CXmlElement::ReserveAttributes(std::size_t count) {
     m_attributes->reserve(count);
 }
 
-void CXmlElement::AddAttribute(const SharedName& name, std::u16string value) {
+void CXmlElement::AddAttribute(const SharedName& name, std::u16string&& value) {
     constexpr std::size_t first = 3; // which a block of the heap has room for at least
     if (!m_attributes || m_attributes->size() == m_attributes->capacity())
         ReserveAttributes(m_attributes ? 2 * m_attributes->size() : first);

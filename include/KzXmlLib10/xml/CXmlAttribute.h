@@ -37,7 +37,7 @@ private:
     friend class CXmlElement;
 
     /// The names stay those of the document.
-    CXmlAttribute(const SharedName& name, std::u16string value) noexcept;
+    CXmlAttribute(const SharedName& name, std::u16string&& value) noexcept;
 
     const SharedName* m_name; ///< the document's
     std::u16string m_value;

@@ -69,7 +69,7 @@ private:
 
     /// Gives room for so many attributes.
     void ReserveAttributes(std::size_t count);
-    void AddAttribute(const SharedName& name, std::u16string value);
+    void AddAttribute(const SharedName& name, std::u16string&& value);
     void AppendText(std::u16string_view text);
     void ClearText();
     /// Appends a child, and returns it.
