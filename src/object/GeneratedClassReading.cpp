@@ -42,8 +42,8 @@ CXmlElement* CXmlGeneratedClass::ReadObject(CXmlElement* element, CXmlElement* c
     const INillable* nillable = AsNillable(*info);
     if (nillable && nillable->IsNil())
         return current;
-    CXmlElement* rest = ReadChildren(element, current, context, isOptional);
-    ReadPrimitiveValue(*element);
+    CXmlElement* rest = ReadChildren(*info, element, current, context, isOptional);
+    ReadPrimitiveValue(*info, *element);
     return rest;
 }
 
@@ -58,50 +58,51 @@ const INillable* CXmlGeneratedClass::AsNillable(const CParentElementInfo& info) 
     return nillable;
 }
 
-CXmlElement* CXmlGeneratedClass::ReadChildren(CXmlElement* element, CXmlElement* current,
-                                              const CXmlSerializationContext& context, bool isOptional) {
-    const CParentElementInfo* info = GetClassInfo();
-    switch (info->GetElementGroupType()) {
+CXmlElement* CXmlGeneratedClass::ReadChildren(const CParentElementInfo& info, CXmlElement* element,
+                                              CXmlElement* current, const CXmlSerializationContext& context,
+                                              bool isOptional) {
+    switch (info.GetElementGroupType()) {
     case XmlElementGroupType_Sequence:
-        return ProcessElementSeqFromXml(context, element, current, info->GetElementType());
+        return ProcessElementSeqFromXml(context, element, current, info.GetElementType());
     case XmlElementGroupType_Choice:
-        return ProcessElementChoiceFromXml(context, element, current, info->GetElementType(), isOptional);
+        return ProcessElementChoiceFromXml(context, element, current, info.GetElementType(), isOptional);
     case XmlElementGroupType_All:
-        return ProcessElementAllFromXml(context, element, current, info->GetElementType());
+        return ProcessElementAllFromXml(context, element, current, info.GetElementType());
     default:
         Throw<CKzException>(messages::UnknownGroupTypeOnReading);
     }
 }
 
-void CXmlGeneratedClass::ReadPrimitiveValue(const CXmlElement& element) {
-    const CParentElementInfo* info = GetClassInfo();
-    const int property = info->GetPrimitiveValuePropertyIndex();
-    if (property == -1 || info->GetPrimitiveDataType() == ItemType_Invalid)
+void CXmlGeneratedClass::ReadPrimitiveValue(const CParentElementInfo& info, const CXmlElement& element) {
+    const int property = info.GetPrimitiveValuePropertyIndex();
+    if (property == -1 || info.GetPrimitiveDataType() == ItemType_Invalid)
         return;
     KzVariant value;
-    if (info->GetOutputPrimitiveClassAsTextProperty())
+    if (info.GetOutputPrimitiveClassAsTextProperty())
         value.SetString(element.GetText());
     else
-        value.FromString(element.GetText(), info->GetPrimitiveDataType(),
+        value.FromString(element.GetText(), info.GetPrimitiveDataType(),
                          CWhitespaceUtils::WhitespaceRule_None);
     AccessProperty(property, false, value);
 }
 
 void CXmlGeneratedClass::ProcessAttributesFromXml(const CXmlSerializationContext& context,
                                                   CXmlElement* element, bool failIfUnknown) {
+    CAttributeInfo** const table = GetClassAttributeInfo();
+    if (!*table && !element->HasAttributes()) // as is usual
+        return;
     std::string found; // which needs no heap for a few flags
-    for (CAttributeInfo** entry = GetClassAttributeInfo(); *entry; ++entry)
+    for (CAttributeInfo** entry = table; *entry; ++entry)
         found.push_back(0);
     for (CXmlAttribute* attribute : element->GetAttributes()) {
         if (attribute->IsNamespaceAttribute())
             continue;
         if (attribute->IsNilAttribute())
             ReadNilAttribute(*element, *attribute);
-        else if (!OfferAttribute(context, attribute, found) && failIfUnknown &&
+        else if (!OfferAttribute(context, table, attribute, found) && failIfUnknown &&
                  !context.GetIgnoreUnknownAttributes())
             Throw<CKzValidationException>(messages::UnexpectedAttribute, attribute->GetLocalName());
     }
-    CAttributeInfo** table = GetClassAttributeInfo();
     for (std::size_t i = 0; i < found.size(); ++i)
         table[i]->Validate(context, found[i]);
 }
@@ -116,9 +117,8 @@ void CXmlGeneratedClass::ReadNilAttribute(const CXmlElement& element, const CXml
     nillable->SetNil(IsTrueWord(value));
 }
 
-bool CXmlGeneratedClass::OfferAttribute(const CXmlSerializationContext& context, CXmlAttribute* attribute,
-                                        std::string& found) {
-    CAttributeInfo** table = GetClassAttributeInfo();
+bool CXmlGeneratedClass::OfferAttribute(const CXmlSerializationContext& context, CAttributeInfo** table,
+                                        CXmlAttribute* attribute, std::string& found) {
     for (std::size_t i = 0; i < found.size(); ++i)
         if (table[i]->AttributeFromXml(context, this, attribute)) {
             found[i] = true;

@@ -99,12 +99,12 @@ private:
     CXmlElement* ReadObject(CXmlElement* element, CXmlElement* current,
                             const CXmlSerializationContext& context, bool isOptional);
     const INillable* AsNillable(const KzXmlLib10Data::CParentElementInfo& info) const;
-    CXmlElement* ReadChildren(CXmlElement* element, CXmlElement* current,
-                              const CXmlSerializationContext& context, bool isOptional);
-    void ReadPrimitiveValue(const CXmlElement& element);
+    CXmlElement* ReadChildren(const KzXmlLib10Data::CParentElementInfo& info, CXmlElement* element,
+                              CXmlElement* current, const CXmlSerializationContext& context, bool isOptional);
+    void ReadPrimitiveValue(const KzXmlLib10Data::CParentElementInfo& info, const CXmlElement& element);
     void ReadNilAttribute(const CXmlElement& element, const CXmlAttribute& attribute);
-    bool OfferAttribute(const CXmlSerializationContext& context, CXmlAttribute* attribute,
-                        std::string& found);
+    bool OfferAttribute(const CXmlSerializationContext& context, KzXmlLib10Data::CAttributeInfo** table,
+                        CXmlAttribute* attribute, std::string& found);
     bool OfferElement(const CXmlSerializationContext& context, std::size_t index, CXmlElement* element,
                       CXmlElement*& current, KzXmlLib10Data::XmlElementType type);
     CXmlElement* ProcessElementSeqFromXml(const CXmlSerializationContext& context, CXmlElement* element,
