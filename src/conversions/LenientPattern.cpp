@@ -75,7 +75,8 @@ std::string Rewrite(std::string_view pattern) {
 
 bool IsLetter(char c) { return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z'); }
 
-/// Whether there is a letter behind a backslash, or a POSIX class. Without them there is nothing to rewrite.
+} // namespace
+
 bool MayNeedRewriting(std::string_view pattern) {
     for (std::size_t at = 0; (at = pattern.find('\\', at)) != pattern.npos; at += 2) {
         if (at + 1 < pattern.size() && IsLetter(pattern[at + 1]))
@@ -83,8 +84,6 @@ bool MayNeedRewriting(std::string_view pattern) {
     }
     return pattern.find("[:") != pattern.npos;
 }
-
-} // namespace
 
 std::string MakeLenientPattern(std::string pattern) {
     if (MayNeedRewriting(pattern))

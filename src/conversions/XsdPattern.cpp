@@ -110,16 +110,44 @@ void AppendSubstituted(std::string& to, std::string_view pattern) {
     }
 }
 
-std::string Translate(std::string_view pattern) {
-    std::string result;
-    result.reserve(pattern.size() + 2);
-    // Deliberate: no group; each branch but the outer ones stands without an anchor.
-    result += '^';
-    AppendSubstituted(result, pattern);
-    result = MakeLenientPattern(std::move(result));
-    result += '$';
-    return result;
-}
+/// A pattern as PCRE2 reads it, on the stack if it is short and needs no more than its anchors, as is usual.
+///
+/// Deliberate: the anchors come without a group; each branch but the outer ones stands without one.
+class TranslatedPattern {
+public:
+    explicit TranslatedPattern(std::string_view pattern) {
+        const bool isPlain = pattern.find('\x01') == pattern.npos && !MayNeedRewriting(pattern);
+        if (isPlain && pattern.size() + 2 < sizeof m_short)
+            m_text = WriteAnchored(pattern);
+        else
+            m_text = m_long = Translate(pattern);
+    }
+    TranslatedPattern(const TranslatedPattern&) = delete;
+    TranslatedPattern& operator=(const TranslatedPattern&) = delete;
+
+    /// A zero follows it.
+    std::string_view Get() const { return m_text; }
+
+private:
+    std::string_view WriteAnchored(std::string_view pattern) {
+        char* to = m_short;
+        *to++ = '^';
+        to = std::copy(pattern.begin(), pattern.end(), to);
+        *to++ = '$';
+        *to = '\0';
+        return {m_short, to};
+    }
+
+    static std::string Translate(std::string_view pattern) {
+        std::string result = "^";
+        AppendSubstituted(result, pattern);
+        return MakeLenientPattern(std::move(result)) + '$';
+    }
+
+    char m_short[192];
+    std::string m_long;
+    std::string_view m_text;
+};
 
 /// The UTF-8 form of a text up to its first lone surrogate, on the stack if it is short.
 class Utf8Text {
@@ -166,12 +194,12 @@ std::u16string ErrorText(int error) {
 /// saves, as does the search for what cannot backtrack: both are made for patterns that match often.
 constexpr std::uint32_t compileOptions = PCRE2_UTF | PCRE2_NO_START_OPTIMIZE | PCRE2_NO_AUTO_POSSESS;
 
-Code Compile(const std::string& pattern, std::u16string_view value, pcre2_general_context* memory) {
+Code Compile(std::string_view pattern, std::u16string_view value, pcre2_general_context* memory) {
     const CompileContext context(NotOutOfMemory(pcre2_compile_context_create(memory)));
     int error = 0;
     PCRE2_SIZE offset = 0;
     // Deliberate: a NUL ends the pattern.
-    Code code(pcre2_compile(reinterpret_cast<PCRE2_SPTR>(pattern.c_str()), PCRE2_ZERO_TERMINATED,
+    Code code(pcre2_compile(reinterpret_cast<PCRE2_SPTR>(pattern.data()), PCRE2_ZERO_TERMINATED,
                             compileOptions | (IsAscii(pattern) ? PCRE2_NO_UTF_CHECK : 0), &error, &offset,
                             context.get()));
     if (!code && error == PCRE2_ERROR_HEAP_FAILED)
@@ -185,7 +213,7 @@ bool Match(std::string_view pattern, std::u16string_view value) {
     MatchMemory memory;
     const GeneralContext general(
         NotOutOfMemory(pcre2_general_context_create(MatchMemory::Allocate, MatchMemory::Free, &memory)));
-    const Code code = Compile(Translate(pattern), value, general.get());
+    const Code code = Compile(TranslatedPattern(pattern).Get(), value, general.get());
     const MatchContext context(NotOutOfMemory(pcre2_match_context_create(general.get())));
     pcre2_set_heap_limit(context.get(),
                          static_cast<std::uint32_t>(CurrentLimit(&Limits::patternHeapBytes) / 1024));
