@@ -25,9 +25,10 @@ public:
             Throw<CKzException>(messages::FileNotOpened, m_name, error);
     }
     std::size_t Read(std::span<unsigned char> block) override {
+        static_assert(sizeof m_position == sizeof(off_t), "a file would begin again behind 4 GiB");
         std::size_t count = 0;
         int error = m_file.StartRead(m_position, block.data(), block.size());
-        if (error == 0)
+        if (error == 0 || error == AsyncFile::EndOfFile)
             error = m_file.Finish(count);
         if (error == AsyncFile::EndOfFile)
             return 0;

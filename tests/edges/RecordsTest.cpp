@@ -149,6 +149,15 @@ TEST_F(RecordsTest, WhatEndsTheDocumentComesBehindTheRecordsBeforeIt) {
     const std::string result = seen(damaged);
     EXPECT_TRUE(result.starts_with("1 1 1 1 ")) << result.substr(0, 100);
     EXPECT_TRUE(result.ends_with("The compressed stream is damaged or ends too early"));
+    EXPECT_EQ(seen(std::string_view("\x78\xBB\0\0\0\x01", 6)), // wants a dictionary
+              "The compressed stream is damaged or ends too early");
+    m_dir.Write("file", "");
+    EXPECT_EQ(seen(std::filesystem::path(m_dir.Path("file"))), "no element found at line 1");
+    m_dir.Write("file", many); // of several blocks
+    systemCalls.pread = [](int file, void* to, std::size_t size, off_t at) -> ssize_t {
+        return at == 0 ? pread(file, to, size, at) : (errno = EIO, -1);
+    };
+    EXPECT_TRUE(seen(std::filesystem::path(m_dir.Path("file"))).ends_with("] Error [0x00000005]"));
     // What is no failure of the library ends the reading too.
     CRecord::onCreate = [] { throw std::runtime_error(""); };
     EXPECT_THROW(seen(std::string_view(whole)), std::runtime_error);
