@@ -101,6 +101,7 @@ void CFileTextStream::StartWrite(const CBinaryData& data) {
 }
 
 void CFileTextStream::FinishWrite() {
+    static_assert(sizeof m_writeOffset == sizeof(off_t), "a file would be overwritten behind 4 GiB");
     std::size_t written;
     CheckBlock(m_file->Finish(written));
     m_writeOffset += written;

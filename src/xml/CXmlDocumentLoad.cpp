@@ -133,6 +133,7 @@ void CXmlDocument::LoadInBlocks(const std::u16string& fileName) {
 
 /// Starts to read the next block. The end of the file is reported by Finish.
 void CXmlDocument::ReadChunkFromFile(unsigned char* block) {
+    static_assert(sizeof m_readOffset == sizeof(off_t), "a file would begin again behind 4 GiB");
     const int error = m_file->StartRead(m_readOffset, block, readBlockSize);
     if (error != 0 && error != AsyncFile::EndOfFile)
         Throw<CKzException>(messages::FileBlockNotRead, error);

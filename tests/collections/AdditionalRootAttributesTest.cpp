@@ -1,5 +1,7 @@
 #include "support/Test.h"
 
+#include <latch>
+
 namespace {
 
 TEST(AdditionalRootAttributes, PrecedeTheRootsOwnAndStandOnTheRootOnly) {
@@ -24,6 +26,23 @@ TEST(AdditionalRootAttributes, AreSharedByCopiesMadeAfterwards) {
     assigned = CXmlSerializationContext(source);
     assigned.GetAdditionalRootAttributes()->Add(u"b");
     EXPECT_EQ(source.GetAdditionalRootAttributes()->GetCount(), 2);
+}
+
+TEST(AdditionalRootAttributes, AreMadeOnceHoweverManyThreadsAsk) {
+    for (int round = 0; round < 100; ++round) {
+        const CXmlSerializationContext fresh;
+        CSmartPtr<CAttributeCol> seen[2];
+        {
+            std::latch start(2);
+            std::vector<std::jthread> threads;
+            for (auto& one : seen)
+                threads.emplace_back([&] {
+                    start.arrive_and_wait();
+                    one = fresh.GetAdditionalRootAttributes();
+                });
+        }
+        EXPECT_EQ(&*seen[0], &*seen[1]);
+    }
 }
 
 } // namespace

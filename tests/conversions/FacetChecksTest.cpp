@@ -130,6 +130,7 @@ TEST(FacetChecks, LengthsAndPatternsOfTexts) {
         {u"ab", Lengths(-1, 2, -1, u"("),
          "Invalid Regular Expression: ab Error: 'missing closing parenthesis'\n" + Violation("ab")},
         {u"abc", Bounds(u"x", u"a"), passes},
+        {u"abc", CPrimitiveRestrictions(), passes},
     };
     for (const auto& [text, restrictions, outcome] : rows)
         EXPECT_EQ(Outcome(text, ItemType_string, restrictions), outcome);

@@ -32,6 +32,16 @@ std::string Contents(const char* name) {
 
 using Run = std::function<std::string()>;
 
+/// A record of `large`.
+struct CRecord : CModelObject {
+    CRecord() : CModelObject(Described(), u"c") {}
+    static const Model& Described() {
+        static Model model(u"c");
+        static const Model& whole = model.Content(ItemType_string);
+        return whole;
+    }
+};
+
 /// What the scenarios share, made once.
 struct World {
     World() {
@@ -39,6 +49,9 @@ struct World {
         choice.Prim(u"i", Opt, ItemType_integer).Prim(u"d", Opt, ItemType_date).Class(u"p", Opt, point);
         all.Prim(u"a", Mnd, ItemType_base64Binary).Prim(u"b", Opt, ItemType_duration);
         node.Class(u"n", Opt, node).Prim(u"v", Opt, ItemType_i4);
+        group.Prim(u"a", Mnd, ItemType_i4);
+        skipping.Class(u"g", Opt, group);
+        lenient.SetIgnoreUnknownElements(true);
         order.Attribute(u"id", Required, ItemType_i8)
             .Prim(u"note", Opt, ItemType_string, true, Facets(u"[a-z ,]*", 1, 100))
             .Class(u"choice", Opt, choice)
@@ -57,6 +70,7 @@ struct World {
         directory.Write("large", large);
         directory.Write("broken", "<a>\n</b>");
         directory.Write("order", ToUtf8(orderText));
+        mkfifo(directory.Path("pipe").c_str(), 0600);
     }
 
     CSmartPtr<CModelObject> Order() const {
@@ -108,7 +122,8 @@ struct World {
 
     Model point{u"point"}, node{u"n"}, order{u"order"};
     Model choice{u"choice", XmlElementGroupType_Choice}, all{u"all", XmlElementGroupType_All};
-    CXmlSerializationContext context;
+    Model group{u"g", XmlElementGroupType_Sequence, XmlElementType_Pseudo}, skipping{u"r"};
+    CXmlSerializationContext context, lenient;
     const CXmlSerializationContext plain;
     const TempDir directory;
     const std::u16string orderText =
@@ -124,7 +139,48 @@ std::string Shown(const auto& value) { return ToUtf8(value.ToString()); }
 /// The message of a failure that belongs to the scenario.
 template <class Action>
 Run Fails(Action action) {
-    return [=] { return Failure(action); };
+    return [=] {
+        const std::string message = Failure(action);
+        if (message == "no failure")
+            throw std::logic_error(message);
+        return message;
+    };
+}
+
+/// The message of a limit that the action meets.
+template <class Action>
+Run Meets(std::uint64_t Limits::*figure, std::uint64_t value, Action action) {
+    return Fails([=] {
+        const LimitsScope limits(figure, value);
+        action();
+    });
+}
+
+std::string Frames(const CKzException& failure) {
+    std::string text;
+    for (const FailureFrame& frame : GetFailureFrames(failure))
+        text += GetFailureKindName(frame.kind) + frame.name + frame.message;
+    return text;
+}
+
+std::string Texts(Records<CRecord> all) {
+    std::string sizes;
+    for (const CRecord& one : all)
+        sizes += std::to_string(one.Text(0).size());
+    return sizes;
+}
+
+/// Writes an order into a pipe, and gives what comes out.
+std::string Piped(const CModelObject& object, const std::string& name) {
+    struct Reader {
+        explicit Reader(const std::string& name) : file(open(name.c_str(), O_RDONLY | O_NONBLOCK)) {}
+        ~Reader() { close(file); }
+        const int file;
+    };
+    const Reader reader(name);
+    WriteFile(object, name);
+    char bytes[4096];
+    return std::string(bytes, static_cast<std::size_t>(read(reader.file, bytes, sizeof bytes)));
 }
 
 std::vector<Scenario> Make() {
@@ -170,6 +226,14 @@ std::vector<Scenario> Make() {
                                      std::string(65536 + 259, 'x') + std::string(1000, '\xA0'));
          })},
         {"limit of exponents", Fails([] { CDecimal(u"1E999999999"); })},
+        {"limit of the input", Meets(&Limits::inputBytes, 10, [] { CXmlDocument().LoadXml(small.c_str()); })},
+        {"limit of inflating", Meets(&Limits::inflatedBytes, 1000, w.Stream(Compressed(large, packed)))},
+        {"limit of nodes",
+         Meets(&Limits::treeBytes, 0, w.Stream(Compressed("<r>" + Repeat("<a/>"s, 5000) + "</r>", packed)))},
+        {"limit of nesting",
+         Meets(&Limits::nestedObjects, 5, [=] { w.node.New()->FromXml(deep.c_str(), w.plain); })},
+        {"limit of skipping", Meets(&Limits::skippedElements, 2,
+                                    [] { w.skipping.New()->FromXml(u"<r><u/><u/><u/></r>", w.lenient); })},
         {"limits", Fails([] {
              Limits limits = GetLimits();
              SetLimits(limits);
@@ -182,6 +246,16 @@ std::vector<Scenario> Make() {
         {"object from Fast Infoset",
          w.Object([=](CModelObject& o) { o.FromXmlStream(fastInfoset, w.plain); })},
         {"object from gzip", w.Object([=](CModelObject& o) { o.FromXmlStream(gzip, w.plain); })},
+        {"object by Read", w.Object([=](CModelObject& o) { Read(o, narrowText, w.plain); })},
+        {"failure frames",
+         [=] {
+             try {
+                 w.node.New()->FromXml(deep.c_str(), w.plain);
+             } catch (const CKzException& failure) {
+                 return Frames(failure);
+             }
+             return "no failure"s;
+         }},
         {"failure in an object", Fails([=] { w.node.New()->FromXml(deep.c_str(), w.plain); })},
         {"failure in writing", Fails([] { w.order.New()->ToXml(true, false, EOLType_LF, w.context); })},
         {"object to UTF-8", w.Bytes([](const CModelObject& o) {
@@ -190,6 +264,11 @@ std::vector<Scenario> Make() {
         {"object to UTF-16 and zlib", w.Bytes([](const CModelObject& o) {
              return o.ToXmlStream(true, true, utf16, EOLType_LF, w.context, CompressionType_ZLib);
          })},
+        {"object by WriteBytes",
+         [object = w.Order()] {
+             const std::vector<std::byte> bytes = WriteBytes(*object, {.compression = packed}, w.context);
+             return std::string(reinterpret_cast<const char*>(bytes.data()), bytes.size());
+         }},
         {"object to Fast Infoset", w.Bytes([](const CModelObject& o) {
              return o.ToFastInfosetStream(FInfoDecl_10, w.context, packed);
          })},
@@ -205,6 +284,14 @@ std::vector<Scenario> Make() {
              o.FromXmlFile(w.directory.Path16("order").c_str(), w.plain);
          }),
          true},
+        {"object by ReadFile",
+         w.Object([](CModelObject& o) { ReadFile(o, w.directory.Path("order"), w.plain); }), true},
+        {"object by WriteFile to a pipe",
+         [object = w.Order()] { return Piped(*object, w.directory.Path("pipe")); }, true},
+        {"records of a file",
+         [] { return Texts(records<CRecord>(std::filesystem::path(w.directory.Path("large")), w.plain)); },
+         true},
+        {"records of gzip", [bytes = Compressed(large, packed)] { return Texts(records<CRecord>(bytes)); }},
         {"object to file", w.File(utf8, plain), true},
         {"object to file in blocks", w.File(utf16, plain, true), true},
         {"object to gzip file", w.File(utf8, packed), true},
@@ -261,6 +348,14 @@ std::vector<Scenario> Make() {
              span.ParseXSDDuration(u"P1M1DT1S");
              return Shown(date + span) + Shown(date.GetNormalized());
          }},
+        {"standard calendar",
+         [] {
+             const auto day = ToYearMonthDay(FromChrono(std::chrono::year(2024) / 2 / 29));
+             const auto sent = ToSysTime<std::chrono::seconds>(CDateTime(u"2024-02-29T23:30:00-01:00"));
+             return Shown(FromChrono(day)) + Shown(FromChrono(sent)) +
+                    Shown(FromChrono(std::chrono::minutes(90))) +
+                    Failure([] { FromChrono(std::chrono::year(0)); });
+         }},
         {"variant of a date", variant(ItemType_date, u" 2001-02-03Z ")},
         {"variant of a duration", variant(ItemType_duration, u"P1Y2M3DT4H5M6.789S")},
         {"variant of a text", variant(ItemType_string, u" a text that is longer  than short ")},
@@ -272,6 +367,11 @@ std::vector<Scenario> Make() {
                     Failure([] { CheckDecimal(u"name", CDecimal(u"7.5"), Facets(u"", -1, -1, u"8", u"9")); });
          }},
         {"pattern", [] { return std::to_string(MatchXsdPattern("(\\i\\c*|[0-9]+)*", u"name1234567890")); }},
+        {"patterns on the heap",
+         [] {
+             return std::to_string(MatchXsdPattern("(a|b)*", std::u16string(1000, u'a'))) +
+                    std::to_string(MatchXsdPattern(std::string(30'000, 'x'), u"x"));
+         }},
         {"typed collection",
          [] {
              auto items = support::Make<CdecimalCol>({.maxOccurs = 3});

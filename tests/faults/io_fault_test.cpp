@@ -16,6 +16,7 @@ long calls, faultyCall;
 Fault fault;
 /// Why the call failed in the end, or 0 if it must not have mattered.
 int cause;
+bool hasWritten;
 
 /// Whether this call is the faulty one and fails with an error.
 bool Fails(bool matters) {
@@ -24,6 +25,14 @@ bool Fails(bool matters) {
     errno = errors[fault];
     cause = matters && fault != Eintr ? errno : 0;
     return true;
+}
+
+/// The same for a call that no signal ever interrupts: EINTR is an error like others.
+bool FailsAnyhow() {
+    const bool fails = Fails(true);
+    if (fails)
+        cause = errno;
+    return fails;
 }
 
 template <class Transfer>
@@ -43,11 +52,9 @@ void InstallFaultyCalls() {
         return Fails(true) ? -1 : real.open(name, flags, mode);
     };
     systemCalls.fstat = [](int file, struct stat* status) {
-        const bool fails = Fails(true);
-        if (fails && fault == Eintr)
-            cause = EINTR; // which fstat never gives
-        return fails ? -1 : real.fstat(file, status);
+        return FailsAnyhow() ? -1 : real.fstat(file, status);
     };
+    systemCalls.clearNonBlocking = [](int file) { return FailsAnyhow() ? -1 : real.clearNonBlocking(file); };
     systemCalls.advise = [](int file, off_t offset, off_t length, int advice) {
         return Fails(false) ? errno : real.advise(file, offset, length, advice);
     };
@@ -56,11 +63,16 @@ void InstallFaultyCalls() {
                            [&](std::size_t n) { return real.pread(file, buffer, n, offset); });
     };
     systemCalls.pwrite = [](int file, const void* bytes, std::size_t length, off_t offset) {
+        hasWritten = true;
         return Transferred(length, EIO, [&](std::size_t n) { return real.pwrite(file, bytes, n, offset); });
     };
+    systemCalls.write = [](int file, const void* bytes, std::size_t length) {
+        hasWritten = true;
+        return Transferred(length, EIO, [&](std::size_t n) { return real.write(file, bytes, n); });
+    };
     systemCalls.close = [](int file) {
-        const int result = real.close(file); // it is closed in any case
-        return Fails(true) ? -1 : result;
+        const int result = real.close(file);    // it is closed in any case
+        return Fails(hasWritten) ? -1 : result; // which does not matter for a file that was only read
     };
 }
 
@@ -73,6 +85,15 @@ bool Reports(const std::string& message, int error) {
            strcasecmp(message.c_str() + message.size() - length, end) == 0;
 }
 
+/// Whether the outcome is what a fault has to lead to.
+bool IsGood(const faults::Scenario& scenario, const std::string& outcome, const std::string& expected) {
+    if (cause == 0 || (fault == Zero && outcome == expected)) // nothing was left to read
+        return outcome == expected;
+    // What does not ask a file for its length takes it for a shorter one.
+    const bool endsEarly = fault == Zero && scenario.name == "records of a file"sv;
+    return Reports(outcome, cause) || (endsEarly && outcome.find(" at line ") != outcome.npos);
+}
+
 struct Tally {
     long points = 0, wrong = 0;
     double slowest = 0;
@@ -80,7 +101,7 @@ struct Tally {
 
 /// Runs with one fault; false if there is no such call.
 bool RunWithFault(const faults::Scenario& scenario, const std::string& expected, Tally& tally) {
-    calls = cause = 0;
+    calls = cause = hasWritten = 0;
     const auto descriptors = OpenDescriptors();
     std::string outcome;
     InstallFaultyCalls();
@@ -89,8 +110,7 @@ bool RunWithFault(const faults::Scenario& scenario, const std::string& expected,
     if (calls < faultyCall)
         return false;
     ++tally.points;
-    // An error of closing a file that was only read does not matter.
-    const bool isGood = outcome == expected || (cause != 0 && Reports(outcome, cause));
+    const bool isGood = IsGood(scenario, outcome, expected);
     const bool isWhole = OpenDescriptors() == descriptors && Outcome(scenario.run) == expected;
     if (!(isGood && isWhole) && ++tally.wrong == 1)
         std::printf("      %s, call %ld, %s: %.200s\n", scenario.name, faultyCall, names[fault],

@@ -1,7 +1,7 @@
 // Memory runs out at every single allocation of every scenario, once and from there on. This program's malloc
 // serves the C libraries too.
 //
-//     oom_test [--stride N]   tries every N-th allocation, 1 unless given
+//     oom_test [--stride N]   tries the first allocations and then every N-th, 1 unless given
 #include "faults/Report.h"
 #include "faults/Scenarios.h"
 
@@ -133,7 +133,7 @@ Tally TryAll(const faults::Scenario& scenario, long stride) {
     Tally tally;
     const std::string expected = scenario.run();
     for (const bool staysOut : {false, true}) {
-        for (long failAt = 1;; failAt += stride) {
+        for (long failAt = 1;; failAt += failAt < 20 ? 1 : stride) {
             const long live = memory.live;
             if (!RunOut(scenario, expected, failAt, staysOut, tally))
                 break;

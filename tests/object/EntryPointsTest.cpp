@@ -43,6 +43,20 @@ TEST_F(EveryRoad, FilesHaveTheSameBytesOnBothRoadsAndReadBack) {
     }
 }
 
+TEST_F(EveryRoad, AFailureInWritingLeavesWhatIsWrittenUpToIt) {
+    for (const auto& [async, left] : {std::pair(false, "before"), std::pair(true, "")}) {
+        m_dir.Write("out.xml", "before");
+        AsyncToXmlFile(async);
+        EXPECT_EQ(InvalidState([&] {
+                      ScriptedObject("<a > >").ToXmlFile(m_dir.Path16("out.xml").c_str(), false, false,
+                                                         XmlEncoding_UTF8, EOLType_LF, context,
+                                                         CompressionType_None);
+                  }),
+                  "There is no open element to write to");
+        EXPECT_EQ(m_dir.Read("out.xml"), left);
+    }
+}
+
 TEST_F(EveryRoad, RefusesZlibFilesAndEmptyOrForeignInput) {
     const auto object = list.New();
     const auto failure = [&](CompressionType type) {

@@ -25,8 +25,17 @@ std::string NestOnUsedStack() {
 TEST(Limits, EachFigureBoundsItsWork) {
     const std::string elements = Repeat<std::string>("<a b=''/>", 5000);
     const std::string compressed = Compressed("<r>" + elements + "</r>", CompressionType_GZip);
+    // Small nodes, so that their names alone do not reach the limit: as text and as Fast Infoset.
+    const std::string nodes = Compressed("<r>" + Repeat("<a/>"s, 5000) + "</r>", CompressionType_GZip);
+    const std::string binaryNodes = Compressed(
+        "\xE0\0\0\x01\0\x3C\0r\x3C\0a\xF0"s + Repeat("\x01\xF0"s, 5000) + "\xF0", CompressionType_GZip);
+    const auto tooMany = [](const std::string& bytes, std::size_t perByte) {
+        return "The tree of the document comes to more than " + std::to_string(perByte * bytes.size()) +
+               " bytes";
+    };
     const std::string text = "<a>" + std::string(1000, 'b') + "</a>";
     const auto load = [](const std::string& bytes) { return [&] { return LoadFailure(bytes); }; };
+    const auto loadWide = [&] { return Failure([&] { CXmlDocument().LoadXml(FromUtf8(text).c_str()); }); };
     const auto decimal = [] { return Failure<CKzInvalidValueException>([] { CDecimal(u"1E3"); }); };
     const auto write = [] { return Failure([] { Text(CElement(u"a")); }); };
     const auto skip = [] {
@@ -45,13 +54,14 @@ TEST(Limits, EachFigureBoundsItsWork) {
     const std::tuple<std::uint64_t Limits::*, std::uint64_t, std::function<std::string()>, std::string>
         rows[] = {
             {&Limits::inputBytes, 1006, load(text), "The XML input has 1007 bytes; the limit is 1006"},
+            {&Limits::inputBytes, 2015, loadWide, "The XML input has 2016 bytes; the limit is 2015"},
             {&Limits::inflatedBytes, 45006, load(compressed),
              "The content of the compressed stream is larger than the limit of 45006 bytes"},
             {&Limits::treeTextBytesPerInputByte, 1, load(text),
              "The names, values and texts of the document come to more than 1007 bytes"},
-            {&Limits::treeBytesPerInputByte, 100, load(compressed),
-             "The tree of the document comes to more than " + std::to_string(100 * compressed.size()) +
-                 " bytes"},
+            {&Limits::treeBytesPerInputByte, 100, load(compressed), tooMany(compressed, 100)},
+            {&Limits::treeBytesPerInputByte, 500, load(nodes), tooMany(nodes, 500)},
+            {&Limits::treeBytesPerInputByte, 500, load(binaryNodes), tooMany(binaryNodes, 500)},
             {&Limits::decimalExponent, 2, decimal,
              "The string representing a Decimal, contained an exponent above 2 [1E3]"},
             {&Limits::nestedObjects, 0, write, "The elements are nested too deep (0 levels)"},
@@ -93,6 +103,11 @@ TEST(Limits, AreSetTogetherOrNotAtAll) {
     EXPECT_EQ(Failure<CKzInvalidParamException>([&] { SetLimits(limits); }),
               "The limit patternHeapBytes may not be above 4398046510080");
     EXPECT_EQ(GetLimits().treeBytes, most);
+    for (const auto figure : {&Limits::inputBytes, &Limits::inflatedBytes}) { // 32-bit fields hold them
+        limits = GetLimits();
+        limits.*figure = 1ull << 32;
+        EXPECT_THROW(SetLimits(limits), CKzInvalidParamException);
+    }
 }
 
 } // namespace

@@ -83,7 +83,12 @@ TEST_F(CXmlDocumentLoad, FindsOutWhetherTheInputIsCompressed) {
 TEST_F(CXmlDocumentLoad, ReadsBlocksWhateverFallsOnTheirEdgesButTheEnd) {
     const std::string r = "r[@a=\xC3\xA4 \"\xE2\x82\xAC\xF0\x9F\x98\x80\"]";
     const std::string tree = "doc[\"\\n\\n\\n\" " + r + " " + r + " " + r + "]";
-    for (const std::size_t size : {blockSize - 1, blockSize + record.size(), 3 * blockSize + 1})
+    std::vector<std::size_t> sizes = {3 * blockSize + 1};
+    for (std::size_t behind = 1; behind <= 53; ++behind) // over each byte of two records and the end tag
+        sizes.push_back(blockSize + behind);
+    for (std::size_t before = 1; before <= 3; ++before)
+        sizes.push_back(blockSize - before);
+    for (const std::size_t size : sizes)
         EXPECT_EQ(TreeOfFile(DocumentOfSize(size), true), tree) << size;
     for (const std::size_t blocks : {1, 2}) {
         EXPECT_EQ(TreeOfFile(DocumentOfSize(blocks * blockSize), false), tree);
