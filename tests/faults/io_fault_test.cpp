@@ -18,21 +18,14 @@ Fault fault;
 int cause;
 bool hasWritten;
 
-/// Whether this call is the faulty one and fails with an error.
-bool Fails(bool matters) {
+/// Whether this call is the faulty one and fails with an error. Where the system is never interrupted, EINTR
+/// is an error like others.
+bool Fails(bool matters, bool isInterrupted = true) {
     if (++calls != faultyCall || fault > Eintr)
         return false;
     errno = errors[fault];
-    cause = matters && fault != Eintr ? errno : 0;
+    cause = matters && !(isInterrupted && fault == Eintr) ? errno : 0;
     return true;
-}
-
-/// The same for a call that no signal ever interrupts: EINTR is an error like others.
-bool FailsAnyhow() {
-    const bool fails = Fails(true);
-    if (fails)
-        cause = errno;
-    return fails;
 }
 
 template <class Transfer>
@@ -52,9 +45,11 @@ void InstallFaultyCalls() {
         return Fails(true) ? -1 : real.open(name, flags, mode);
     };
     systemCalls.fstat = [](int file, struct stat* status) {
-        return FailsAnyhow() ? -1 : real.fstat(file, status);
+        return Fails(true, false) ? -1 : real.fstat(file, status);
     };
-    systemCalls.clearNonBlocking = [](int file) { return FailsAnyhow() ? -1 : real.clearNonBlocking(file); };
+    systemCalls.clearNonBlocking = [](int file) {
+        return Fails(true, false) ? -1 : real.clearNonBlocking(file);
+    };
     systemCalls.advise = [](int file, off_t offset, off_t length, int advice) {
         return Fails(false) ? errno : real.advise(file, offset, length, advice);
     };
@@ -90,7 +85,7 @@ bool IsGood(const faults::Scenario& scenario, const std::string& outcome, const 
     if (cause == 0 || (fault == Zero && outcome == expected)) // nothing was left to read
         return outcome == expected;
     // What does not ask a file for its length takes it for a shorter one.
-    const bool endsEarly = fault == Zero && scenario.name == "records of a file"sv;
+    const bool endsEarly = fault == Zero && scenario.name == "records of a file"s;
     return Reports(outcome, cause) || (endsEarly && outcome.find(" at line ") != outcome.npos);
 }
 

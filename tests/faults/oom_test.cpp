@@ -133,7 +133,7 @@ Tally TryAll(const faults::Scenario& scenario, long stride) {
     Tally tally;
     const std::string expected = scenario.run();
     for (const bool staysOut : {false, true}) {
-        for (long failAt = 1;; failAt += failAt < 20 ? 1 : stride) {
+        for (long failAt = 1;; failAt += failAt < 30 ? 1 : stride) {
             const long live = memory.live;
             if (!RunOut(scenario, expected, failAt, staysOut, tally))
                 break;

@@ -44,15 +44,13 @@ TEST_F(EveryRoad, FilesHaveTheSameBytesOnBothRoadsAndReadBack) {
 }
 
 TEST_F(EveryRoad, AFailureInWritingLeavesWhatIsWrittenUpToIt) {
+    const std::u16string file = m_dir.Path16("out.xml");
     for (const auto& [async, left] : {std::pair(false, "before"), std::pair(true, "")}) {
         m_dir.Write("out.xml", "before");
         AsyncToXmlFile(async);
-        EXPECT_EQ(InvalidState([&] {
-                      ScriptedObject("<a > >").ToXmlFile(m_dir.Path16("out.xml").c_str(), false, false,
-                                                         XmlEncoding_UTF8, EOLType_LF, context,
-                                                         CompressionType_None);
-                  }),
-                  "There is no open element to write to");
+        EXPECT_THROW(ScriptedObject("<a > >").ToXmlFile(file.c_str(), false, false, XmlEncoding_UTF8,
+                                                        EOLType_LF, context, CompressionType_None),
+                     CKzInvalidStateException);
         EXPECT_EQ(m_dir.Read("out.xml"), left);
     }
 }

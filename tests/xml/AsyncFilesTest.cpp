@@ -1,8 +1,6 @@
 #include "xml/AsyncFiles.h"
 #include "support/FileTest.h"
 
-#include <poll.h>
-
 namespace {
 
 using AsyncFileTest = FileTest;
@@ -52,17 +50,17 @@ TEST_F(AsyncFileTest, PipesNeitherHangNorKill) {
     EXPECT_EQ(out.Finish(count), 0);
     char received[8];
     EXPECT_EQ(std::string(received, static_cast<std::size_t>(read(reader, received, 8))), "tail");
-    const std::vector<unsigned char> much(200'000); // more than the pipe holds: the write waits
+    const std::vector<unsigned char> much(200'000); // more than a pipe holds: the write has to wait
+    fcntl(reader, F_SETFL, 0);
     {
-        const std::jthread reading([&] {
-            pollfd ready{reader, POLLIN, 0};
-            char block[4096];
-            for (ssize_t left = 200'000; left > 0 && poll(&ready, 1, 5000) == 1;)
-                left -= read(reader, block, sizeof block);
+        const std::jthread drain([&] {
+            while (read(reader, received, 8) > 0) {
+            }
         });
         EXPECT_EQ(out.StartWrite(7, much.data(), much.size()), 0);
+        out.Close();
     }
-    EXPECT_EQ(out.Finish(count), 0);
+    ASSERT_EQ(out.OpenForWriting(name), 0);
     close(reader);
     EXPECT_EQ(out.StartWrite(7, tail, 4), EPIPE);
 }
