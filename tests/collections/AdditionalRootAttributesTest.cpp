@@ -3,14 +3,9 @@
 #include <future>
 #include <latch>
 
-namespace {
-
 TEST(AdditionalRootAttributes, PrecedeTheRootsOwnAndStandOnTheRootOnly) {
-    kit::Model line(u"line");
-    line.Attribute(u"no", kit::Required, ItemType_i4);
-    kit::Model order(u"order");
-    order.Attribute(u"id", kit::Required, ItemType_i4).Class(u"line", kit::Mnd, line);
-    const CSmartPtr<kit::CModelObject> object = order.New();
+    const kit::Model& line = kit::NewModel(u"line").Attribute(u"no");
+    const auto object = kit::NewModel(u"order").Attribute(u"id").Class(u"line", kit::Mnd, line).New();
     CXmlSerializationContext context;
     object->FromXml(u"<order id='7'><line no='1'/></order>", context);
     context.GetAdditionalRootAttributes()->Add(u"lang", u"en");
@@ -20,9 +15,8 @@ TEST(AdditionalRootAttributes, PrecedeTheRootsOwnAndStandOnTheRootOnly) {
 }
 
 TEST(AdditionalRootAttributes, AreSharedByCopiesMadeAfterwards) {
-    CXmlSerializationContext source;
+    CXmlSerializationContext source, assigned;
     source.GetAdditionalRootAttributes()->Add(u"a");
-    CXmlSerializationContext assigned;
     assigned.GetAdditionalRootAttributes()->Add(u"lost");
     assigned = CXmlSerializationContext(source);
     assigned.GetAdditionalRootAttributes()->Add(u"b");
@@ -42,5 +36,3 @@ TEST(AdditionalRootAttributes, AreMadeOnceHoweverManyThreadsAsk) {
         EXPECT_EQ(&*mine, &*other.get());
     }
 }
-
-} // namespace

@@ -4,21 +4,20 @@ namespace {
 
 using enum IEventSink::MsgType;
 
-int livingItems = 0;
-
 struct CItem : ScriptedObject {
-    explicit CItem(char16_t letter) : ScriptedObject(""), name(1, static_cast<char>(letter)) {
-        ++livingItems;
+    explicit CItem(char16_t letter) : ScriptedObject(""), name(1, static_cast<char>(letter)) { ++living; }
+    ~CItem() override { --living; }
+    static std::string NameOf(void* item) {
+        return static_cast<CItem*>(static_cast<CXmlObjectBase*>(item))->name;
     }
-    ~CItem() override { --livingItems; }
     std::string name;
     CSmartPtr<CItem> next;
+    static inline int living = 0;
 };
 
 /// As a generator writes it, but with all protected operations in the open.
-struct CItemCol : CXmlCollection {
-    explicit CItemCol(int minOccurs = 0, int maxOccurs = -1)
-        : CXmlCollection(u"item", u"urn:i", minOccurs, maxOccurs) {}
+struct CItemCol : kit::CModelCol {
+    CItemCol() : CModelCol(kit::NewModel(u"item"), u"item", u"urn:i", 1, 2) {}
 
     using CXmlCollection::AddAfterItem;
     using CXmlCollection::AddBeforeItem;
@@ -35,11 +34,6 @@ struct CItemCol : CXmlCollection {
     void Remove(int index) override {
         ++removals;
         CXmlCollection::Remove(index);
-    }
-    void ToXml_Int(CXmlWriter*, bool, const char16_t*, const CXmlSerializationContext&, bool) const override {
-    }
-    CXmlElement* FromXml_Int(CXmlElement*, CXmlElement*, const CXmlSerializationContext&, bool) override {
-        return nullptr;
     }
 
     void Fill(std::u16string_view names) {
@@ -63,9 +57,7 @@ struct CItemCol : CXmlCollection {
 static_assert(std::forward_iterator<CKzIterator<CItem>>);
 
 struct Log : EventLog {
-    Log()
-        : EventLog([](void* item) { return static_cast<CItem*>(static_cast<CXmlObjectBase*>(item))->name; }) {
-    }
+    Log() : EventLog(CItem::NameOf) {}
 };
 
 struct Refusal {};
@@ -93,7 +85,7 @@ TEST(CXmlCollection, AddsAndRemovesWithTheirEvents) {
     for (const int index : {1, 4, 0})
         EXPECT_EQ(log.Of([&] { items->Remove(index); }), removal);
     EXPECT_EQ(items->Names(), "+cd");
-    EXPECT_EQ(livingItems, 4) << "b is held elsewhere";
+    EXPECT_EQ(CItem::living, 4); // b is held elsewhere
     EXPECT_EQ(log.Of([&] { items->Clear(); }), removal + removal + removal);
     // No anchor means the far end.
     items->Fill(u"yz");
@@ -101,7 +93,7 @@ TEST(CXmlCollection, AddsAndRemovesWithTheirEvents) {
     items->AddBeforeItem(nullptr, b);
     EXPECT_EQ(items->Names(), "xyzb");
     items = nullptr;
-    EXPECT_EQ(livingItems, 1);
+    EXPECT_EQ(CItem::living, 1);
 }
 
 TEST(CXmlCollection, RefusesBadIndexesAnchorsAndNull) {
@@ -150,7 +142,7 @@ TEST(CXmlCollection, WhatAListenerThrowsStopsTheChangeWhereItStands) {
     log.during = [](IEventSink::MsgType) { throw Refusal(); };
     items.reset(); // tells of each item all the same
     EXPECT_EQ(log.Take(), removal + removal);
-    EXPECT_EQ(livingItems, 1);
+    EXPECT_EQ(CItem::living, 1);
 }
 
 TEST(CXmlCollection, ListenersMayComeAndGoDuringAnEvent) {
@@ -182,16 +174,15 @@ TEST(CXmlCollection, AListenerMayRemoveTheItemThatTheEventIsAbout) {
     CItemCol items;
     log.Watch(items);
     log.during = [&](IEventSink::MsgType type) {
-        if (busy || type != trigger)
-            return;
-        busy = true;
-        items.Remove(0);
-        busy = false;
+        if (type == trigger && !std::exchange(busy, true)) {
+            items.Remove(0);
+            busy = false;
+        }
     };
     second.Watch(items);
     items.Fill(u"a");
     EXPECT_EQ(second.Take(), "add(a) " + removal + "added(a) change ");
-    EXPECT_EQ(livingItems, 0);
+    EXPECT_EQ(CItem::living, 0);
 
     trigger = MsgType_CollectionRemove;
     items.Fill(u"ab");
@@ -220,7 +211,7 @@ TEST(CXmlCollection, GoesWhileListenersHoldItOrAddItsItemsAgain) {
 
 TEST(CXmlCollection, ACopySharesTheItemsInAListOfItsOwn) {
     Log log;
-    CItemCol items(1, 2);
+    CItemCol items;
     items.Fill(u"abc");
     log.Watch(items);
     {
@@ -234,7 +225,7 @@ TEST(CXmlCollection, ACopySharesTheItemsInAListOfItsOwn) {
         EXPECT_EQ(copy.Names() + assigned.Names(), "acdacd");
         EXPECT_EQ(&*assigned.begin(), &*items.begin());
     }
-    EXPECT_EQ(items.Names() + std::to_string(livingItems) + log.Take(), "abc3");
+    EXPECT_EQ(items.Names() + std::to_string(CItem::living) + log.Take(), "abc3");
 }
 
 TEST(CXmlCollection, ClearAndLongChainsOfObjectsGoInLinearTimeAndFlatStack) {
@@ -252,8 +243,8 @@ TEST(CXmlCollection, ClearAndLongChainsOfObjectsGoInLinearTimeAndFlatStack) {
             chain = link;
         }
     });
-    EXPECT_EQ(items.removals, count) << "an overridden Remove is honoured";
-    EXPECT_EQ(livingItems, 0);
+    EXPECT_EQ(items.removals, count); // an overridden Remove is honoured
+    EXPECT_EQ(CItem::living, 0);
     EXPECT_LT(seconds, 20);
 }
 

@@ -47,12 +47,11 @@ TEST(ChoiceHelpers, KeepTheRecordOfTheOneMemberThatIsSet) {
 }
 
 TEST(ChoiceHelpers, ReadCollectionTakesOneRunAndChecksItsNumber) {
-    const kit::Model item(u"x");
     CXmlDocument document;
     document.LoadXml(u"<r><x/><y/></r>");
     CXmlElement* root = document.GetDocumentElement();
     const auto read = [&](int minOccurs, CXmlElement* current, long count) {
-        kit::CModelCol collection(item, u"x", u"", minOccurs, -1);
+        kit::CModelCol collection(kit::NewModel(u"x"), u"x", u"", minOccurs, -1);
         std::string result = Failure<CKzValidationException>([&] {
             CChoice::Choice_Read_Collection(&collection, root, current, count, CXmlSerializationContext());
         });
@@ -60,7 +59,7 @@ TEST(ChoiceHelpers, ReadCollectionTakesOneRunAndChecksItsNumber) {
     };
     EXPECT_EQ(read(0, root->GetFirstElement(), 0), "1y no failure");
     EXPECT_EQ(read(0, root->GetFirstElement(), 1), "1x no failure");
-    EXPECT_EQ(read(5, nullptr, 0), "0null no failure") << "nothing taken, nothing counted";
+    EXPECT_EQ(read(5, nullptr, 0), "0null no failure"); // nothing taken, nothing counted
     EXPECT_EQ(read(5, root->GetFirstElement(), 0),
               "0y The Minimum number of [x] elements allowed in this collection is 5");
 }

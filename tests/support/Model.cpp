@@ -91,7 +91,7 @@ CModelCol* CModelObject::Children(int property) const { return dynamic_cast<CMod
 
 CModelCol::CModelCol(const Model& item, const char16_t* elementName, const char16_t* elementNamespace,
                      int minOccurs, int maxOccurs)
-    : CXmlCollection(elementName, elementNamespace, minOccurs, maxOccurs), m_model(item) {}
+    : CXmlCollection(elementName, elementNamespace, minOccurs, maxOccurs), m_model(&item) {}
 
 CModelObject* CModelCol::Item(int index) const {
     return dynamic_cast<CModelObject*>(static_cast<CXmlObjectBase*>(GetNodeAtIndex(index)->m_item));
@@ -106,8 +106,8 @@ void CModelCol::ToXml_Int(CXmlWriter* writer, bool, const char16_t* elementNames
 CXmlElement* CModelCol::FromXml_Int(CXmlElement* element, CXmlElement* current,
                                     const CXmlSerializationContext& context, bool) {
     while (current) {
-        const CSmartPtr<CModelObject> item = m_model.New(GetElementName().c_str());
-        if (m_model.IsPseudo()) {
+        const CSmartPtr<CModelObject> item = m_model->New(GetElementName().c_str());
+        if (m_model->IsPseudo()) {
             CXmlElement* next = CXmlObjectBase::FromXml_Int(item, element, current, context);
             if (next == current)
                 break;

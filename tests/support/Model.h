@@ -94,7 +94,7 @@ protected:
                              const CXmlSerializationContext& context, bool isOptional) override;
 
 private:
-    const Model& m_model;
+    const Model* m_model;
 };
 
 class Model {
