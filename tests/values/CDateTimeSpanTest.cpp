@@ -39,7 +39,7 @@ TEST(CDateTimeSpan, BadFormsAreRefusedAndLeaveNothing) {
     EXPECT_EQ(span.ToString(), u"P");
 }
 
-TEST(CDateTimeSpan, SettingClearsTheSignAndWhatIsNotNamed) {
+TEST(CDateTimeSpan, SettingClearsTheSignAndWhatIsNotNamedAndHasNoRange) {
     CDateTimeSpan span(1, 2, 3, 4, 5, 6, 7, 8, 9);
     span.Negate();
     EXPECT_EQ(span.ToString(), u"-P1Y2M3DT4H5M6.007008009S");
@@ -52,7 +52,7 @@ TEST(CDateTimeSpan, SettingClearsTheSignAndWhatIsNotNamed) {
     span.SetHours(50);
     span.SetMinutes(70);
     span.SetSeconds(0);
-    span.SetMilliSeconds(5000); // no range check
+    span.SetMilliSeconds(5000);
     span.SetMicroSeconds(6);
     span.SetNanoSeconds(7);
     EXPECT_EQ(span.ToString(), u"P1Y15M40DT50H70M0.5000006007S");
@@ -61,10 +61,8 @@ TEST(CDateTimeSpan, SettingClearsTheSignAndWhatIsNotNamed) {
     longest.Negate();
     EXPECT_EQ(longest.ToString(), u"-P65535Y4294967295M4294967295DT4294967295H18446744073709551615M"
                                   u"18446744073709551615.655356553565535S");
-}
 
-TEST(CDateTimeSpan, AsNegativeIsNoNegation) {
-    CDateTimeSpan span = Span(u"-P1D");
+    span = Span(u"-P1D"); // as negative is no negation
     EXPECT_EQ(span.GetAsNegative().ToString(), u"-P1D");
     EXPECT_EQ(CDateTimeSpan().GetAsNegative().ToString(), u"-P"); // that of zero
     span.Negate();

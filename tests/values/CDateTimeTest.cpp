@@ -18,7 +18,7 @@ void ExpectRead(Parser parse, std::initializer_list<Row> rows) {
     ExpectRows(rows, [=](const char16_t* text) { return Read(parse, text); });
 }
 
-TEST(CDateTime, TheFormOfADateDecidesOnItsKind) {
+TEST(CDateTime, TheFormOfADateDecidesOnItsKindAndBadOnesAreRefusedWithTheirMessage) {
     ExpectRead(&CDateTime::ParseXSDDate,
                {"2000-02-29 -> date 2000-02-29", "-0001-01-01 -> date -0001-01-01",
                 "-0004-02-29 -> date -0004-02-29", "9999-12-31Z -> date 9999-12-31Z",
@@ -27,9 +27,6 @@ TEST(CDateTime, TheFormOfADateDecidesOnItsKind) {
                 "-2001-05+23:59 -> gYearMonth -2001-05+23:59", "--05 -> gMonth --05", "--05-- -> gMonth --05",
                 "--05--Z -> gMonth --05Z", "--05xy -> gMonth --05", "2001-01-01x01:00 -> date 2001-01-01",
                 "---01 -> gDay ---01", "---31-00:30 -> gDay ---31+00:30", "--02-29 -> gMonthDay --02-29"});
-}
-
-TEST(CDateTime, BadDatesAreRefusedWithTheirMessage) {
     for (const char* text : {"20010-01-01", "+2001-01-01", "2001-1", "2001-01-01+01", "2001/01/01", "--5",
                              "--050", "--05-011", "--2001-05", "---5", "2001-01-0\xD9\xA1", ":",
                              "--:", "12:00", "a:b", "-", "ZZ", "2001-01-01 ", "99999999999999999999"})
@@ -108,7 +105,7 @@ TEST(CDateTime, FormatsAreComparedByContentAndOnlyAMidnightIsAValueOfZeros) {
     EXPECT_EQ(InvalidValue([] { CDateTime(CDateTime::DTType_date).ToString(); }), "Date Not Set");
 }
 
-TEST(CDateTime, SettersByKindValidateAndRefuseAnotherKind) {
+TEST(CDateTime, SettersByKindAndConstructorsValidateAndRefuseAnotherKind) {
     CDateTime value;
     value.SetGMonthDay(2, 29);
     EXPECT_EQ(value.ToString(), u"--02-29");
@@ -127,27 +124,26 @@ TEST(CDateTime, SettersByKindValidateAndRefuseAnotherKind) {
               "Invalid Year [-10000] (9999 <= year <= -9999 && year != 0)");
 
     // Each field one above its range, one after the other.
-    std::string messages;
+    std::string messages, below;
     int f[] = {24, 60, 60, 1000, 1000, 1000};
-    for (int& field : f) {
-        messages += InvalidValue([&] { CDateTime().SetTime(f[0], f[1], f[2], f[3], f[4], f[5]); }) + "\n";
-        --field;
-    }
+    const auto refusal = [&](int& field, int good) {
+        const std::string message =
+            InvalidValue([&] { CDateTime().SetTime(f[0], f[1], f[2], f[3], f[4], f[5]); });
+        field = good;
+        return message + "\n";
+    };
+    for (int& field : f)
+        messages += refusal(field, field - 1);
     EXPECT_EQ(messages, "Invalid Hour [24] (0 <= hour <= 23)\nInvalid Minute [60] (0 <= minute <= 59)\n"
                         "Invalid Second [60] (0 <= second <= 59)\n"
                         "Invalid Milli-Second [1000] (0 <= milli <= 999)\n"
                         "Invalid Micro-Second [1000] (0 <= micro <= 999)\n"
                         "Invalid Nano-Second [1000] (0 <= nano <= 999)\n");
-    std::string below;
-    for (int& field : f) {
-        field = -1;
-        below += InvalidValue([&] { CDateTime().SetTime(f[0], f[1], f[2], f[3], f[4], f[5]); }) + "\n";
-        field = 0;
-    }
+    for (int& field : f)
+        below += refusal(field = -1, 0);
     EXPECT_EQ(below, std::regex_replace(messages, std::regex("\\[[0-9]+\\]"), "[-1]"));
-}
 
-TEST(CDateTime, ValueConstructorsSwallowTheFailureAndLeaveNothing) {
+    // Constructors swallow the failure and leave nothing.
     EXPECT_EQ(CDateTime(2001, 5, 12, 13, 20, 0, 1, 2, 3).ToString(), u"2001-05-12T13:20:00.001002003");
     for (CDateTime bad : {CDateTime(2001, 2, 29), CDateTime(2001, 1, 1, 24, 0, 0)}) {
         EXPECT_EQ(InvalidValue([&] { bad.Validate(); }), "Invalid Year Zero");

@@ -7,24 +7,18 @@ using Dec = CDecimal;
 std::string Text(const Dec& value) { return ToUtf8(value.ToString()); }
 
 /// Sets the maximum of places for one test.
-class MaxPlaces {
-public:
+struct MaxPlaces {
     explicit MaxPlaces(std::int32_t places) { CDecimal::SetMaxDecimalPlaces(places); }
     ~MaxPlaces() { CDecimal::SetMaxDecimalPlaces(m_before); }
-
-private:
-    std::int32_t m_before = CDecimal::GetMaxDecimalPlaces();
+    const std::int32_t m_before = CDecimal::GetMaxDecimalPlaces();
 };
 
-TEST(CDecimal, ParseReadsTheStatedForms) {
+TEST(CDecimal, ParseReadsTheStatedFormsAndExponents) {
     ExpectTexts<Dec>({" -> 0", "-0 -> 0", "1.50 -> 1.5", "1.0 -> 1", "0.05 -> 0.05", "-0.5 -> -0.5",
                       ".5 -> 0.5", "5. -> 5", "1 2.5 -> 12.5", "12- -> -12", "-+-7 -> -7",
                       "\t1\r\n. 2 5  -> 1.25", "007.10 -> 7.1", ". -> 0", "1.000000001 -> 1.000000001",
-                      "1000000000.0 -> 1000000000"});
-}
-
-TEST(CDecimal, ParseReadsExponents) {
-    ExpectTexts<Dec>({"1E2 -> 100", "1E-2 -> 0.01", "1.5E+1 -> 15", "-12.345e1 -> -123.45",
+                      "1000000000.0 -> 1000000000", // and with exponents:
+                      "1E2 -> 100", "1E-2 -> 0.01", "1.5E+1 -> 15", "-12.345e1 -> -123.45",
                       "-12.345e-1 -> -1.2345", "1E +- 2 -> 0.01", "5e -> 5", "5e- -> 5", "E7 -> 0",
                       "1E0000000000000000000000000000000000000000002 -> 100", "0E4294967297 -> 0",
                       "-1E-99999999999999999999999999 -> 0", "1E-30 -> 0.000000000000000000000000000001",
@@ -59,10 +53,7 @@ TEST(CDecimal, ParseRoundsATieTowardZero) {
     const MaxPlaces two(2);
     ExpectTexts<Dec>({"1.239 -> 1.24", "1.235 -> 1.23", "-1.235 -> -1.23", "-1.2351 -> -1.24", "0.004 -> 0",
                       "-0.0051 -> -0.01"});
-}
-
-TEST(CDecimal, RoundingUpToAWholeUnitIsNotCarried) {
-    const MaxPlaces one(1);
+    const MaxPlaces one(1); // rounding up to a whole unit is not carried
     ExpectTexts<Dec>({"0.99 -> 0.10", "-3.96 -> -3.10"});
     EXPECT_NE(Dec(u"0.99"), Dec(1));
     EXPECT_EQ(Text(Dec(u"0.99") + 0), "1");
@@ -123,8 +114,7 @@ TEST(CDecimal, SignOfAZeroFractionDecidesNothing) {
 TEST(CDecimal, ProductsAndQuotientsRoundOnceAtTheMaximumOfPlaces) {
     EXPECT_EQ(
         Texts({Dec(u"19.99") * Dec(u"-1.2"), Dec(u"-0.5") * Dec(u"0.5"), Dec(u"0.001") / Dec(u"0.00002"),
-               Dec(u"1e-16") * Dec(u"5e-15"), // half a unit goes down
-               Dec(u"1e-16") * Dec(u"-5.1e-15")}),
+               Dec(u"1e-16") * Dec(u"5e-15"), Dec(u"1e-16") * Dec(u"-5.1e-15")}), // half a unit goes down
         "-23.988 -0.25 50 0 -0.000000000000000000000000000001");
     EXPECT_EQ(Texts({Dec(1) / 3, Dec(2) / -3}),
               "0." + std::string(30, '3') + " -0." + std::string(29, '6') + "7");
@@ -143,29 +133,24 @@ TEST(CDecimal, OrderIsByValue) {
     EXPECT_EQ(Dec(u"1.5"), Dec(u"1.50"));
 }
 
-TEST(CDecimal, ToStringWithPlacesRoundsAHalfAwayFromZero) {
-    const auto expect = [](int places, std::initializer_list<Row> rows) {
-        for (const Row& row : rows)
-            EXPECT_EQ(ToUtf8(Dec(row.text.c_str()).ToString(places)), row.expected) << places;
-    };
-    expect(-7, {"2.5 -> 3."});
-    expect(0, {"2.4 -> 2.", "2.5 -> 3."});
-    expect(1, {"-0.04 -> -0.0", "-0.05 -> -0.1", "99.95 -> 100.0"});
-    expect(2, {"1.235 -> 1.24", "-1.235 -> -1.24", "1 -> 1.00", "1.995 -> 2.0"});
-    expect(2, {"-0 -> -0.00", "-0E4 -> 0.00"}); // a product of zero has no sign
-    expect(29, {"1.25 -> 1.25000000000000000000000000000"});
-    expect(30, {"0.5 -> 0.5"});
-    expect(2147483647, {"-0.25 -> -0.25"});
-}
-
-TEST(CDecimal, TextWithAPointIsCutTo1024Characters) {
+TEST(CDecimal, ToStringWithPlacesRoundsAHalfAwayFromZeroAndCutsLongText) {
+    // A product of zero has no sign.
+    ExpectRows({"-7 2.5 -> 3.", "0 2.4 -> 2.", "0 2.5 -> 3.", "1 -0.04 -> -0.0", "1 -0.05 -> -0.1",
+                "1 99.95 -> 100.0", "2 1.235 -> 1.24", "2 -1.235 -> -1.24", "2 1 -> 1.00", "2 1.995 -> 2.0",
+                "2 -0 -> -0.00", "2 -0E4 -> 0.00", "29 1.25 -> 1.25000000000000000000000000000",
+                "30 0.5 -> 0.5", "2147483647 -0.25 -> -0.25"},
+               [](const std::u16string& row) {
+                   const Dec value(row.substr(row.find(u' ')).c_str());
+                   return ToUtf8(value.ToString(std::stoi(ToUtf8(row))));
+               });
+    // Text with a point is cut to 1024 characters.
     const std::u16string whole(2000, u'7');
     EXPECT_EQ(Dec(whole.c_str()).ToString(), whole);
     EXPECT_EQ(Dec((whole + u".5").c_str()).ToString(), whole.substr(0, 1024));
     EXPECT_EQ(Dec((u"-" + whole + u".5").c_str()).ToString(), u"-" + whole.substr(0, 1023));
 }
 
-TEST(CDecimal, ConversionsRoundAtTheirOwnPlace) {
+TEST(CDecimal, ConversionsRoundAtTheirOwnPlaceAndRefuseWhatIsTooLarge) {
     ExpectRows({"1.96 -> 2 1 2", "-1.5 -> -1 -1 -1", "-1.51 -> -2 -1 -2", "-0.7 -> -1 0 -1",
                 "-2147483648.5 -> -2147483648 -2147483648 -2147483648"},
                [](const char16_t* text) {
@@ -178,9 +163,6 @@ TEST(CDecimal, ConversionsRoundAtTheirOwnPlace) {
     for (const auto& [text, value] :
          {std::pair{u"0.1", 0.1}, {u"-1.5", -1.5}, {u"1.7E308", 1.7e308}, {u"0", 0.0}, {u"1E22", 1e22}})
         EXPECT_EQ(Dec(text).ToDouble(), value);
-}
-
-TEST(CDecimal, ConversionsRefuseWhatIsTooLarge) {
     const auto refused = [](auto conversion, const std::string& type, auto... texts) {
         for (const char16_t* text : {texts...})
             EXPECT_EQ(Failure<CKzOverFlowException>([&] { (Dec(text).*conversion)(); }),

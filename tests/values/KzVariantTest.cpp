@@ -40,8 +40,7 @@ TEST(KzVariant, UnknownKindsAreNamedByNumberAndNotAssigned) {
     EXPECT_EQ(Failure([&] { v.GetType(); }), "Invalid Type 27");
     for (const int type : {-1, 29}) {
         v.m_type = static_cast<ItemType>(type);
-        KzVariant target = TextVariant(u"text");
-        EXPECT_EQ(Failure([&] { target = v; }), "Unknown Type");
+        EXPECT_EQ(Failure([&] { TextVariant(u"text") = v; }), "Unknown Type");
     }
 }
 
@@ -62,7 +61,7 @@ TEST(KzVariant, NilKeepsTheKindUntilAClearThatFindsOne) {
     }
 }
 
-TEST(KzVariant, CopiesAreDeepAndMovesEmptyTheirSource) {
+TEST(KzVariant, CopiesAreDeepAndMovesEmptyTheirSourceAlsoOntoItself) {
     KzVariant source = TextVariant(u"text");
     KzVariant copy(source);
     source.SetString(u"other");
@@ -82,6 +81,15 @@ TEST(KzVariant, CopiesAreDeepAndMovesEmptyTheirSource) {
         source.CopyString(source.GetStringRef());
         EXPECT_EQ(other.GetString() + source.TakeString(), text + text);
     }
+
+    source.SetString(u"text");
+    KzVariant& self = source;
+    source = std::as_const(self);
+    EXPECT_FALSE(source.IsValid());
+    EXPECT_EQ(source.m_value.bits, 0u);
+    source.SetString(u"text");
+    source = std::move(self);
+    EXPECT_FALSE(source.IsValid());
 }
 
 TEST(KzVariant, TextsGoInAndOutByKind) {
@@ -136,17 +144,6 @@ TEST(KzVariant, FailedConversionLeavesTheOldValue) {
     EXPECT_EQ(v.GetI4(), 7);
 }
 
-TEST(KzVariant, SelfAssignmentEmpties) {
-    KzVariant v = TextVariant(u"text");
-    KzVariant& self = v;
-    v = std::as_const(self);
-    EXPECT_FALSE(v.IsValid());
-    EXPECT_EQ(v.m_value.bits, 0u);
-    v.SetString(u"text");
-    v = std::move(self);
-    EXPECT_FALSE(v.IsValid());
-}
-
 /// An object that owns a variant, and counts how many of its class live.
 struct CHolder : ScriptedObject {
     CHolder() : ScriptedObject("") { ++living; }
@@ -155,7 +152,7 @@ struct CHolder : ScriptedObject {
     static inline int living = 0;
 };
 
-TEST(KzVariant, ObjectsAreSharedAndCounted) {
+TEST(KzVariant, ObjectsAreSharedAndCountedAndFindTheirVariantEmptyWhenTheyGoWithIt) {
     auto* object = new CHolder;
     KzVariant v;
     v.SetXmlObject(object);
@@ -171,17 +168,15 @@ TEST(KzVariant, ObjectsAreSharedAndCounted) {
     v.SetI4(1);
     EXPECT_EQ(CHolder::living, 0);
     EXPECT_THROW(v.GetXmlObject(), CKzInvalidStateException);
-}
-
-TEST(KzVariant, AnObjectThatGoesWithItsVariantFindsThatEmpty) {
+    // An object that goes with its variant finds that empty.
     struct CLooking : CHolder {
         ~CLooking() override { EXPECT_FALSE(held->IsValid()); }
         const KzVariant* held = nullptr;
     };
-    auto* const object = new CLooking;
-    KzVariant v;
-    v.SetXmlObject(object);
-    object->held = &v;
+    auto* const looking = new CLooking;
+    KzVariant owner;
+    owner.SetXmlObject(looking);
+    looking->held = &owner;
 }
 
 TEST(KzVariant, AssignmentFromInsideTheOwnObjectKeepsTheSourceAlive) {
