@@ -41,9 +41,7 @@ TEST(CFastInfosetWriter, WritesElementsAttributesAndText) {
                            "F0"               // end of d
                            "01 FF"            // element 2, without content; ends of d and a
                            "F0"));            // end of the document
-}
-
-TEST(CFastInfosetWriter, EndsShareAByteInPairs) {
+    // Ends share a byte in pairs.
     EXPECT_EQ(Write("<a >"), Hex(root + "FF")); // root and document
     EXPECT_EQ(Write("<a <a > >"), Hex(root + "00 FF F0"));
     EXPECT_EQ(Write("<a <a <a > > <a > >"), Hex(root + "00 00 FF 00 FF F0"));
@@ -176,7 +174,7 @@ TEST(CFastInfosetWriter, DeclarationsStandInFront) {
                   "There is no FInfoDecl [" + std::to_string(i) + "]");
 }
 
-TEST(CFastInfosetWriter, RefusesWhatHasNoForm) {
+TEST(CFastInfosetWriter, RefusesWhatHasNoFormAndChecksTheOrderOfCalls) {
     const auto failure = [](Encoding encoding, const std::string& words) {
         const std::string message = Failure([&] { Write(words, WithEncoding(encoding)); });
         const std::string start = "Failed to write FastInfoset. ";
@@ -194,9 +192,6 @@ TEST(CFastInfosetWriter, RefusesWhatHasNoForm) {
     EXPECT_EQ(failure({ByAlphabet, 2}, "<a '10:00:00.5 >"), notFound);
     EXPECT_EQ(failure({ByAlphabet, 2}, "<a '10:00:00+01:00 >"), notFound);
     EXPECT_EQ(failure({}, "< >"), "A name or namespace has no character that UTF-8 can hold.");
-}
-
-TEST(CFastInfosetWriter, ChecksTheOrderOfCalls) {
     for (const char* words : {"<a ' @b=1 >", "<a ' nil >", "<a ' type=T >"})
         EXPECT_EQ(Failure([&] { Write(words); }), "Attributes must be added before elements");
     for (const char* words : {"<a", "<a <a >"}) // also a root of which nothing is written yet

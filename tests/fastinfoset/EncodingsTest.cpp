@@ -24,8 +24,7 @@ TEST(IntegerRules, EncodeAndDecodeTheEdgesOfAllBands) {
         {integerBit3, 0x40, "32 5F  33 6000  2080 67FF  2081 680000  526368 6FFFFF"},
         {integerBit4, 0xA0,
          "16 AF  17 B000  1040 B3FF  1041 B40000  263184 B7FFFF  263185 B8000000  1048576 B80BFBEF"},
-        {sequenceLength, 0, "128 7F  129 800000  1048576 8FFF7F"},
-    };
+        {sequenceLength, 0, "128 7F  129 800000  1048576 8FFF7F"}};
     Byte octets[IntegerRule::MaxOctets];
     for (const auto& [rule, leadingBits, text] : rows) {
         std::istringstream integers(text);
@@ -44,9 +43,8 @@ TEST(IntegerRules, EncodeAndDecodeTheEdgesOfAllBands) {
 
 /// The first `size` characters from "A" on.
 std::u16string Alphabet(std::size_t size) {
-    std::u16string alphabet;
-    for (std::size_t i = 0; i < size; ++i)
-        alphabet += static_cast<char16_t>(u'A' + i);
+    std::u16string alphabet(size, u'A');
+    std::iota(alphabet.begin(), alphabet.end(), u'A');
     return alphabet;
 }
 
@@ -65,15 +63,14 @@ TEST(RestrictedAlphabet, TakesAsManyBitsAsLeaveOnePatternOver) {
         {200, "FF", failed + "The position [255] lies beyond the Restricted Alphabet."}};
     for (const auto& [size, hex, expected] : rows) {
         const CBinaryData octets = HexBytes(hex);
-        EXPECT_EQ(Outcome([&, &letters = size] {
-                      return ToUtf8(UnpackRestrictedAlphabetString(Alphabet(letters),
-                                                                   {octets.GetData(), octets.GetLength()}));
+        const std::u16string alphabet = Alphabet(size);
+        EXPECT_EQ(Outcome([&] {
+                      return ToUtf8(
+                          UnpackRestrictedAlphabetString(alphabet, {octets.GetData(), octets.GetLength()}));
                   }),
                   expected);
     }
-}
-
-TEST(RestrictedAlphabet, PacksFourAndEightBits) {
+    // Four and eight bits are packed too.
     EXPECT_EQ(PackRestrictedAlphabetString(Alphabet(15), u"ABCO"), "\x01\x2E");
     EXPECT_EQ(PackRestrictedAlphabetString(Alphabet(8), u"ABC"), "\x01\x2F");
     EXPECT_EQ(PackRestrictedAlphabetString(Alphabet(128), u"B\u00C0"), "\x01\x7F");
