@@ -94,13 +94,19 @@ TEST(CXmlDocument, StopsDocumentsThatGrowWithoutBounds) {
     }
 }
 
-TEST(CXmlDocument, LooksUpTheLastDeclarationOfAPrefix) {
+TEST(CXmlDocument, LooksUpTheLastDeclarationOfAPrefixAndAttributesByExactNameAndNamespace) {
     CXmlDocument document;
     document.LoadXml("<a xmlns='urn:1' xmlns:p='urn:2'><p:b xmlns:p='urn:3'/><p:c xmlns='urn:4'/></a>");
     EXPECT_EQ(document.LookupNamespaceFromAlias(u""), u"urn:4");
     EXPECT_EQ(document.LookupNamespaceFromAlias(u"p"), u"urn:3");
     document.LoadXml("<a xmlns='urn:5'><b xmlns=''/></a>");
     EXPECT_EQ(document.LookupNamespaceFromAlias(u"") + document.LookupNamespaceFromAlias(u"p"), u"");
+    document.LoadXml("<a xmlns:p='urn:p' p:x='1' x='2' y=''/>");
+    const CXmlElement* root = document.GetDocumentElement();
+    EXPECT_EQ(root->GetAttribute(u"x", u"") + root->GetAttribute(u"x", u"urn:p"), u"21");
+    EXPECT_EQ(&root->GetAttribute(u"X", u""),
+              &root->GetAttribute(u"x", u"urn:q")); // an empty text of its own
+    EXPECT_NE(&root->GetAttribute(u"X", u""), &root->GetAttribute(u"y", u""));
 }
 
 TEST(CXmlDocument, LoadsRepeatedlyAlsoAfterAFailure) {
@@ -121,17 +127,7 @@ TEST(CXmlDocument, LoadsRepeatedlyAlsoAfterAFailure) {
     EXPECT_EQ(DumpTree(document.GetDocumentElement()), R"(inner["some text"])");
 }
 
-TEST(CXmlDocument, FindsAttributesByExactNameAndNamespace) {
-    CXmlDocument named;
-    named.LoadXml("<a xmlns:p='urn:p' p:x='1' x='2' y=''/>");
-    const CXmlElement* root = named.GetDocumentElement();
-    EXPECT_EQ(root->GetAttribute(u"x", u"") + root->GetAttribute(u"x", u"urn:p"), u"21");
-    EXPECT_EQ(&root->GetAttribute(u"X", u""),
-              &root->GetAttribute(u"x", u"urn:q")); // an empty text of its own
-    EXPECT_NE(&root->GetAttribute(u"X", u""), &root->GetAttribute(u"y", u""));
-}
-
-TEST(CXmlDocument, DropsElementsForWhichTheCallbackReturnsTrue) {
+TEST(CXmlDocument, DropsElementsForWhichTheCallbackReturnsTrueAndPassesOnWhatItThrows) {
     const auto drop = [](CXmlElement* element) {
         g_seen += DumpTree(element) + ";";
         return element->GetLocalName() == u"d" || element->GetLocalName() == u"r";
@@ -140,18 +136,15 @@ TEST(CXmlDocument, DropsElementsForWhichTheCallbackReturnsTrue) {
         {"<r><d>1</d><d>2</d></r>", R"(d["1"];d["2"];r;)", "r"},
         {"<r><d/><k><d/><k/><d/></k><d/></r>", "d;d;k;d;k[k];d;r[k[k]];", "r[k[k]]"},
         {"<r>1<d>a<k>b</k>c<d/></d>2<k>3</k>4<d>d</d>5</r>",
-         R"(k["b"];d;d["ac" k["b"]];k["3"];d["d"];r["1245" k["3"]];)", R"(r["1245" k["3"]])"},
-    };
+         R"(k["b"];d;d["ac" k["b"]];k["3"];d["d"];r["1245" k["3"]];)", R"(r["1245" k["3"]])"}};
     for (const auto& [xml, seen, tree] : rows) {
         g_seen.clear();
         CXmlDocument document(drop);
         document.LoadXml(xml);
         EXPECT_EQ(g_seen, seen);
-        EXPECT_EQ(DumpTree(document.GetDocumentElement()), tree) << "the root stays whatever the answer";
+        EXPECT_EQ(DumpTree(document.GetDocumentElement()), tree); // the root stays whatever the answer
     }
-}
 
-TEST(CXmlDocument, PassesOnWhatTheCallbackThrows) {
     CXmlDocument document([](CXmlElement* element) -> bool {
         g_seen += DumpTree(element);
         throw CKzInvalidStateException(u"enough");

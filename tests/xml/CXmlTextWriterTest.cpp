@@ -9,9 +9,7 @@ struct Output {
         writer.SetFormatted(formatted);
         writer.SetEOLType(eol);
     }
-    std::string Text() {
-        return ToUtf8(std::u16string(stream.GetBuffer().GetString(), stream.GetBuffer().GetLength()));
-    }
+    std::string Text() { return ToUtf8({stream.GetBuffer().GetString(), stream.GetBuffer().GetLength()}); }
     std::string Run(const std::string& words) {
         RunScript(writer, words);
         return Text();
@@ -21,7 +19,7 @@ struct Output {
     CXmlTextWriter writer;
 };
 
-TEST(CXmlTextWriter, FormatsWithTabsAndTheChosenLineEnd) {
+TEST(CXmlTextWriter, FormatsWithTabsAndTheChosenLineEndAlsoMixedContent) {
     for (const auto& [formatted, encoding, text] :
          {std::tuple(true, XmlEncoding_UTF16,
                      " encoding=\"UTF-16\"?>\r\n<a>\r\n\t<b>x</b>\r\n\t<c/>\r\n</a>\r\n"),
@@ -30,9 +28,7 @@ TEST(CXmlTextWriter, FormatsWithTabsAndTheChosenLineEnd) {
         out.writer.WriteDeclaration();
         EXPECT_EQ(out.Run("<a <b 'x > <c > >"), "<?xml version=\"1.0\""s + text);
     }
-}
-
-TEST(CXmlTextWriter, FormatsMixedContentAndLeavesTheStartTagOpenAtEmptyText) {
+    // Mixed content, and a start tag that is open at an empty text.
     EXPECT_EQ(Output(true).Run("<a 'before <b <c > > 'after >"),
               "<a>before\t<b>\n\t\t<c/>\n\t</b>\nafter</a>\n");
     EXPECT_EQ(Output(true).Run("<a ' @n= >"), "<a n=\"\"/>\n");
@@ -53,8 +49,7 @@ TEST(CXmlTextWriter, EscapesTextAndAttributes) {
         {EOLType_LF,
          u"",
          {u"<![CDATA[<&]]><\r\n", u"<![CDATA", u" <![CDATA[]]>"},
-         "\"><![CDATA[<&]]><\r\n&lt;![CDATA &lt;![CDATA[]]&gt;"},
-    };
+         "\"><![CDATA[<&]]><\r\n&lt;![CDATA &lt;![CDATA[]]&gt;"}};
     for (const auto& [eol, attribute, texts, xml] : rows) {
         Output out(false, eol);
         out.Run("<e");
@@ -103,8 +98,7 @@ TEST(CXmlTextWriter, DeclaresNamespaces) {
              "<a AA:type=\"T\">"
              "<b xmlns:AB=\"urn:t\"  AA:type=\"AB:T\" AA:nil=\"true\"/></a></r>"},
         // A second root declares again.
-        {"+p=urn:p <r > <r >", "<r xmlns:p=\"urn:p\"/><r xmlns:p=\"urn:p\"/>"},
-    };
+        {"+p=urn:p <r > <r >", "<r xmlns:p=\"urn:p\"/><r xmlns:p=\"urn:p\"/>"}};
     for (const auto& [script, xml] : rows)
         EXPECT_EQ(Output().Run(script), xml);
 }
@@ -135,9 +129,8 @@ struct DerivedWriter : CXmlTextWriter {
 
 TEST(CXmlTextWriter, GeneratedPrefixesRunThroughPairsOfLettersAndStopAtTheSurrogates) {
     constexpr std::uint32_t end = (0xD800 - u'A') * 26;
-    const std::pair<std::uint32_t, const char16_t*> rows[] = {
-        {0, u"AA"}, {27, u"BB"}, {675, u"ZZ"}, {676, u"[A"}, {end - 1, u"\uD7FFZ"}};
-    for (const auto& [index, alias] : rows)
+    for (const auto& [index, alias] :
+         {std::pair(0u, u"AA"), {27u, u"BB"}, {675u, u"ZZ"}, {676u, u"[A"}, {end - 1, u"\uD7FFZ"}})
         EXPECT_EQ(DerivedWriter::MakeAlias(index), alias);
     EXPECT_THROW(DerivedWriter::MakeAlias(end), CKzException);
 }
@@ -181,10 +174,10 @@ TEST(CXmlTextWriter, FlushesAfterTheOperationThatReachesTheMark) {
 }
 
 TEST(CXmlTextWriter, WritesALeafAsThreeOperationsWould) {
-    std::vector<std::u16string> texts = {
-        u"", u"x", u"a<b", u"12345678", u"one & two\n\r'\"", u"<![CDATA[<]]>", u"<", u"\0"s, u"seven77\0x"s};
-    texts.push_back(std::u16string(1'100, u'>'));
-    texts.push_back(std::u16string(300, u'&') + u"\u00e9");
+    const std::u16string texts[] = {u"", u"x", u"a<b", u"12345678", u"one & two\n\r'\"", u"<![CDATA[<]]>",
+                                    u"<", u"\0"s, u"seven77\0x"s,
+                                    // longer than what is written at one go
+                                    std::u16string(1'100, u'>'), std::u16string(300, u'&') + u"\u00e9"};
     const auto written = [&](bool atOnce, const char* before, const char16_t* uri) {
         RecordingStream stream;
         CXmlTextWriter writer(&stream);
