@@ -36,25 +36,22 @@ int main() {
     bytes[0].SetAsHexString(u"00FF1A");
     const CSmartPtr<CElement> element = new CElement(u"order", u"urn:o");
     const CSmartPtr<CXmlObjectBase> pointers[] = {element.operator->(), nullptr};
-    KzVariant variants[] = {
-        KzVariant(),
-        Variant(u"-7", ItemType_i2),
-        Variant(u"18446744073709551615", ItemType_ui8),
-        Variant(u"-1.5", ItemType_r4),
-        Variant(u"true", ItemType_boolean),
-        Variant(u"x", ItemType_char),
-        Variant(u"gr\u00FCn \U0001F600", ItemType_string),
-        Variant(u"1.50", ItemType_decimal),
-        Variant(u"-0", ItemType_integer),
-        Variant(u"2001-05-12", ItemType_date),
-        Variant(u"2001", ItemType_year),
-        Variant(u"PT1M", ItemType_duration),
-        Variant(u"AQI=", ItemType_base64Binary),
-        KzVariant(),
-        KzVariant(),
-    };
+    KzVariant variants[] = {KzVariant(), // nothing, and a value of most kinds
+                            Variant(u"-7", ItemType_i2),
+                            Variant(u"18446744073709551615", ItemType_ui8),
+                            Variant(u"-1.5", ItemType_r4),
+                            Variant(u"true", ItemType_boolean),
+                            Variant(u"x", ItemType_char),
+                            Variant(u"gr\u00FCn \U0001F600", ItemType_string),
+                            Variant(u"1.50", ItemType_decimal),
+                            Variant(u"-0", ItemType_integer),
+                            Variant(u"2001-05-12", ItemType_date),
+                            Variant(u"2001", ItemType_year),
+                            Variant(u"PT1M", ItemType_duration),
+                            Variant(u"AQI=", ItemType_base64Binary),
+                            KzVariant(),
+                            Variant(u"1", ItemType_i4)};
     variants[13].SetXmlObject(element);
-    variants[14] = Variant(u"1", ItemType_i4);
     variants[14].SetNil();
     const CKzValidationException failure(u"outer", CKzInvalidValueException(u"inner"));
     const void* const all[] = {integers, decimals, dates, spans, bytes, pointers, variants, &failure};

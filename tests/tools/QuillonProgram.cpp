@@ -114,8 +114,7 @@ TEST_F(QuillonProgram, WritesEveryNameWithItsNamespaceThroughBothFormats) {
          "in front of them\n"},
         {"<a b='&#9;'/>", "<a b=\"\t\"/>",
          "quillon: standard input: warning: 1 attribute value(s) with tabs or carriage returns, which do not "
-         "survive in text\n"},
-    };
+         "survive in text\n"}};
     for (const auto& [in, out, warning] : rows) {
         const Result direct = Quillon("convert -", in);
         EXPECT_EQ(direct.out, declaration + out);
@@ -169,8 +168,7 @@ TEST_F(QuillonProgram, TellsWhatFailedByMessageAndExitCode) {
         {"quillon convert - --to finf", "<a/>", 2,
          "quillon: --to: there is no finf\nRun with --help for more information.\n"},
         {"quillon convert - out.finf -f", "<a/>", 2,
-         "quillon: --formatted and --encoding are for text only\nRun with --help for more information.\n"},
-    };
+         "quillon: --formatted and --encoding are for text only\nRun with --help for more information.\n"}};
     for (const auto& [command, input, exitCode, err] : rows) {
         const Result result = Shell(command, input);
         EXPECT_EQ(result.exitCode, exitCode) << command;
