@@ -4,7 +4,6 @@
 #include "xml/FindAttribute.h"
 #include "xml/TreeBuilding.h"
 
-#include <memory>
 #include <utility>
 
 namespace KzXmlLib10 {
@@ -22,7 +21,6 @@ void CXmlElement::DestroyAttributes() noexcept {
         attribute->~CXmlAttribute();
         memory.attributes.GiveBack(attribute);
     }
-    std::destroy_at(m_attributes);
     memory.attributeLists.GiveBack(m_attributes);
 }
 
@@ -81,7 +79,7 @@ const std::u16string& CXmlElement::GetAttribute(const std::u16string& localName,
 
 void CXmlElement::ReserveAttributes(std::size_t count) {
     if (!m_attributes)
-        m_attributes = ::new (m_document->m_memory->attributeLists.Take()) std::vector<CXmlAttribute*>;
+        m_attributes = m_document->m_memory->attributeLists.Take();
     m_attributes->reserve(count);
 }
 

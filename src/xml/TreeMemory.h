@@ -1,5 +1,6 @@
 #pragma once
 
+#include "xml/AttributeLists.h"
 #include "xml/ChunkMemory.h"
 #include "xml/NodePool.h"
 #include "xml/SharedNames.h"
@@ -7,8 +8,6 @@
 
 #include <KzXmlLib10/xml/CXmlAttribute.h>
 #include <KzXmlLib10/xml/CXmlElement.h>
-
-#include <vector>
 
 namespace KzXmlLib10 {
 
@@ -18,7 +17,7 @@ struct TreeMemory {
     ChunkMemory chunks;
     NodePool<CXmlElement> elements{&chunks};
     NodePool<CXmlAttribute> attributes{&chunks};
-    NodePool<std::vector<CXmlAttribute*>> attributeLists{&chunks};
+    AttributeLists attributeLists{&chunks};
     SharedNames names{&chunks};
     TextArena texts;
 };
