@@ -21,7 +21,7 @@ private:
     void* do_allocate(std::size_t size, std::size_t) override {
         if constexpr (hasAddressSanitizer)
             return ::operator new(size);
-        constexpr std::size_t unit = alignof(std::max_align_t); // which does for all
+        constexpr std::size_t unit = alignof(void*); // which does for all
         const std::size_t whole = (size + unit - 1) / unit * unit;
         if (whole > m_left)
             AddChunk(whole);
