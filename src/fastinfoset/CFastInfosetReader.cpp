@@ -4,7 +4,6 @@
 #include "fastinfoset/Declarations.h"
 #include "fastinfoset/Messages.h"
 #include "fastinfoset/RestrictedAlphabet.h"
-#include "object/TextScan.h"
 #include "object/Throw.h"
 #include "object/Utf8.h"
 #include "xml/TreeBuilding.h"
@@ -298,15 +297,11 @@ void CFastInfosetReader::ParseCharacterChunk(Byte first) {
 /// Appends a text that becomes the element's as it is. False for any other, and nothing is changed.
 bool CFastInfosetReader::AppendPlainText(std::string_view text) {
     TextArena& texts = m_document->m_memory->texts;
-    if (text.size() > std::size(m_short))
+    if (text.size() > std::size(m_short) || text.find('\r') != text.npos || text.find('\0') != text.npos)
         return false;
     texts.MakeRoom(text.size());
     if (!texts.TryWriteAscii(text))
         return false;
-    if (HoldsZeroOr(u'\r', texts.Written())) {
-        texts.Discard();
-        return false;
-    }
     m_budget.Charge(text.size());
     texts.Commit(m_document->m_elementStack.back()->m_text);
     return true;
@@ -314,31 +309,32 @@ bool CFastInfosetReader::AppendPlainText(std::string_view text) {
 
 /// Reads a qualified name, an index or a literal. `shared` are the names in the tree for those entries of the
 /// table that were met.
-const SharedName& CFastInfosetReader::ParseName(Byte first, Byte literal, Byte mask, const IntegerRule& rule,
-                                                CFIVocabulary::CFIQNameTable& table,
-                                                std::vector<const SharedName*>& shared) {
-    if ((first & mask) == literal) {
-        ParseQName(first, table);
-        return m_document->m_memory->names.Share(m_namespaceName, m_localName);
-    }
+inline const SharedName& CFastInfosetReader::ParseName(Byte first, Byte literal, Byte mask,
+                                                       const IntegerRule& rule,
+                                                       CFIVocabulary::CFIQNameTable& table,
+                                                       std::vector<const SharedName*>& shared) {
+    if ((first & mask) == literal)
+        return ParseQName(first, table);
     const std::uint64_t index = ReadInteger(rule, first);
-    if (index - 1 < shared.size() && shared[index - 1]) // as is usual; 0 wraps
-        return *shared[index - 1];
-    const SharedName& name = ShareEntry(EntryAt(table.m_values, index));
+    const bool wasMet = index - 1 < shared.size() && shared[index - 1]; // as is usual; 0 wraps
+    return wasMet ? *shared[index - 1] : ShareEntry(index, table, shared);
+}
+
+const SharedName& CFastInfosetReader::ShareEntry(std::uint64_t index,
+                                                 const CFIVocabulary::CFIQNameTable& table,
+                                                 std::vector<const SharedName*>& shared) {
+    const CFIVocabulary::CQNameParts& parts = EntryAt(table.m_values, index);
+    const std::vector<std::u16string>& namespaces = m_vocabulary->m_namespaceNames.m_values;
+    const std::u16string none;
+    const SharedName& name = m_document->m_memory->names.Share(
+        parts.m_namespaceName == 0 ? none : EntryAt(namespaces, parts.m_namespaceName),
+        EntryAt(m_vocabulary->m_localNames.m_values, parts.m_localName));
     shared.resize(table.m_values.size());
     shared[index - 1] = &name;
     return name;
 }
 
-const SharedName& CFastInfosetReader::ShareEntry(const CFIVocabulary::CQNameParts& parts) {
-    const std::vector<std::u16string>& namespaces = m_vocabulary->m_namespaceNames.m_values;
-    const std::u16string none;
-    return m_document->m_memory->names.Share(
-        parts.m_namespaceName == 0 ? none : EntryAt(namespaces, parts.m_namespaceName),
-        EntryAt(m_vocabulary->m_localNames.m_values, parts.m_localName));
-}
-
-void CFastInfosetReader::ParseQName(Byte first, CFIVocabulary::CFIQNameTable& table) {
+const SharedName& CFastInfosetReader::ParseQName(Byte first, CFIVocabulary::CFIQNameTable& table) {
     if ((first & PartsMask) == HasPrefix)
         Throw<CKzException>(messages::PrefixWithoutNamespace);
     std::uint32_t prefix = 0;
@@ -350,6 +346,7 @@ void CFastInfosetReader::ParseQName(Byte first, CFIVocabulary::CFIQNameTable& ta
         namespaceName = ParseIdentifyingString(m_vocabulary->m_namespaceNames, m_namespaceName);
     const std::uint32_t localName = ParseIdentifyingString(m_vocabulary->m_localNames, m_localName);
     CFIVocabulary::AddQNameToVector(prefix, namespaceName, localName, table.m_values);
+    return m_document->m_memory->names.Share(m_namespaceName, m_localName);
 }
 
 /// Reads an index into a table or a literal, which is entered there. Returns its index.

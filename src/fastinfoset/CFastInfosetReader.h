@@ -75,8 +75,9 @@ private:
     const SharedName& ParseName(fastinfoset::Byte first, fastinfoset::Byte literal, fastinfoset::Byte mask,
                                 const fastinfoset::IntegerRule& rule, CFIVocabulary::CFIQNameTable& table,
                                 std::vector<const SharedName*>& shared);
-    const SharedName& ShareEntry(const CFIVocabulary::CQNameParts& parts);
-    void ParseQName(fastinfoset::Byte first, CFIVocabulary::CFIQNameTable& table);
+    const SharedName& ShareEntry(std::uint64_t index, const CFIVocabulary::CFIQNameTable& table,
+                                 std::vector<const SharedName*>& shared);
+    const SharedName& ParseQName(fastinfoset::Byte first, CFIVocabulary::CFIQNameTable& table);
     std::uint32_t ParseIdentifyingString(CFIVocabulary::CFIStringTable& table, std::u16string& text);
     std::u16string_view ParseNonIdentifyingString();
     void ParseEncodedString(const fastinfoset::EncodedStringForm& form, fastinfoset::Byte first);

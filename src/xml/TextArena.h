@@ -65,10 +65,7 @@ public:
         return isAscii;
     }
     void WriteUnit(char16_t unit) { *m_to++ = unit; }
-    /// What is written and was not committed.
-    std::u16string_view Written() const { return {m_next, static_cast<std::size_t>(m_to - m_next)}; }
     bool HasText() const { return m_to != m_next; }
-    void Discard() { m_to = m_next; }
     /// Appends what has been written to the text of which `last` is the last piece, null if it is empty.
     /// Returns the number of its code units, which is not 0.
     std::size_t Commit(TextPiece*& last) {
