@@ -22,18 +22,16 @@ TEST(CConversions, IntegersAreReadUpToTheirLimits) {
     const struct {
         std::string (*read)(const std::u16string&, C::WhitespaceRule);
         std::string name, lowest, highest, tooLow, tooHigh;
-    } rows[] = {
-        {Read<C::i1FromString>, "i1", "-128", "127", "-129", "128"},
-        {Read<C::i2FromString>, "i2", "-32768", "32767", "-32769", "32768"},
-        {Read<C::i4FromString>, "i4", "-2147483648", "2147483647", "-2147483649", "2147483648"},
-        {Read<C::i8FromString>, "i8", "-9223372036854775808", "9223372036854775807", "-9223372036854775809",
-         "9223372036854775808"},
-        {Read<C::ui1FromString>, "ui1", "0", "255", "-1", "256"},
-        {Read<C::ui2FromString>, "ui2", "0", "65535", "-1", "65536"},
-        {Read<C::ui4FromString>, "ui4", "0", "4294967295", "-4294967296", "4294967296"},
-        {Read<C::ui8FromString>, "ui8", "0", "18446744073709551615", "-18446744073709551616",
-         "18446744073709551616"},
-    };
+    } rows[] = {{Read<C::i1FromString>, "i1", "-128", "127", "-129", "128"},
+                {Read<C::i2FromString>, "i2", "-32768", "32767", "-32769", "32768"},
+                {Read<C::i4FromString>, "i4", "-2147483648", "2147483647", "-2147483649", "2147483648"},
+                {Read<C::i8FromString>, "i8", "-9223372036854775808", "9223372036854775807",
+                 "-9223372036854775809", "9223372036854775808"},
+                {Read<C::ui1FromString>, "ui1", "0", "255", "-1", "256"},
+                {Read<C::ui2FromString>, "ui2", "0", "65535", "-1", "65536"},
+                {Read<C::ui4FromString>, "ui4", "0", "4294967295", "-4294967296", "4294967296"},
+                {Read<C::ui8FromString>, "ui8", "0", "18446744073709551615", "-18446744073709551616",
+                 "18446744073709551616"}};
     for (const auto& row : rows) {
         for (const std::string& text : {row.lowest, row.highest})
             EXPECT_EQ(row.read(FromUtf8(text), none), text);
@@ -42,7 +40,7 @@ TEST(CConversions, IntegersAreReadUpToTheirLimits) {
     }
 }
 
-TEST(CConversions, IntegerFormIsThatOfStrtol) {
+TEST(CConversions, IntegerFormIsThatOfStrtolInTheWidthOfTheReader) {
     ExpectRows(
         {"+5 -> 5", "-0 -> 0", " \t\n\v\f\r7 -> 7", "0000000000000000000000000000000012 -> 12", " -> 0"},
         ReadI4);
@@ -58,9 +56,7 @@ TEST(CConversions, IntegerFormIsThatOfStrtol) {
     EXPECT_EQ(Read<CConversions::ui4FromString>(u"-1"), "4294967295");
     EXPECT_EQ(Read<CConversions::ui8FromString>(u"-1"), "18446744073709551615");
     EXPECT_EQ(Read<CConversions::ui1FromString>(u"-4294967295"), "1");
-}
-
-TEST(CConversions, NarrowReadersShowTheirInputAndPassTheWideFailureOn) {
+    // Narrow readers show their input, and pass the failure of the wide ones on.
     EXPECT_EQ(Read<CConversions::i1FromString>(u" 128 ", collapse), TooLarge(" 128 ", "i1"));
     EXPECT_EQ(Read<CConversions::i1FromString>(u"99999999999"), TooLarge("99999999999", "i4"));
     const std::string message = "The value [x] can not be converted to a ";
@@ -77,11 +73,10 @@ double FromChars(const std::string& text) {
 }
 
 TEST(CConversions, RealsAreReadInDecimalNotation) {
-    for (const Row& row :
-         {Row("INF -> INF"), Row("-INF -> -INF"), Row("1.5 -> 1.5"), Row("+.5e1 -> 5"),
-          Row(" \v-5.E-1 -> -0.5"), Row("1e309 -> INF"),
-          Row("1.7976931348623157e308 -> 1.7976931348623157e308"), Row("-1e999999999999999999999 -> -INF"),
-          Row("4.9406564584124654e-324 -> 4.9406564584124654e-324"), Row("0e999999999999999999999 -> 0")})
+    for (const Row row :
+         {"INF -> INF", "-INF -> -INF", "1.5 -> 1.5", "+.5e1 -> 5", " \v-5.E-1 -> -0.5", "1e309 -> INF",
+          "1.7976931348623157e308 -> 1.7976931348623157e308", "-1e999999999999999999999 -> -INF",
+          "4.9406564584124654e-324 -> 4.9406564584124654e-324", "0e999999999999999999999 -> 0"})
         EXPECT_EQ(CConversions::r8FromString(row.text, none), FromChars(row.expected));
     const std::u16string zeros(400, u'0');
     EXPECT_EQ(CConversions::r8FromString(u"1" + zeros + u"e-400", none), 1);
@@ -112,7 +107,7 @@ TEST(CConversions, RealsOfAnotherFormAreRefused) {
     }
 }
 
-TEST(CConversions, RealsAreWrittenInGeneralNotation) {
+TEST(CConversions, RealsAreWrittenInGeneralNotationOrByTheirFormat) {
     ExpectRows({"0.1 -> 0.1", "-0 -> -0", "0.33333333333333331 -> 0.3333333333333333",
                 "1e15 -> 1000000000000000", "1e16 -> 1e+16", "1e-4 -> 0.0001", "1e-5 -> 1e-05", "INF -> INF",
                 "-INF -> -INF", "NaN -> NaN", "-1.7976931348623157e308 -> -1.797693134862316e+308"},
@@ -121,9 +116,7 @@ TEST(CConversions, RealsAreWrittenInGeneralNotation) {
                });
     EXPECT_EQ(CConversions::r4ToString(0.1f), u"0.1");
     EXPECT_EQ(CConversions::r4ToString(16777216.0f), u"1.677722e+07");
-}
-
-TEST(CConversions, FormatsAreHeededAndTheirTextIsCut) {
+    // Formats are heeded, and their text is cut.
     EXPECT_EQ(CConversions::r8ToString(1.5, u"%.2f"), u"1.50");
     EXPECT_EQ(CConversions::r4ToString(0.1f, u"%.9g"), u"0.100000001");
     EXPECT_EQ(CConversions::r8ToString(2, u"%% %+08.2lf %%"), u"% +0002.00 %");

@@ -4,7 +4,7 @@ using W = CWhitespaceUtils;
 
 namespace {
 
-TEST(CWhitespaceUtils, RulesTransformText) {
+TEST(CWhitespaceUtils, RulesTransformTextAndUnknownOnesAreRefused) {
     const std::u16string rows[][4] = {
         {u"", u"", u"", u""},
         {u"   ", u"   ", u"   ", u""},
@@ -19,14 +19,16 @@ TEST(CWhitespaceUtils, RulesTransformText) {
         // A NUL survives where nothing is changed, and ends the result otherwise.
         {u"a\0b"s, u"a\0b"s, u"a\0b"s, u"a"},
         {u"a\0b\r"s, u"a", u"a", u"a"},
-        {u"a \0b "s, u"a \0b "s, u"a \0b "s, u"a "},
-    };
+        {u"a \0b "s, u"a \0b "s, u"a \0b "s, u"a "}};
     for (const auto& [text, preserve, replace, collapse] : rows) {
         EXPECT_EQ(W::ApplyRule(W::WhitespaceRule_None, text), text);
         EXPECT_EQ(W::ApplyRule(W::WhitespaceRule_Preserve, text), preserve);
         EXPECT_EQ(W::ApplyRule(W::WhitespaceRule_Replace, text), replace);
         EXPECT_EQ(W::ApplyRule(W::WhitespaceRule_Collapse, text), collapse);
     }
+    for (const int rule : {4, -1})
+        EXPECT_EQ(support::Failure([&] { W::ApplyRule(static_cast<W::WhitespaceRule>(rule), u"a"); }),
+                  "Unknown WhitespaceRule");
 }
 
 TEST(CWhitespaceUtils, PreserveOfUnterminatedCharactersStaysInside) {
@@ -37,12 +39,6 @@ TEST(CWhitespaceUtils, PreserveOfUnterminatedCharactersStaysInside) {
     EXPECT_EQ(CWhitespaceUtils::Preserve(units, 0), u"");
     EXPECT_EQ(CWhitespaceUtils::Preserve(nullptr, -1), u"");
     EXPECT_THROW(CWhitespaceUtils::Preserve(nullptr, 1), CKzInvalidParamException);
-}
-
-TEST(CWhitespaceUtils, UnknownRuleThrowsTheRootException) {
-    for (const int rule : {4, -1})
-        EXPECT_EQ(support::Failure([&] { W::ApplyRule(static_cast<W::WhitespaceRule>(rule), u"a"); }),
-                  "Unknown WhitespaceRule");
 }
 
 } // namespace

@@ -48,8 +48,7 @@ TEST(FacetChecks, BoundsOfEachKind) {
         {ItemType_time, u"00:00:00", u"00:00:01", u"12:00:00"},
         {ItemType_yearMonth, u"2001-05", u"2002-05", u"2003-05"},
         {ItemType_monthDay, u"--05-01", u"--05-02", u"--05-31"},
-        {ItemType_duration, u"P1D", u"P2D", u"P3D"},
-    };
+        {ItemType_duration, u"P1D", u"P2D", u"P3D"}};
     for (const auto& [type, low, inside, high, shown] : rows) {
         const std::string tooLow = Violation(shown ? shown : ToUtf8(low));
         EXPECT_EQ(Outcome(inside, type, Bounds(inside, inside)), passes);
@@ -101,22 +100,19 @@ TEST(FacetChecks, LengthsOfBinaryDataAreInBytes) {
     EXPECT_THROW(CheckBase64Binary(u"name", CBinaryData(), Lengths(1, -1, -1)), CKzException);
 }
 
-TEST(FacetChecks, NaNFailsEveryBound) {
+TEST(FacetChecks, NaNFailsEveryBoundAndBoundsAreReadWhenTheyAreReached) {
     for (const ItemType type : {ItemType_r4, ItemType_r8}) {
         EXPECT_EQ(Outcome(u"NaN", type, CPrimitiveRestrictions()), passes);
         for (const auto& bounds :
              {Bounds(u"0", u""), Bounds(u"", u"0"), Bounds(u"", u"", u"0", u""), Bounds(u"", u"", u"", u"0")})
             EXPECT_EQ(Outcome(u"NaN", type, bounds), Violation("nan"));
     }
-}
-
-TEST(FacetChecks, BoundsAreReadWhenTheyAreReached) {
     EXPECT_EQ(Outcome(u"1", ItemType_i4, Bounds(u"5", u"bad")), Violation("1"));
     EXPECT_EQ(Outcome<CKzInvalidValueException>(u"7", ItemType_i4, Bounds(u"5", u"bad")),
               "The value [bad] can not be converted to a i4");
 }
 
-TEST(FacetChecks, LengthsAndPatternsOfTexts) {
+TEST(FacetChecks, LengthsAndPatternsOfTextsAndKindsWithout) {
     const std::tuple<const char16_t*, CPrimitiveRestrictions, std::string> rows[] = {
         {u"a", Lengths(2, -1, -1), Violation("a")},
         {u"abc", Lengths(-1, 2, -1), Violation("abc")},
@@ -130,14 +126,11 @@ TEST(FacetChecks, LengthsAndPatternsOfTexts) {
         {u"ab", Lengths(-1, 2, -1, u"("),
          "Invalid Regular Expression: ab Error: 'missing closing parenthesis'\n" + Violation("ab")},
         {u"abc", Bounds(u"x", u"a"), passes},
-        {u"abc", CPrimitiveRestrictions(), passes},
-    };
+        {u"abc", CPrimitiveRestrictions(), passes}};
     for (const auto& [text, restrictions, outcome] : rows)
         EXPECT_EQ(Outcome(text, ItemType_string, restrictions), outcome);
+    // Kinds without facets or without a check, and null texts.
     EXPECT_EQ(Outcome(u"1", ItemType_boolean, {u"(", 9, 0, u"x", u"x", u"x", u"x", 9}), passes);
-}
-
-TEST(FacetChecks, KindsWithoutACheckAndNullTextsAreRefused) {
     EXPECT_EQ(Outcome<CKzInvalidValueException>(u"a", ItemType_char, {}), "unknown type [char]");
     EXPECT_EQ(InvalidParam([] { CPrimitiveRestrictions(nullptr, -1, -1, u"", u"", u"", u"", -1); }),
               "The argument pattern may not be null");

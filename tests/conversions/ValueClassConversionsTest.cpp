@@ -24,14 +24,10 @@ TEST(ValueClassConversions, TextsEndAtTheirFirstNul) {
 }
 
 TEST(ValueClassConversions, TheFormatOfADecimalIsTheNumberOfItsPlaces) {
-    const CDecimal value(u"-1.2345");
-    for (const auto& [format, text] : {std::pair(u"", u"-1.2345"),
-                                       {u"3", u"-1.235"},
-                                       {u" +2.9", u"-1.23"},
-                                       {u"-3", u"-1."},
-                                       {u"%.2f", u"-1."},
-                                       {u"99999999999999999999", u"-1.2345"}})
-        EXPECT_EQ(C::decimalToString(value, format), text);
+    ExpectRows(
+        {" -> -1.2345", "3 -> -1.235", " +2.9 -> -1.23", "-3 -> -1.", "%.2f -> -1.",
+         "99999999999999999999 -> -1.2345"},
+        [](const char16_t* format) { return ToUtf8(C::decimalToString(CDecimal(u"-1.2345"), format)); });
 }
 
 } // namespace
