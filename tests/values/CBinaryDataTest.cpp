@@ -131,7 +131,8 @@ TEST(CBinaryData, RefusesNullAndWhatDoesNotFit32Bits) {
     const std::string tooLong = "Binary data cannot hold more than 4294967295 bytes";
     for (const std::size_t length : {(1ul << 32) - 3, 1ul << 32, ~0ul})
         EXPECT_EQ(Failure([&] { data.Append(&byte, length); }), tooLong);
-    CBinaryData empty = ToBinary("");
+    CBinaryData empty;
+    empty.SetBuffer(&byte, 0);
     EXPECT_EQ(Failure([&] { empty.Append(&byte, 1ul << 32); }), tooLong);
     EXPECT_EQ(Failure([&] { data.SetBuffer(&byte, 1ul << 32); }), tooLong);
     EXPECT_EQ(Failure([&] { CBinaryData(&byte, 1ul << 32, true); }), tooLong);
