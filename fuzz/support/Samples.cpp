@@ -216,6 +216,20 @@ bool HasWhatTextLoses(const CXmlDocument& document) {
     });
 }
 
+namespace {
+
+/// In the member of the sequence that holds a year.
+bool HasYearOfOtherThanFourDigits(std::u16string_view text) {
+    static_assert(ItemType_year == u'p' - u'a' + 1);
+    const std::size_t at = text.find(u"p>");
+    if (at == text.npos || text.find(u"sequence") > at)
+        return false;
+    const std::size_t digits = text.find_first_not_of(u"0123456789", at + 2) - (at + 2);
+    return digits > 0 && digits != 4;
+}
+
+} // namespace
+
 bool HasMixedContent(const CXmlDocument& document) {
     return Any(document, [](const CXmlElement& element) {
         return element.GetFirstElement() && !element.GetText().empty();
@@ -223,7 +237,8 @@ bool HasMixedContent(const CXmlDocument& document) {
 }
 
 bool HasUnstableValue(const std::u16string& text) {
-    if (text.find(u">P<") != std::u16string::npos || text.find(u">-P<") != std::u16string::npos)
+    if (text.find(u">P<") != std::u16string::npos || text.find(u">-P<") != std::u16string::npos ||
+        HasYearOfOtherThanFourDigits(text))
         return true;
     constexpr std::size_t places = 30;
     for (std::size_t at = 0; (at = text.find(u'.', at)) != std::u16string::npos; ++at) {

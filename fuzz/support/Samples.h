@@ -27,8 +27,9 @@ bool IsPlainText(std::string_view bytes);
 /// Infoset, by design.
 bool HasMixedContent(const KzXmlLib10::CXmlDocument& document);
 
-/// Whether a text that was written has a value that is written otherwise once it was read, by design: a
-/// duration of nothing, or a decimal that the maximum of places has cut.
+/// Whether a text that was written has a value that is refused or written otherwise once it was read, by
+/// design: a duration of nothing, a decimal that the maximum of places has cut, or a year without its leading
+/// zeros.
 bool HasUnstableValue(const std::u16string& text);
 
 /// Whether a tree has what text cannot carry back and forth, by design: text that looks like a CDATA section
