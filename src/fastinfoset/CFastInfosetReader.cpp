@@ -159,6 +159,7 @@ void CFastInfosetReader::ParseDocument() {
     for (;;) {
         const Byte item = ReadByte();
         if (IsElement(item)) {
+            m_document->StartTree();
             ParseElement(item);
             while (!m_document->m_elementStack.empty())
                 ParseItem(ReadByte());
@@ -193,13 +194,10 @@ void CFastInfosetReader::ParseElement(Byte first) {
     const bool hasAttributes = (first & HasAttributes) != 0;
     if ((first & ElementNameMask) == NamespaceAttributesFollow)
         first = ParseNamespaceAttributes();
-    const bool isRoot = !m_document->m_documentElement;
-    if (isRoot)
-        m_document->StartTree();
     const SharedName& name = ParseName(first, LiteralElementName, ElementNameMask, integerBit3,
                                        m_vocabulary->m_elementNames, m_elementNames);
     m_budget.Charge(name.Size(), sizeof(CXmlElement));
-    if (isRoot)
+    if (!m_document->m_documentElement)
         m_document->AddDocElement(name);
     else
         m_document->AddChildElement(name);

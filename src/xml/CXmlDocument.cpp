@@ -33,8 +33,6 @@ CXmlDocument::~CXmlDocument() { DropTree(); }
 void CXmlDocument::Cleanup() {
     DropTree();
     ReleaseBuffer();
-    m_elementStack.clear();
-    m_openElements.clear();
     m_namespaceAliases.clear();
 }
 
@@ -119,11 +117,14 @@ void CXmlDocument::DropTree() {
     if constexpr (hasAddressSanitizer)
         m_documentElement.reset();
     (void)m_documentElement.release();
+    m_elementStack.clear();
+    m_openElements.clear();
     m_memory.reset();
 }
 
 void CXmlDocument::StartTree() {
     constexpr std::size_t usualDepth = 16;
+    DropTree(); // where the Cleanup of a derived class has left it
     m_memory = std::make_unique<TreeMemory>();
     m_elementStack.reserve(usualDepth);
 }

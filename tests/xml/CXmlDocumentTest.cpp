@@ -125,6 +125,17 @@ TEST(CXmlDocument, LoadsRepeatedlyAlsoAfterAFailure) {
     document.LoadXml("<a>&lt;inner>some text&lt;/inner></a>");
     document.LoadXml(document.GetDocumentElement()->GetText().c_str());
     EXPECT_EQ(DumpTree(document.GetDocumentElement()), R"(inner["some text"])");
+    // A class whose Cleanup keeps the tree gets a new one all the same.
+    class Keeper : public CXmlDocument {
+        void Cleanup() override {}
+    } keeper;
+    const CBinaryData infoset = HexBytes("E0 00 00 01 00 7C 00 'b' 78 00 'c' 40 'd' FF");
+    for (int round = 0; round < 2; ++round) {
+        EXPECT_EQ(Failure([&] { keeper.LoadXml("<a p='1'>x<b/><c>"); }), "no element found at line 1");
+        EXPECT_EQ(DumpTree(keeper.GetDocumentElement()), R"(a[@p=1 "x" b c])");
+        keeper.LoadXmlStream(infoset.GetData(), infoset.GetLength());
+        EXPECT_EQ(DumpTree(keeper.GetDocumentElement()), "b[@c=d]");
+    }
 }
 
 TEST(CXmlDocument, DropsElementsForWhichTheCallbackReturnsTrueAndPassesOnWhatItThrows) {

@@ -105,7 +105,7 @@ private:
     unsigned char* SetBuffer(std::unique_ptr<unsigned char[]> buffer, std::uint64_t size);
     void SetInput(const unsigned char* input, std::uint64_t size);
 
-    /// Makes the memory of the tree, before the name of its root is shared.
+    /// Makes the memory of a new tree, before the name of its root is shared.
     void StartTree();
     CXmlElement* AddDocElement(const SharedName& name);
     CXmlElement* AddChildElement(const SharedName& name);
