@@ -116,6 +116,7 @@ void AppendSubstituted(std::string& to, std::string_view pattern) {
 class TranslatedPattern {
 public:
     explicit TranslatedPattern(std::string_view pattern) {
+        // What is substituted or rewritten starts with this byte, or with a letter behind a backslash.
         const bool isPlain = pattern.find('\x01') == pattern.npos && !MayNeedRewriting(pattern);
         if (isPlain && pattern.size() + 2 < sizeof m_short)
             m_text = WriteAnchored(pattern);

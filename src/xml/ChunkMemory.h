@@ -3,7 +3,9 @@
 #include "object/AddressSanitizer.h"
 
 #include <algorithm>
+#include <cassert>
 #include <cstddef>
+#include <cstdint>
 #include <memory>
 #include <memory_resource>
 #include <new>
@@ -18,10 +20,13 @@ namespace KzXmlLib10 {
 /// Under the address sanitizer each piece is a block of the heap, so that it sees one used after its end.
 class ChunkMemory final : public std::pmr::memory_resource {
 private:
-    void* do_allocate(std::size_t size, std::size_t) override {
+    /// How all pieces are aligned: for pointers and for the numbers in names, which is all that a tree needs.
+    static constexpr std::size_t unit = alignof(std::uint64_t);
+
+    void* do_allocate(std::size_t size, [[maybe_unused]] std::size_t alignment) override {
+        assert(alignment <= unit);
         if constexpr (hasAddressSanitizer)
             return ::operator new(size);
-        constexpr std::size_t unit = alignof(void*); // which does for all
         const std::size_t whole = (size + unit - 1) / unit * unit;
         if (whole > m_left)
             AddChunk(whole);
