@@ -1,18 +1,8 @@
 // The program `quillon` as a user runs it: arguments and bytes in; bytes, messages and exit code out.
 
-#include <gtest/gtest.h>
-
-#include <cstdlib>
-#include <filesystem>
-#include <fstream>
-#include <iterator>
-#include <string>
-#include <vector>
+#include "support/Test.h"
 
 #include <sys/wait.h>
-#include <unistd.h>
-
-using namespace std::string_literals;
 
 namespace {
 
@@ -23,30 +13,19 @@ struct Result {
 
 class QuillonProgram : public testing::Test {
 protected:
-    QuillonProgram() { std::filesystem::create_directory(m_folder); }
-    ~QuillonProgram() override { std::filesystem::remove_all(m_folder); }
-
-    std::string Read(const std::string& file) const {
-        std::ifstream stream(m_folder / file, std::ios::binary);
-        return {std::istreambuf_iterator<char>(stream), {}};
-    }
-    void Write(const std::string& file, const std::string& bytes) const {
-        std::ofstream(m_folder / file, std::ios::binary) << bytes;
-    }
     /// Runs a shell command in the folder of the test; the word `quillon` in it is the program.
     Result Shell(const std::string& command, const std::string& input = "") const {
-        Write("<in", input);
+        m_dir.Write("<in", input);
         const std::string folder =
-            "cd '" + m_folder.string() + "' && quillon() { '" QUILLON_PROGRAM "' \"$@\"; } && ";
+            "cd '" + m_dir.Path("") + "' && quillon() { '" QUILLON_PROGRAM "' \"$@\"; } && ";
         const int status = std::system((folder + "(" + command + ") <'<in' >'<out' 2>'<err'").c_str());
-        return {WIFEXITED(status) ? WEXITSTATUS(status) : -1, Read("<out"), Read("<err")};
+        return {WIFEXITED(status) ? WEXITSTATUS(status) : -1, m_dir.Read("<out"), m_dir.Read("<err")};
     }
     Result Quillon(const std::string& arguments, const std::string& input = "") const {
         return Shell("quillon " + arguments, input);
     }
 
-    const std::filesystem::path m_folder =
-        std::filesystem::temp_directory_path() / ("quillon-" + std::to_string(getpid()));
+    const TempDir m_dir;
 };
 
 const std::string declaration = "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n";
@@ -63,35 +42,35 @@ const std::string fastInfoset = "\xE0\x00\x00\x01\x00"           // identificati
                                 "d\xFF\xF0"s; // element d, all ends
 
 TEST_F(QuillonProgram, ConvertsEachFormatIntoEach) {
-    Write("in.xml", text);
+    m_dir.Write("in.xml", text);
     const std::vector<std::string> forms{"xml", "finf", "xml.gz", "finf.gz", "xml.zz", "fi.zlib"};
     for (const std::string& form : forms)
         ASSERT_EQ(Quillon("convert in.xml direct." + form).err, "");
-    EXPECT_EQ(Read("direct.xml"), text);
-    EXPECT_EQ(Read("direct.finf"), fastInfoset);
-    EXPECT_EQ(Read("direct.xml.gz").substr(0, 2), "\x1F\x8B");
-    EXPECT_EQ(Read("direct.xml.zz").substr(0, 1), "\x78");
+    EXPECT_EQ(m_dir.Read("direct.xml"), text);
+    EXPECT_EQ(m_dir.Read("direct.finf"), fastInfoset);
+    EXPECT_EQ(m_dir.Read("direct.xml.gz").substr(0, 2), "\x1F\x8B");
+    EXPECT_EQ(m_dir.Read("direct.xml.zz").substr(0, 1), "\x78");
     for (const std::string& from : forms)
         for (const std::string& to : forms) {
             const Result result = Quillon("convert direct." + from + " out." + to);
             EXPECT_EQ(result.exitCode, 0) << result.err;
-            EXPECT_EQ(Read("out." + to), Read("direct." + to)) << from << " to " << to;
+            EXPECT_EQ(m_dir.Read("out." + to), m_dir.Read("direct." + to)) << from << " to " << to;
         }
 }
 
-TEST_F(QuillonProgram, OptionsPrevailOverTheEndingAndStreamsHaveNone) {
+TEST_F(QuillonProgram, OptionsPrevailOverTheEnding) {
     EXPECT_EQ(Quillon("convert -", text).out, text);
     Shell("quillon convert - out.finf -t text -c gzip && quillon convert out.finf out.xml", fastInfoset);
-    EXPECT_EQ(Read("out.finf").substr(0, 2), "\x1F\x8B");
-    EXPECT_EQ(Read("out.xml"), text);
+    EXPECT_EQ(m_dir.Read("out.finf").substr(0, 2), "\x1F\x8B");
+    EXPECT_EQ(m_dir.Read("out.xml"), text);
     EXPECT_EQ(Quillon("convert -f out.xml out.xml").exitCode, 0) << "a file may be its own output";
-    EXPECT_EQ(Read("out.xml"),
+    EXPECT_EQ(m_dir.Read("out.xml"),
               declaration + "<a xmlns:p=\"u\" b=\"1\">\n\t<p:c>\xC3\xA4</p:c>\n\t<d/>\n</a>\n");
     EXPECT_EQ(Shell("quillon convert -e utf-16 -c zlib - | quillon convert -", text).out, text);
     EXPECT_EQ(Quillon("convert -e utf-16 -", "<a/>").out.substr(0, 6), "\xFF\xFE<\0?\0"s);
 }
 
-TEST_F(QuillonProgram, WritesEveryNameWithItsNamespaceThroughBothFormats) {
+TEST_F(QuillonProgram, KeepsTheNamespaceOfEveryName) {
     const std::array<std::string, 3> rows[] = {
         // the input, the output, the warning
         // the default namespace stays where it can hold for all
@@ -124,8 +103,8 @@ TEST_F(QuillonProgram, WritesEveryNameWithItsNamespaceThroughBothFormats) {
 }
 
 TEST_F(QuillonProgram, ShowsAndCounts) {
-    Write("in.xml", "<a xmlns='u' b='q\"\\'><c xmlns:p='v'>x&#x9B;</c><p:d xmlns:p='v' e=''><f>" +
-                        std::string(71, '-') + "\xF0\x9F\x98\x80</f></p:d></a>");
+    m_dir.Write("in.xml", "<a xmlns='u' b='q\"\\'><c xmlns:p='v'>x&#x9B;</c><p:d xmlns:p='v' e=''><f>" +
+                              std::string(71, '-') + "\xF0\x9F\x98\x80</f></p:d></a>");
     const std::string shown = R"(xmlns = "u"
 xmlns:p = "v"
 a
@@ -149,7 +128,7 @@ a
 }
 
 TEST_F(QuillonProgram, TellsWhatFailedByMessageAndExitCode) {
-    Write("cut.gz", Quillon("convert -c gzip -", text).out.substr(0, 60));
+    m_dir.Write("cut.gz", Quillon("convert -c gzip -", text).out.substr(0, 60));
     const std::tuple<std::string, std::string, int, std::string> rows[] = {
         {"quillon convert -", "<a>\n<b></a>", 1, "quillon: standard input: mismatched tag at line 2\n"},
         {"quillon show -", "\xE0\x00\x00\x01\x00\xF0"s, 1,
@@ -162,7 +141,7 @@ TEST_F(QuillonProgram, TellsWhatFailedByMessageAndExitCode) {
         {"quillon convert none.xml", "", 3, "quillon: none.xml: No such file or directory\n"},
         {"quillon convert - none/out.xml", "<a/>", 3, "quillon: none/out.xml: No such file or directory\n"},
         {"quillon show - >/dev/full", "<a/>", 3, "quillon: standard output: No space left on device\n"},
-        {"quillon stat -", Read("cut.gz"), 1,
+        {"quillon stat -", m_dir.Read("cut.gz"), 1,
          "quillon: standard input: The compressed stream is damaged or ends too early\n"},
         {"quillon", "", 2, "quillon: A subcommand is required\nRun with --help for more information.\n"},
         {"quillon convert - --to finf", "<a/>", 2,
@@ -175,7 +154,7 @@ TEST_F(QuillonProgram, TellsWhatFailedByMessageAndExitCode) {
         EXPECT_EQ(result.out, "") << command;
         EXPECT_EQ(result.err, err);
     }
-    EXPECT_FALSE(std::filesystem::exists(m_folder / "out.finf"));
+    EXPECT_FALSE(std::filesystem::exists(m_dir.Path("out.finf")));
     EXPECT_EQ(Quillon("--version").out, "quillon 10.1.0\n");
     EXPECT_EQ(Quillon("convert --help").exitCode, 0);
 }

@@ -9,7 +9,7 @@ using namespace KzXmlLib10Data;
 
 namespace {
 
-/// <parcel code="A1"><weight>2.50</weight></parcel>
+/// <parcel><code>A1</code></parcel>
 class CParcel : public CXmlGeneratedClass {
 public:
     CParcel() { SetElementName(u"parcel"); }
@@ -19,12 +19,10 @@ public:
     std::u16string GetTargetNamespace() const override { return u""; }
     std::u16string GetNamespace() const override { return u""; }
 
-    void AccessProperty(int propertyIndex, bool read, KzVariant& value) override {
-        if (propertyIndex == Property_weight)
-            return read ? value.SetDecimal(m_weight) : (void)(m_weight = value.GetDecimal());
+    void AccessProperty(int, bool read, KzVariant& value) override {
         if (read)
             return value.SetString(m_code);
-        static_cast<CAttributeInfoPrimitive*>(GetClassAttributeInfo()[0])->CheckRestriction(value);
+        static_cast<CElementInfoSeqPrimMnd*>(GetClassElementInfo()[0])->CheckRestriction(value);
         m_code = value.GetString();
     }
     CParentElementInfo* GetClassInfo() const override {
@@ -33,29 +31,20 @@ public:
         return &info;
     }
     CElementInfo** GetClassElementInfo() const override {
-        static CElementInfoSeqPrimMnd weight(u"weight", u"", Property_weight, false, ItemType_decimal,
-                                             nullptr, CWhitespaceUtils::WhitespaceRule_Collapse,
-                                             CPrimitiveRestrictions());
-        static CElementInfo* elements[] = {&weight, nullptr};
+        static CElementInfoSeqPrimMnd code(
+            u"code", u"", 0, false, ItemType_string, nullptr, CWhitespaceUtils::WhitespaceRule_Collapse,
+            CPrimitiveRestrictions(u"[A-Z]\\d", -1, -1, u"", u"", u"", u"", -1));
+        static CElementInfo* elements[] = {&code, nullptr};
         return elements;
     }
     CAttributeInfo** GetClassAttributeInfo() const override {
-        static CAttributeInfoPrimitive code(
-            u"code", u"", Property_code, false, ItemType_string, nullptr,
-            CWhitespaceUtils::WhitespaceRule_Collapse,
-            CPrimitiveRestrictions(u"[A-Z]\\d", -1, -1, u"", u"", u"", u"", -1), nullptr);
-        static CAttributeInfo* attributes[] = {&code, nullptr};
+        static CAttributeInfo* attributes[] = {nullptr};
         return attributes;
     }
-    void Init() override {
-        m_code.clear();
-        m_weight = CDecimal();
-    }
+    void Init() override { m_code.clear(); }
 
 private:
-    enum Property { Property_code, Property_weight };
     std::u16string m_code;
-    CDecimal m_weight;
 };
 
 bool Check(const char* what, const std::u16string& found, const std::u16string& expected) {
@@ -72,14 +61,14 @@ int main() {
     const CSmartPtr<CParcel> parcel = new CParcel;
     bool good = true;
 
-    parcel->FromXml("<parcel code='A1'><weight>2.50</weight></parcel>", context);
-    CBinaryData packed =
+    parcel->FromXml("<parcel><code>A1</code></parcel>", context);
+    const CBinaryData packed =
         parcel->ToXmlStream(true, true, XmlEncoding_UTF16, EOLType_LF, context, CompressionType_GZip);
     parcel->FromXmlStream(packed, context);
     good &= Check("written", parcel->ToXml(false, false, EOLType_LF, context),
-                  u"<parcel code=\"A1\"><weight>2.5</weight></parcel>");
+                  u"<parcel><code>A1</code></parcel>");
     try {
-        parcel->FromXml("<parcel code='A'><weight>2.50</weight></parcel>", context);
+        parcel->FromXml("<parcel><code>A</code></parcel>", context);
         good = false;
     } catch (const CKzValidationException& failure) {
         good &= Check("refused", failure.GetFullMessage(),
