@@ -85,7 +85,7 @@ TEST(CElement, WhatIsAssignedMayLiveInWhatItIsAssignedTo) {
     EXPECT_EQ(Text(element), "<c><d/></c>");
 }
 
-TEST(CElement, ChecksTheRestrictionOfAWholeTreeAndThrowsAPointer) {
+TEST(CElement, RestrictingATreeThrowsAPointer) {
     CElement element(u"any");
     element.FromXml(u"<r xmlns='urn:t' xmlns:b='urn:b'><x><b:y b:z='1'/></x></r>");
     element.SetNamespaceRestrictions(u"##any", u"urn:t");
@@ -127,7 +127,7 @@ TEST(CElement, CopiesAnyObjectAndFillsAnyObject) {
     EXPECT_EQ(Text(*outer), "<AA:outer xmlns:AA=\"urn:o\">" + text + "<AA:after/></AA:outer>");
 }
 
-TEST(CElement, AnAttributeNamedXmlnsBecomesTheDefaultNamespaceOfACopy) {
+TEST(CElement, ACopyTakesXmlnsForItsNamespace) {
     CElement source(u"a");
     source.GetAttributes()->Add(u"xmlns", u"urn:x", u"urn:p");
     const CElement copy(&source, nullptr);

@@ -117,7 +117,7 @@ TEST(CXmlCollection, RefusesBadIndexesAnchorsAndNull) {
               "logic error)");
 }
 
-TEST(CXmlCollection, WhatAListenerThrowsStopsTheChangeWhereItStands) {
+TEST(CXmlCollection, ThrowingListenersStopTheChange) {
     Log log;
     IEventSink::MsgType refused{};
     auto items = std::make_unique<CItemCol>();
@@ -167,7 +167,7 @@ TEST(CXmlCollection, ListenersMayComeAndGoDuringAnEvent) {
     EXPECT_EQ(late.Take(), "");
 }
 
-TEST(CXmlCollection, AListenerMayRemoveTheItemThatTheEventIsAbout) {
+TEST(CXmlCollection, ListenersMayRemoveTheItem) {
     Log log, second;
     bool busy = false;
     IEventSink::MsgType trigger = MsgType_CollectionAddComplete;
@@ -191,7 +191,7 @@ TEST(CXmlCollection, AListenerMayRemoveTheItemThatTheEventIsAbout) {
     log.during = nullptr; // the destructor fires events too
 }
 
-TEST(CXmlCollection, GoesWhileListenersHoldItOrAddItsItemsAgain) {
+TEST(CXmlCollection, ListenersMayHoldADyingCollection) {
     Log log;
     const CSmartPtr<CItem> item = new CItem(u'a');
     {
@@ -228,7 +228,7 @@ TEST(CXmlCollection, ACopySharesTheItemsInAListOfItsOwn) {
     EXPECT_EQ(items.Names() + std::to_string(CItem::living) + log.Take(), "abc3");
 }
 
-TEST(CXmlCollection, ClearAndLongChainsOfObjectsGoInLinearTimeAndFlatStack) {
+TEST(CXmlCollection, ManyItemsGoInLinearTime) {
     constexpr int count = 50'000;
     Log log;
     CItemCol items;

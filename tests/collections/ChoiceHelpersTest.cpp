@@ -46,7 +46,7 @@ TEST(ChoiceHelpers, KeepTheRecordOfTheOneMemberThatIsSet) {
                   });
 }
 
-TEST(ChoiceHelpers, ReadCollectionTakesOneRunAndChecksItsNumber) {
+TEST(ChoiceHelpers, ReadCollectionTakesOneRun) {
     CXmlDocument document;
     document.LoadXml(u"<r><x/><y/></r>");
     CXmlElement* root = document.GetDocumentElement();

@@ -18,7 +18,7 @@ std::string Describe(const Collection& items) {
 const std::string notOfA =
     "Invalid namespace [urn:b]. The namespace must be one of [urn:a] where the target namespace is [urn:t]";
 
-TEST(CAttributeCol, TakesItsDefaultNamespaceFromARestrictionToNamespaces) {
+TEST(CAttributeCol, TakesItsNamespaceFromItsRestriction) {
     ExpectRows({"urn:a -> urn:a", "urn:a urn:b -> urn:a", "##any -> ", "a# -> ", "u -> ", " -> "},
                [](const char16_t* restriction) {
                    return ToUtf8(CAttributeCol(u"", restriction, u"").GetNamespace());
@@ -58,7 +58,7 @@ TEST(CAttributeCol, ReadsAllAttributesOrFails) {
     EXPECT_EQ(Describe(attributes), "a=1 b=2 c=3");
 }
 
-TEST(CElementCol, HoldsItsRestrictionAgainstTheDefaultNamespaceOnlyAndReadsEveryElementThatIsLeft) {
+TEST(CElementCol, RestrictsTheDefaultNamespaceOnly) {
     EXPECT_EQ(CElementCol(u"", u"##other", u"urn:t", 0, -1).Add(u"x")->GetNamespace(),
               u"##other"); // a keyword
     CElementCol none(u"", u"urn:a", u"", 0, -1), local(u"", u"##local", u"urn:t", 0, -1);

@@ -40,7 +40,7 @@ TEST(CConversions, IntegersAreReadUpToTheirLimits) {
     }
 }
 
-TEST(CConversions, IntegerFormIsThatOfStrtolInTheWidthOfTheReader) {
+TEST(CConversions, IntegersHaveTheFormOfStrtol) {
     ExpectRows(
         {"+5 -> 5", "-0 -> 0", " \t\n\v\f\r7 -> 7", "0000000000000000000000000000000012 -> 12", " -> 0"},
         ReadI4);
@@ -107,7 +107,7 @@ TEST(CConversions, RealsOfAnotherFormAreRefused) {
     }
 }
 
-TEST(CConversions, RealsAreWrittenInGeneralNotationOrByTheirFormat) {
+TEST(CConversions, RealsAreWrittenByTheirFormat) {
     ExpectRows({"0.1 -> 0.1", "-0 -> -0", "0.33333333333333331 -> 0.3333333333333333",
                 "1e15 -> 1000000000000000", "1e16 -> 1e+16", "1e-4 -> 0.0001", "1e-5 -> 1e-05", "INF -> INF",
                 "-INF -> -INF", "NaN -> NaN", "-1.7976931348623157e308 -> -1.797693134862316e+308"},

@@ -2,9 +2,7 @@
 
 using W = CWhitespaceUtils;
 
-namespace {
-
-TEST(CWhitespaceUtils, RulesTransformTextAndUnknownOnesAreRefused) {
+TEST(CWhitespaceUtils, EachRuleTransformsText) {
     const std::u16string rows[][4] = {
         {u"", u"", u"", u""},
         {u"   ", u"   ", u"   ", u""},
@@ -31,7 +29,7 @@ TEST(CWhitespaceUtils, RulesTransformTextAndUnknownOnesAreRefused) {
                   "Unknown WhitespaceRule");
 }
 
-TEST(CWhitespaceUtils, PreserveOfUnterminatedCharactersStaysInside) {
+TEST(CWhitespaceUtils, PreserveStaysWithinItsLength) {
     const char16_t units[] = {u'a', u'\r', u'\n', u'b'};
     EXPECT_EQ(CWhitespaceUtils::Preserve(units, 2), u"a\n");
     EXPECT_EQ(CWhitespaceUtils::Preserve(units, 4), u"a\nb");
@@ -40,5 +38,3 @@ TEST(CWhitespaceUtils, PreserveOfUnterminatedCharactersStaysInside) {
     EXPECT_EQ(CWhitespaceUtils::Preserve(nullptr, -1), u"");
     EXPECT_THROW(CWhitespaceUtils::Preserve(nullptr, 1), CKzInvalidParamException);
 }
-
-} // namespace

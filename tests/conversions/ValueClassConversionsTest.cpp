@@ -1,11 +1,9 @@
 #include "support/Test.h"
 
-namespace {
-
 using C = CConversions;
 constexpr auto none = CWhitespaceUtils::WhitespaceRule_None;
 
-TEST(ValueClassConversions, YearsMonthsAndDaysComeFromAnyFormThatHasThem) {
+TEST(ValueClassConversions, PartsOfDatesComeFromAnyForm) {
     EXPECT_EQ(C::yearFromString(u"2010-05-06", none), 2010);
     EXPECT_EQ(C::yearFromString(u"-0001", none), 65535);
     EXPECT_EQ(C::monthFromString(u"--05-06", none), 5);
@@ -23,11 +21,9 @@ TEST(ValueClassConversions, TextsEndAtTheirFirstNul) {
     EXPECT_EQ(C::yearFromString(u"2001\0x"s, none), 2001);
 }
 
-TEST(ValueClassConversions, TheFormatOfADecimalIsTheNumberOfItsPlaces) {
+TEST(ValueClassConversions, FormatsOfDecimalsAreNumbersOfPlaces) {
     ExpectRows(
         {" -> -1.2345", "3 -> -1.235", " +2.9 -> -1.23", "-3 -> -1.", "%.2f -> -1.",
          "99999999999999999999 -> -1.2345"},
         [](const char16_t* format) { return ToUtf8(C::decimalToString(CDecimal(u"-1.2345"), format)); });
 }
-
-} // namespace

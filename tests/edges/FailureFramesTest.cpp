@@ -87,7 +87,7 @@ TEST_F(FailureFramesTest, WritingTellsThePathInBothFormats) {
     }
 }
 
-TEST_F(FailureFramesTest, WhatIsNoFailureOfADocumentHasTheKindOfItsClass) {
+TEST_F(FailureFramesTest, OtherFailuresHaveTheKindOfTheirClass) {
     CXmlSerializationContext context;
     context.SetIgnoreUnknownElements(true);
     CAttributeCol attributes(u"", u"urn:a", u"");

@@ -24,7 +24,7 @@ protected:
     kit::Model m_note{u"note"};
 };
 
-TEST_F(ReadAndWriteTest, EveryFormOfADocumentComesBackFromMemoryAndFile) {
+TEST_F(ReadAndWriteTest, EveryFormComesBack) {
     const CSmartPtr<kit::CModelObject> note = Note(u"\u00E5\U0001F600"); // short: it grows when compressed
     std::size_t row = 0;
     for (const DocumentFormat format : {DocumentFormat::Text, DocumentFormat::FastInfoset}) {
@@ -45,7 +45,7 @@ TEST_F(ReadAndWriteTest, EveryFormOfADocumentComesBackFromMemoryAndFile) {
     }
 }
 
-TEST_F(ReadAndWriteTest, TextHasTheStyleAndTheContextAskedFor) {
+TEST_F(ReadAndWriteTest, TextHasTheStyleAskedFor) {
     const CSmartPtr<kit::CModelObject> note = Note(u"\u00E5");
     EXPECT_EQ(WriteText(*note), "<?xml version=\"1.0\"?>\n<note>\n\t<text>\xC3\xA5</text>\n</note>\n");
     CXmlSerializationContext context;
@@ -56,7 +56,7 @@ TEST_F(ReadAndWriteTest, TextHasTheStyleAndTheContextAskedFor) {
     EXPECT_EQ(TextOf([&](auto& o) { Read(o, "<note><other/><text>x</text></note>", context); }), "x");
 }
 
-TEST_F(ReadAndWriteTest, AGenericElementBecomesTheRootAndKeepsNothing) {
+TEST_F(ReadAndWriteTest, AGenericElementBecomesTheRoot) {
     CElement element(u"any");
     const std::string root = "<AA:r xmlns:AA=\"u\" a=\"1\"><AA:c>x</AA:c></AA:r>";
     m_dir.Write("root", root);
@@ -72,7 +72,7 @@ TEST_F(ReadAndWriteTest, AGenericElementBecomesTheRootAndKeepsNothing) {
               "The root of the document is in the namespace [u], which the element does not admit");
 }
 
-TEST_F(ReadAndWriteTest, FailuresAreThoseOfTheLibraryAndLoseNothing) {
+TEST_F(ReadAndWriteTest, FailuresLoseNothing) {
     m_dir.Write("kept", "as it was");
     EXPECT_EQ(InvalidValue([&] { WriteFile(*Note(u"\xDC00"), m_dir.Path("kept")); }),
               "Malformed UTF-16: surrogate without its partner at position 36");

@@ -96,7 +96,7 @@ TEST_F(RecordsTest, EverySourceAndFormatGivesTheSameRecords) {
     }
 }
 
-TEST_F(RecordsTest, NamesComeFromTheClassTheOptionsOrTheContext) {
+TEST_F(RecordsTest, OptionsNameTheRecords) {
     const std::string document = prefix + "<r><n>1</n></r><s><n>2</n></s><o:s><n>3</n></o:s></all>";
     CXmlSerializationContext ignoring;
     ignoring.SetIgnoreNamespaces(true);
@@ -108,7 +108,7 @@ TEST_F(RecordsTest, NamesComeFromTheClassTheOptionsOrTheContext) {
               "The class stands for a type; the records need the name of their element");
 }
 
-TEST_F(RecordsTest, AFaultyRecordIsReportedInItsTurnAndTheOthersArrive) {
+TEST_F(RecordsTest, AFaultyRecordLeavesTheOthers) {
     const std::string document = Document({"1", "2", "x", "4", "y", "6"});
     const std::string third =
         "Failed to process the record 3\nFailed to process the element [r]\nThe value [x] "
@@ -124,7 +124,7 @@ TEST_F(RecordsTest, AFaultyRecordIsReportedInItsTurnAndTheOthersArrive) {
     EXPECT_EQ(faults, "3Failed to process the record 3|5Failed to process the record 5|");
 }
 
-TEST_F(RecordsTest, WhatEndsTheDocumentComesBehindTheRecordsBeforeIt) {
+TEST_F(RecordsTest, RecordsComeBeforeTheFaultBehindThem) {
     const auto seen = [](const RecordSource& source) {
         std::string numbers;
         Records<CRecord> all = records<CRecord>(source);
@@ -179,7 +179,7 @@ TEST_F(RecordsTest, ALoopMayBeLeftAndTakenUpAgain) {
     EXPECT_EQ(numbers, "1234");
 }
 
-TEST_F(RecordsTest, ATreeThatIsReadIsDroppedHoweverLongTheDocumentIs) {
+TEST_F(RecordsTest, DropsTheTreeThatIsRead) {
     LimitsScope limits(&Limits::treeBytes, 1 << 20);
     limits.Set(&Limits::treeBytesPerInputByte, 0);
     std::istringstream stream(
@@ -193,7 +193,7 @@ TEST_F(RecordsTest, ATreeThatIsReadIsDroppedHoweverLongTheDocumentIs) {
     EXPECT_LT(most, 2'000);
 }
 
-TEST_F(RecordsTest, TheSizeOfOneRecordIsBoundedNotThatOfTheStream) {
+TEST_F(RecordsTest, BoundsTheSizeOfOneRecord) {
     const LimitsScope limits(&Limits::inflatedBytes, 300'000);
     const std::string many = Repeat("<r><n>1</n></r>"s, 20'000),
                       one = "<r>" + std::string(500'000, ' ') + "</r>";

@@ -55,8 +55,8 @@ TEST(CFastInfosetReader, ReadsNamesInAllForms) {
            "3C 02 62 C0 63 FF -> b"}); // and at malformed UTF-8
 }
 
-TEST(CFastInfosetReader, KeepsTheLastDeclarationOfAPrefixAndLeavesTheCallbackForElementsAlone) {
-    CXmlDocument document([](CXmlElement*) { return true; });
+TEST(CFastInfosetReader, KeepsTheLastDeclarationOfAPrefix) {
+    CXmlDocument document([](CXmlElement*) { return true; }); // is for text alone
     Load(document, HexBytes(start + "38 CD 04 'urn:d' CF 00 'p' 04 'urn:p' F0 3C 00 'a'"
                                     "38 CF 81 81 CE 00 'q' F0 00 FF F0"));
     for (const auto& [prefix, uri] : {std::pair(u"", u"urn:d"), {u"p", u"urn:d"}, {u"q", u""}})
@@ -144,7 +144,7 @@ TEST(CFastInfosetReader, ReadsPastWhatItDoesNotKeep) {
         EXPECT_EQ(Read(HexBytes(head + bytes)), failure);
 }
 
-TEST(CFastInfosetReader, RefusesWhatHasNoMeaningAndIndicesBeyondTheirTables) {
+TEST(CFastInfosetReader, RefusesWhatHasNoMeaning) {
     Check({"3E 00 'p' 00 'a' FF -> Invalid QName type Prefix without Namespace.",
            "3C 41 -> Invalid NonEmptyOctetString type  on the second bit of an octet.",
            "= 09 -> Invalid NonEmptyOctetString type  on the fifth bit of an octet.",
@@ -156,6 +156,9 @@ TEST(CFastInfosetReader, RefusesWhatHasNoMeaningAndIndicesBeyondTheirTables) {
            ". F1 -> Invalid Encoding of Element type.",
            "3C 60 FFFFFFFF 'a' -> Unexpected End of File.", // 2^32 + 320 bytes, which are not 320
            "= 0C FFFFFFFF -> Unexpected End of File.", ". 83 FFFFFFFF -> Unexpected End of File."});
+}
+
+TEST(CFastInfosetReader, RefusesIndicesBeyondTheirTables) {
     for (const char* bytes : {"00 F0", "3C 80 FF", "7C 00 'a' 00", "7C 00 'a' 78 00 'b' 80", "3C 00 'a' A0"})
         EXPECT_EQ(Read(HexBytes(start + bytes)), "The index [1] lies beyond its table.") << bytes;
     for (const char* bytes : {"3D 81 00 'a' FF", "3F 81 80 00 'a' FF", "38 CE 81 F0"})

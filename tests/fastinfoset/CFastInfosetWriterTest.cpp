@@ -76,7 +76,7 @@ TEST(CFastInfosetWriter, NamespaceAttributesStandOnTheRootOnly) {
                            "3F 83 83 80 FF F0"));          // the same prefix, made up again
 }
 
-TEST(CFastInfosetWriter, AnElementThatIsNotWrittenYetSeesTheNamespacesOfItsParent) {
+TEST(CFastInfosetWriter, PendingElementsSeeTheirParentsNamespaces) {
     const std::string start = header + "38 F0 3C 00 'r' 3C 00 'm' ";
     EXPECT_EQ(Write("<r ' <m ' <{u}c +p=u > > >"), Hex(start + "3F 00 'p' 00 'u' 00 'c' FF FF"));
     EXPECT_EQ(Write("<r ' <m ' <{u}c +=u > > >"), Hex(start + "3D 00 'u' 00 'c' FF FF"));
@@ -174,7 +174,7 @@ TEST(CFastInfosetWriter, DeclarationsStandInFront) {
                   "There is no FInfoDecl [" + std::to_string(i) + "]");
 }
 
-TEST(CFastInfosetWriter, RefusesWhatHasNoFormAndChecksTheOrderOfCalls) {
+TEST(CFastInfosetWriter, RefusesWhatHasNoForm) {
     const auto failure = [](Encoding encoding, const std::string& words) {
         const std::string message = Failure([&] { Write(words, WithEncoding(encoding)); });
         const std::string start = "Failed to write FastInfoset. ";
@@ -192,6 +192,9 @@ TEST(CFastInfosetWriter, RefusesWhatHasNoFormAndChecksTheOrderOfCalls) {
     EXPECT_EQ(failure({ByAlphabet, 2}, "<a '10:00:00.5 >"), notFound);
     EXPECT_EQ(failure({ByAlphabet, 2}, "<a '10:00:00+01:00 >"), notFound);
     EXPECT_EQ(failure({}, "< >"), "A name or namespace has no character that UTF-8 can hold.");
+}
+
+TEST(CFastInfosetWriter, ChecksTheOrderOfCalls) {
     for (const char* words : {"<a ' @b=1 >", "<a ' nil >", "<a ' type=T >"})
         EXPECT_EQ(Failure([&] { Write(words); }), "Attributes must be added before elements");
     for (const char* words : {"<a", "<a <a >"}) // also a root of which nothing is written yet
@@ -229,19 +232,6 @@ TEST(CFastInfosetWriter, WritesALeafAsThreeOperationsWould) {
     EXPECT_EQ(
         Failure([] { ScriptedObject([](CXmlWriter& w) { WriteLeaf(w, true, u"", u"", u"1"); }).Written(); }),
         "Failed to write FastInfoset. A name or namespace has no character that UTF-8 can hold.");
-}
-
-TEST(CFastInfosetWriter, CompressesAndSavesDocuments) {
-    const ScriptedObject object("<a '" + std::string(1000, 'x') + " >");
-    const TempDir dir;
-    const auto save = [&](CompressionType compression) {
-        object.ToFastInfosetFile(dir.Path16("f").c_str(), FInfoDecl_None, defaults, compression);
-    };
-    EXPECT_EQ(Failure([&] { save(CompressionType_ZLib); }),
-              "ZLIB Compression only available for To Stream methods.");
-    EXPECT_FALSE(std::filesystem::exists(dir.Path("f")));
-    save(CompressionType_GZip);
-    EXPECT_EQ(dir.Read("f"), Compressed(FromBinary(object.Written()), CompressionType_GZip));
 }
 
 } // namespace

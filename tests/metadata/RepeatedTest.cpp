@@ -161,7 +161,7 @@ TEST(AttributeWildcard, TakesWhatItsConstraintAdmits) {
     EXPECT_EQ(Write(*NewModel(u"r").AddAttribute(any()).New()), u"<r/>");
 }
 
-TEST(DefaultNamespaceOfAWildcard, FollowsTheFirstWordOfItsConstraint) {
+TEST(DefaultNamespaceOfAWildcard, FollowsItsConstraint) {
     const auto fallback = [](const char16_t* constraint, const char16_t* owner = u"urn:o") {
         return ToUtf8(CElementInfo::GetAnyDefaultNamespace(constraint, owner, u"urn:t"));
     };

@@ -5,7 +5,7 @@ namespace {
 
 constexpr char16_t wrapperMessage[] = u"around [%s] %d";
 
-TEST(CKzException, ChainsAreJoinedByLineFeedsConvertedAndCloned) {
+TEST(CKzException, ChainsAreJoinedByLineFeeds) {
     const CKzValidationException e(u"a", CKzException(u"b", CKzInvalidValueException(u"c")));
     EXPECT_EQ(e.GetMessageW(), u"a");
     EXPECT_EQ(e.GetFullMessage(), u"a\nb\nc");
@@ -34,7 +34,7 @@ TEST(CKzException, ClassesOfTheApplicationAreCopiedWhole) {
     EXPECT_EQ(CKzException(twice).GetFullMessage(), u"x\ny\nz");
 }
 
-TEST(CKzException, LongChainsAreWrappedCopiedPrintedAndDestroyedWithoutRecursion) {
+TEST(CKzException, LongChainsNeedNoRecursion) {
     // Two calls a link would take more than this stack.
     RunOnStack(256 << 10, [] {
         constexpr int links = 10'000;
@@ -64,7 +64,7 @@ TEST(CKzException, LongChainsAreWrappedCopiedPrintedAndDestroyedWithoutRecursion
     });
 }
 
-TEST(CKzException, StreamsAsUtf8WithReplacementForLoneSurrogates) {
+TEST(CKzException, StreamsAsUtf8) {
     std::ostringstream out;
     out << CKzException(u"\u00e5\xD800z", CKzException(u"\U0001F600"));
     EXPECT_EQ(out.str(), "\xC3\xA5\xEF\xBF\xBDz\n\xF0\x9F\x98\x80");

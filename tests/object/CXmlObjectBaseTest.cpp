@@ -1,7 +1,5 @@
 #include "support/Test.h"
 
-namespace {
-
 TEST(CXmlObjectBase, CountsReferencesWhichCopiesCarry) {
     struct CNote : ScriptedObject {
         explicit CNote(bool& wasDeleted) : ScriptedObject(""), deleted(wasDeleted) {}
@@ -40,5 +38,3 @@ TEST(CSmartPtr, AssignsWhatTheOldObjectOwns) {
     EXPECT_EQ(head->AddRef(), 3);
     head->Release();
 }
-
-} // namespace

@@ -1,7 +1,5 @@
 #include "support/Test.h"
 
-namespace {
-
 TEST(FormatString, Integers) {
     EXPECT_EQ(FormatString(u"%d|%5d|%-5d|%05d|%+d|% d|%.3d", -7, 7, 7, -7, 7, 7, 7),
               u"-7|    7|7    |-0007|+7| 7|007");
@@ -48,5 +46,3 @@ TEST(FormatString, Reals) {
     EXPECT_TRUE(
         huge.starts_with(u"1000000000000000052504760255204420248704468581108159154915854115511802457988"));
 }
-
-} // namespace

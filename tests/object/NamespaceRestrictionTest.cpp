@@ -1,8 +1,6 @@
 #include "object/NamespaceRestriction.h"
 #include "support/Test.h"
 
-namespace {
-
 TEST(NamespaceRestriction, AdmitsNamespaces) {
     // The answers for no namespace, the target namespace, urn:a and urn:b.
     ExpectRows({"##any -> yyyy", "##other -> ynyy", "##local -> ynnn", "##targetNamespace -> nynn",
@@ -20,5 +18,3 @@ TEST(NamespaceRestriction, AdmitsNamespaces) {
     EXPECT_TRUE(IsNamespaceValid(u"urn:a urn:b", u"urn:a urn:b", u""));
     EXPECT_FALSE(IsNamespaceValid(u"", u"##other", u""));
 }
-
-} // namespace

@@ -1,7 +1,5 @@
 #include "support/Test.h"
 
-namespace {
-
 TEST(Text, EveryLengthOfUtf8GoesBothWays) {
     const std::pair<std::u16string, std::string> cases[] = {
         {u"", ""},
@@ -31,5 +29,3 @@ TEST(Text, MalformedUtf8IsRefused) {
                              "\xF0\x8F\xBF\xBF", "\xF4\x90\x80\x80", "\xF8\x88\x80\x80\x80"})
         EXPECT_THROW(FromUtf8(text), CKzInvalidValueException) << text;
 }
-
-} // namespace

@@ -33,7 +33,7 @@ TEST(CBinaryData, ChangesOfACopyLeaveTheSource) {
     EXPECT_EQ(assigned.GetData(), nullptr);
 }
 
-TEST(CBinaryData, AdoptsArraysAndAppendsItselfAndPiecesOfItself) {
+TEST(CBinaryData, AdoptsArrays) {
     auto* const array = new unsigned char[1]{'a'};
     CBinaryData last;
     {
@@ -46,7 +46,9 @@ TEST(CBinaryData, AdoptsArraysAndAppendsItselfAndPiecesOfItself) {
     EXPECT_EQ(last.GetAsHexString(), u"61");
     const std::unique_ptr<unsigned char[]> same(last.ReleaseData());
     EXPECT_EQ(same.get(), array);
+}
 
+TEST(CBinaryData, AppendsItselfAndPiecesOfItself) {
     CBinaryData adopted(new unsigned char[3]{'a', 'b', 'c'}, 3, true); // full, so that each step moves it
     adopted.Append(adopted);
     adopted.Append(adopted.GetData() + 4, 2);
@@ -59,7 +61,7 @@ TEST(CBinaryData, AdoptsArraysAndAppendsItselfAndPiecesOfItself) {
     EXPECT_EQ(FromBinary(adopted) + FromBinary(shared), "bcabcabcbc");
 }
 
-TEST(CBinaryData, AppendsTextAsLittleEndianUnitsAndTheIndexEqualToTheLengthIsASpareByte) {
+TEST(CBinaryData, AppendsTextAsLittleEndianUnits) {
     CBinaryData data(u"A");
     data.Append(u'\u20ac');
     data.Append(u"B\0C");
@@ -67,7 +69,10 @@ TEST(CBinaryData, AppendsTextAsLittleEndianUnitsAndTheIndexEqualToTheLengthIsASp
     EXPECT_EQ(data.GetAsHexString(), u"4100AC20420000004400");
     data.SetBuffer(u"Z");
     EXPECT_EQ(data.GetAsHexString(), u"5A00");
-    data = CBinaryData(new unsigned char[2]{1, 2}, 2, true);
+}
+
+TEST(CBinaryData, TheIndexEqualToTheLengthIsASpareByte) {
+    CBinaryData data(new unsigned char[2]{1, 2}, 2, true);
     const CBinaryData& view = data;
     EXPECT_EQ(view[1], 2);
     EXPECT_EQ(view[2], view[2]);
@@ -78,7 +83,7 @@ TEST(CBinaryData, AppendsTextAsLittleEndianUnitsAndTheIndexEqualToTheLengthIsASp
               "Index Out of range [3]Index Out of range [3]");
 }
 
-TEST(CBinaryData, BadHexadecimalTextThrowsAndLeavesTheObjectEmpty) {
+TEST(CBinaryData, BadHexadecimalTextLeavesNothing) {
     const auto failure = [](const std::u16string& text) {
         CBinaryData data = ToBinary("x");
         const std::string message = Failure([&] { data.SetAsHexString(text); });

@@ -36,7 +36,7 @@ TEST(CDateTimeArithmetic, UnitsCarryIntoTheNextOne) {
          "1696-09-01 P201326593M1D -> Invalid Month [242] (1 <= month <= 12)"});
 }
 
-TEST(CDateTimeArithmetic, SubtractionMovesBackwardsWhateverTheSign) {
+TEST(CDateTimeArithmetic, SubtractionAlwaysMovesBackwards) {
     CDateTime value(2000, 1, 1);
     EXPECT_EQ((value - Span(u"P1D")).ToString(), u"1999-12-31");
     EXPECT_EQ((value - Span(u"-P1D")).ToString(), u"1999-12-31");

@@ -33,7 +33,7 @@ TEST(CDateTimeComparison, OffsetsAreNormalised) {
                [](const char16_t* text) { return ToUtf8(Moment(text).GetNormalized().ToString()); });
 }
 
-TEST(CDateTimeComparison, OneZoneLeavesABandOf14HoursOnOneSideWhereNoOrderHolds) {
+TEST(CDateTimeComparison, OneZoneLeavesABandWithoutOrder) {
     ExpectAnswers({"2000-01-01T12:00:00Z ? 2000-01-01T12:00:00", "2000-01-01T12:00:00Z < 2000-01-02T03:00:00",
                    "2000-01-01T12:00:01Z > 2000-01-01T12:00:00", "2000-01-01T12:00:00Z ? 2000-01-02T02:00:00",
                    "2000-01-01T12:00:00Z < 2000-01-02T02:00:01", "2000-01-01T12:00:00 ? 2000-01-01T12:00:00Z",

@@ -39,7 +39,7 @@ TEST(CDateTimeSpan, BadFormsAreRefusedAndLeaveNothing) {
     EXPECT_EQ(span.ToString(), u"P");
 }
 
-TEST(CDateTimeSpan, SettingClearsTheSignAndWhatIsNotNamedAndHasNoRange) {
+TEST(CDateTimeSpan, SettersHaveNoRange) {
     CDateTimeSpan span(1, 2, 3, 4, 5, 6, 7, 8, 9);
     span.Negate();
     EXPECT_EQ(span.ToString(), u"-P1Y2M3DT4H5M6.007008009S");

@@ -19,7 +19,7 @@ std::string TextOfKind(const std::u16string& row) {
     return ToUtf8(copy.GetType() + u" " + copy.ToString(nullptr));
 }
 
-TEST(KzVariant, ScalarsOfOneWidthShareTheLowBitsOfACleanCell) {
+TEST(KzVariant, ScalarsShareTheLowBitsOfACell) {
     KzVariant v;
     v.SetI8(-1);
     v.SetR4(-1.5f);
@@ -32,7 +32,7 @@ TEST(KzVariant, ScalarsOfOneWidthShareTheLowBitsOfACleanCell) {
     EXPECT_TRUE(v.GetUI1() == 0x80 && v.GetMonth() == 0x80 && v.GetDay() == 0x80 && v.GetBoolean());
 }
 
-TEST(KzVariant, UnknownKindsAreNamedByNumberAndNotAssigned) {
+TEST(KzVariant, UnknownKindsAreNamedByNumber) {
     KzVariant v;
     EXPECT_EQ(Failure([&] { v.GetType(); }), "Invalid Type 0");
     EXPECT_EQ(Failure([&] { v.ToString(u""); }), "Invalid Type 0 to convert to string");
@@ -61,7 +61,7 @@ TEST(KzVariant, NilKeepsTheKindUntilAClearThatFindsOne) {
     }
 }
 
-TEST(KzVariant, CopiesAreDeepAndMovesEmptyTheirSourceAlsoOntoItself) {
+TEST(KzVariant, CopiesAreDeepAndMovesEmpty) {
     KzVariant source = TextVariant(u"text");
     KzVariant copy(source);
     source.SetString(u"other");
@@ -114,7 +114,7 @@ TEST(KzVariant, TextsGoInAndOutByKind) {
     EXPECT_EQ(v.ToString(u"2"), u"2.35");
 }
 
-TEST(KzVariant, GettersOfOneClassAreOneOperationAndOtherKindsAreRefused) {
+TEST(KzVariant, GettersAskForTheClassAndNotTheKind) {
     const CDateTime date(2001, 5, 6);
     KzVariant v;
     v.SetYearMonth(date);
@@ -152,7 +152,7 @@ struct CHolder : ScriptedObject {
     static inline int living = 0;
 };
 
-TEST(KzVariant, ObjectsAreSharedAndCountedAndFindTheirVariantEmptyWhenTheyGoWithIt) {
+TEST(KzVariant, ObjectsAreSharedAndCounted) {
     auto* object = new CHolder;
     KzVariant v;
     v.SetXmlObject(object);
@@ -168,7 +168,9 @@ TEST(KzVariant, ObjectsAreSharedAndCountedAndFindTheirVariantEmptyWhenTheyGoWith
     v.SetI4(1);
     EXPECT_EQ(CHolder::living, 0);
     EXPECT_THROW(v.GetXmlObject(), CKzInvalidStateException);
-    // An object that goes with its variant finds that empty.
+}
+
+TEST(KzVariant, ADyingObjectFindsItEmpty) {
     struct CLooking : CHolder {
         ~CLooking() override { EXPECT_FALSE(held->IsValid()); }
         const KzVariant* held = nullptr;
@@ -179,7 +181,7 @@ TEST(KzVariant, ObjectsAreSharedAndCountedAndFindTheirVariantEmptyWhenTheyGoWith
     looking->held = &owner;
 }
 
-TEST(KzVariant, AssignmentFromInsideTheOwnObjectKeepsTheSourceAlive) {
+TEST(KzVariant, AssignsFromInsideItsOwnObject) {
     for (const bool moved : {false, true}) {
         auto* object = new CHolder;
         object->m_value.SetString(u"inside");

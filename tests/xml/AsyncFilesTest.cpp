@@ -1,8 +1,6 @@
 #include "xml/AsyncFiles.h"
 #include "support/FileTest.h"
 
-namespace {
-
 using AsyncFileTest = FileTest;
 
 const unsigned char tail[] = {'t', 'a', 'i', 'l'};
@@ -78,5 +76,3 @@ TEST_F(AsyncFileTest, AnInterruptedCloseIsNotRepeated) {
     EXPECT_EQ(file.Close() + file.Close(), 0);
     EXPECT_EQ(closed, 1);
 }
-
-} // namespace

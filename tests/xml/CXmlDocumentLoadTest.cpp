@@ -80,7 +80,7 @@ TEST_F(CXmlDocumentLoad, FindsOutWhetherTheInputIsCompressed) {
     EXPECT_EQ(Failure([&] { TreeOfStream(compressed.substr(0, compressed.size() - 1)); }), malformed);
 }
 
-TEST_F(CXmlDocumentLoad, ReadsBlocksWhateverFallsOnTheirEdgesButTheEnd) {
+TEST_F(CXmlDocumentLoad, ReadsAcrossTheEdgesOfBlocks) {
     const std::string r = "r[@a=\xC3\xA4 \"\xE2\x82\xAC\xF0\x9F\x98\x80\"]";
     const std::string tree = "doc[\"\\n\\n\\n\" " + r + " " + r + " " + r + "]";
     // The edge walks over each byte of two records and of the end tag.
@@ -143,7 +143,7 @@ TEST_F(CXmlDocumentLoad, ReportsWhatIsWrongWithAFile) {
     EXPECT_EQ(InvalidParam([&] { document.LoadXmlStream(nullptr, 1); }), "The argument data may not be null");
 }
 
-TEST_F(CXmlDocumentLoad, ReportsFaultsOfReadingAlsoBehindTheRoot) {
+TEST_F(CXmlDocumentLoad, ReportsFaultsBehindTheRoot) {
     m_dir.Write("f.xml", DocumentOfSize(blockSize) + " ");
     systemCalls.pread = [](int file, void* buffer, std::size_t length, off_t offset) -> ssize_t {
         return offset == 0 ? pread(file, buffer, length, offset) : (errno = EIO, -1);
@@ -151,7 +151,7 @@ TEST_F(CXmlDocumentLoad, ReportsFaultsOfReadingAlsoBehindTheRoot) {
     EXPECT_EQ(FailureOf("f.xml", true), "Failed to read the contents of the file. Error [0x00000005]");
 }
 
-TEST_F(CXmlDocumentLoad, EmptiesTheTreeAndClosesTheFileWhenABlockFails) {
+TEST_F(CXmlDocumentLoad, AFailingBlockEmptiesTheTree) {
     AsyncFromXmlFile(true);
     for (const char* end : {"<a>", "<b/></a> "}) {
         m_dir.Write("f.xml", "<a>" + std::string(2 * blockSize, ' ') + end);

@@ -94,13 +94,17 @@ TEST(CXmlDocument, StopsDocumentsThatGrowWithoutBounds) {
     }
 }
 
-TEST(CXmlDocument, LooksUpTheLastDeclarationOfAPrefixAndAttributesByExactNameAndNamespace) {
+TEST(CXmlDocument, KeepsTheLastDeclarationOfAPrefix) {
     CXmlDocument document;
     document.LoadXml("<a xmlns='urn:1' xmlns:p='urn:2'><p:b xmlns:p='urn:3'/><p:c xmlns='urn:4'/></a>");
     EXPECT_EQ(document.LookupNamespaceFromAlias(u""), u"urn:4");
     EXPECT_EQ(document.LookupNamespaceFromAlias(u"p"), u"urn:3");
     document.LoadXml("<a xmlns='urn:5'><b xmlns=''/></a>");
     EXPECT_EQ(document.LookupNamespaceFromAlias(u"") + document.LookupNamespaceFromAlias(u"p"), u"");
+}
+
+TEST(CXmlElement, FindsAttributesByNameAndNamespace) {
+    CXmlDocument document;
     document.LoadXml("<a xmlns:p='urn:p' p:x='1' x='2' y=''/>");
     const CXmlElement* root = document.GetDocumentElement();
     EXPECT_EQ(root->GetAttribute(u"x", u"") + root->GetAttribute(u"x", u"urn:p"), u"21");
@@ -138,7 +142,7 @@ TEST(CXmlDocument, LoadsRepeatedlyAlsoAfterAFailure) {
     }
 }
 
-TEST(CXmlDocument, DropsElementsForWhichTheCallbackReturnsTrueAndPassesOnWhatItThrows) {
+TEST(CXmlDocument, DropsWhatTheCallbackDoesNotWant) {
     const auto drop = [](CXmlElement* element) {
         g_seen += DumpTree(element) + ";";
         return element->GetLocalName() == u"d" || element->GetLocalName() == u"r";
@@ -155,7 +159,9 @@ TEST(CXmlDocument, DropsElementsForWhichTheCallbackReturnsTrueAndPassesOnWhatItT
         EXPECT_EQ(g_seen, seen);
         EXPECT_EQ(DumpTree(document.GetDocumentElement()), tree); // the root stays whatever the answer
     }
+}
 
+TEST(CXmlDocument, PassesOnWhatTheCallbackThrows) {
     CXmlDocument document([](CXmlElement* element) -> bool {
         g_seen += DumpTree(element);
         throw CKzInvalidStateException(u"enough");

@@ -19,7 +19,7 @@ struct Output {
     CXmlTextWriter writer;
 };
 
-TEST(CXmlTextWriter, FormatsWithTabsAndTheChosenLineEndAlsoMixedContent) {
+TEST(CXmlTextWriter, FormatsWithTabsAndLineEnds) {
     for (const auto& [formatted, encoding, text] :
          {std::tuple(true, XmlEncoding_UTF16,
                      " encoding=\"UTF-16\"?>\r\n<a>\r\n\t<b>x</b>\r\n\t<c/>\r\n</a>\r\n"),
@@ -127,7 +127,7 @@ struct DerivedWriter : CXmlTextWriter {
     void WriteText(const std::u16string&, ItemType type) override { CXmlTextWriter::WriteText(u"own", type); }
 };
 
-TEST(CXmlTextWriter, GeneratedPrefixesRunThroughPairsOfLettersAndStopAtTheSurrogates) {
+TEST(CXmlTextWriter, GeneratedPrefixesArePairsOfLetters) {
     constexpr std::uint32_t end = (0xD800 - u'A') * 26;
     for (const auto& [index, alias] :
          {std::pair(0u, u"AA"), {27u, u"BB"}, {675u, u"ZZ"}, {676u, u"[A"}, {end - 1, u"\uD7FFZ"}})
@@ -152,7 +152,7 @@ struct RecordingStream : CTextStream {
     std::u16string text;
 };
 
-TEST(CXmlTextWriter, FlushesAfterTheOperationThatReachesTheMark) {
+TEST(CXmlTextWriter, FlushesBetweenOperations) {
     RecordingStream stream;
     CXmlTextWriter writer(&stream);
     writer.SetFormatted(false);
