@@ -51,8 +51,7 @@ void ExpectRefused(const std::string& message, std::initializer_list<std::functi
 
 TEST(Chrono, WhatWouldBeLostIsRefused) {
     ExpectRefused("The value is no whole number of the unit",
-                  {[] { ToSysTime<seconds>(CDateTime(u"2000-01-01T00:00:00.000000001Z")); },
-                   [] { ToDuration<hours>(Span(u"PT90M")); }, [] { FromChrono(Frames(1)); }});
+                  {[] { ToDuration<hours>(Span(u"PT90M")); }, [] { FromChrono(Frames(1)); }});
     ExpectRefused("The value does not fit into the target",
                   {[] { ToSysTime(CDateTime(u"2300-01-01T00:00:00Z")); },
                    [] { ToDuration(Span(u"P106752D")); },

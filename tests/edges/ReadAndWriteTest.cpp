@@ -90,15 +90,13 @@ static_assert(std::ranges::random_access_range<CstringCol> && std::ranges::rando
 static_assert(std::ranges::forward_range<CAttributeCol> && std::ranges::forward_range<const CElementCol>);
 static_assert(std::ranges::forward_range<const CXmlCollection>);
 
-TEST(Ranges, DocumentsAreWalked) {
+TEST(Ranges, AttributesAreWalked) { // as children are in the guide
     CXmlDocument document;
-    document.LoadXml("<a b='1' c='2'><d/>text<e/></a>");
+    document.LoadXml("<a b='1' c='2'>text</a>");
     std::u16string seen;
-    for (const CXmlElement& child : Children(*document.GetDocumentElement()))
-        seen += child.GetLocalName() + (Children(child).begin() == Children(child).end() ? u"" : u"!");
     for (const CXmlAttribute& attribute : Attributes(*document.GetDocumentElement()))
         seen += attribute.GetLocalName() + attribute.GetValue();
-    EXPECT_EQ(seen, u"deb1c2");
+    EXPECT_EQ(seen, u"b1c2");
 }
 
 } // namespace

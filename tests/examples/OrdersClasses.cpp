@@ -8,10 +8,7 @@ using namespace orders;
 
 namespace {
 
-std::string ReadSample(const std::string& name) {
-    std::ifstream file(std::string(ORDERS_SAMPLES "/") + name, std::ios::binary);
-    return std::string((std::istreambuf_iterator<char>(file)), std::istreambuf_iterator<char>());
-}
+const std::string samples = ORDERS_SAMPLES "/";
 
 std::string Write(const CXmlObjectBase& object, const char16_t* defaultNamespace) {
     CXmlSerializationContext context;
@@ -33,7 +30,7 @@ constexpr char minimalShipment[] =
 
 TEST(OrdersClasses, ReadingForgetsTheEarlierDocument) {
     COrders object;
-    object.FromXml(ReadSample("orders.xml").c_str(), {});
+    ReadFile(object, samples + "orders.xml");
     // The first order has every optional member that the second has not, and the other way round.
     const std::string second = Write(*object.GetOrders()->Item(1), ordersNamespace);
     object.GetOrders()->Item(0)->FromXml(second.c_str(), {});
@@ -42,7 +39,7 @@ TEST(OrdersClasses, ReadingForgetsTheEarlierDocument) {
     EXPECT_EQ(Write(object, ordersNamespace), minimalOrders);
 
     CShipment shipment, fresh;
-    shipment.FromXml(ReadSample("shipment.xml").c_str(), {});
+    ReadFile(shipment, samples + "shipment.xml");
     shipment.FromXml(minimalShipment, {});
     fresh.FromXml(minimalShipment, {});
     EXPECT_EQ(Write(shipment, shipmentNamespace), Write(fresh, shipmentNamespace));
@@ -64,17 +61,16 @@ TEST(OrdersClasses, SettersRefuseWhatTheSchemaDoes) {
 }
 
 TEST(OrdersClasses, ThreadsMayMeetTheClassesAtOnce) {
-    const std::string sample = ReadSample("orders.xml");
     std::vector<std::string> written(4);
     std::vector<std::jthread> threads;
     for (std::string& text : written)
         threads.emplace_back([&] {
             COrders object;
-            object.FromXml(sample.c_str(), {});
+            ReadFile(object, samples + "orders.xml");
             text = Write(object, ordersNamespace);
         });
     threads.clear(); // waits for them
     COrders object;
-    object.FromXml(sample.c_str(), {});
+    ReadFile(object, samples + "orders.xml");
     EXPECT_EQ(written, std::vector(written.size(), Write(object, ordersNamespace)));
 }

@@ -12,18 +12,16 @@ std::string Dump(const CFastInfosetContext& context) {
     return text;
 }
 
-std::string Dump(const CFIVocabulary::CFIStringTable& table) {
+/// The texts of a table, or the numbers of the parts of its names.
+template <class Table>
+std::string Dump(const Table& table) {
     std::string text;
-    for (const std::u16string& value : table)
-        text += "[" + ToUtf8(value) + "]";
-    return text;
-}
-
-std::string Dump(const CFIVocabulary::CFIQNameTable& table) {
-    std::string text;
-    for (const CFIVocabulary::CQNameParts& name : table)
-        text += std::to_string(name.m_prefix) + ":" + std::to_string(name.m_namespaceName) + ":" +
-                std::to_string(name.m_localName) + " ";
+    for (const auto& entry : table)
+        if constexpr (std::is_same_v<Table, CFIVocabulary::CFIStringTable>)
+            text += "[" + ToUtf8(entry) + "]";
+        else
+            text += std::to_string(entry.m_prefix) + ":" + std::to_string(entry.m_namespaceName) + ":" +
+                    std::to_string(entry.m_localName) + " ";
     return text;
 }
 
