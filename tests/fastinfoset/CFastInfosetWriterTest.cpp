@@ -212,11 +212,12 @@ TEST(CFastInfosetWriter, WritesALeafAsThreeOperationsWould) {
     const auto written = [&](bool atOnce, const std::string& before, const char16_t* uri,
                              const CXmlSerializationContext& context) {
         const ScriptedObject object([&](CXmlWriter& writer) {
-            RunScript(writer, before);
-            for (const std::size_t more : {0, 1, 2, 3})
+            for (const std::string& words : {before, "<m "s, "<m +q=urn:x +=urn:y "s, "> > "s}) {
+                RunScript(writer, words);
                 for (const auto* name : {u"e", u"name", u"e\1b", u"a_long_name_of_an_element"})
                     for (const std::u16string& text : &context == &numbers ? digits : texts)
-                        WriteLeaf(writer, atOnce, name + std::u16string(more, u'x'), uri, text);
+                        WriteLeaf(writer, atOnce, name, uri, text);
+            }
             for (auto open = std::ranges::count(before, '<') - std::ranges::count(before, '>'); open > 0;
                  --open)
                 writer.EndElement();

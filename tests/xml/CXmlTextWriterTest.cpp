@@ -181,11 +181,13 @@ TEST(CXmlTextWriter, WritesALeafAsThreeOperationsWould) {
     const auto written = [&](bool atOnce, const char* before, const char16_t* uri) {
         RecordingStream stream;
         CXmlTextWriter writer(&stream);
-        RunScript(writer, before);
-        for (const std::u16string& name :
-             {u"e"s, u"name"s, u"customer"s, u"a_rather_long_name"s, u"cut\0off"s})
-            for (const std::u16string& text : texts)
-                WriteLeaf(writer, atOnce, name, uri, text);
+        for (const char* words : {before, "<m ", "<m +q=urn:x +=urn:y ", "> > "}) {
+            RunScript(writer, words);
+            for (const std::u16string& name :
+                 {u"e"s, u"name"s, u"customer"s, u"a_rather_long_name"s, u"cut\0off"s})
+                for (const std::u16string& text : texts)
+                    WriteLeaf(writer, atOnce, name, uri, text);
+        }
         stream.Flush();
         return stream.text + FromUtf8(stream.log);
     };
