@@ -107,9 +107,7 @@ TEST(TypedCols, ReadAndWriteWholeDocuments) {
     CollectionOwner qualifiedOwner(qualified);
     qualifiedOwner.Read(u"<p:i xmlns:p='urn:i'>7</p:i><i>8</i>"); // names are compared with their namespace
     EXPECT_EQ(Text(qualifiedOwner), "<r><AA:i xmlns:AA=\"urn:i\">7</AA:i></r>");
-    CXmlSerializationContext context;
-    context.SetIgnoreNamespaces(true);
-    qualifiedOwner.Read(u"<i>8</i>", context);
+    qualifiedOwner.Read(u"<i>8</i>", With(&CXmlSerializationContext::SetIgnoreNamespaces));
     EXPECT_EQ(qualified.GetCount(), 2);
 }
 

@@ -88,8 +88,7 @@ TEST_F(FailureFramesTest, WritingTellsThePathInBothFormats) {
 }
 
 TEST_F(FailureFramesTest, OtherFailuresHaveTheKindOfTheirClass) {
-    CXmlSerializationContext context;
-    context.SetIgnoreUnknownElements(true);
+    auto context = With(&CXmlSerializationContext::SetIgnoreUnknownElements);
     CAttributeCol attributes(u"", u"urn:a", u"");
     const std::pair<std::function<void()>, const char*> rows[] = {
         {[&] { context.SetIgnoreMissingMandatoryElements(true); }, "State"},

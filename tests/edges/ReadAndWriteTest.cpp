@@ -47,7 +47,6 @@ TEST_F(ReadAndWriteTest, EveryFormComesBack) {
 
 TEST_F(ReadAndWriteTest, TextHasTheStyleAskedFor) {
     const CSmartPtr<kit::CModelObject> note = Note(u"\u00E5");
-    EXPECT_EQ(WriteText(*note), "<?xml version=\"1.0\"?>\n<note>\n\t<text>\xC3\xA5</text>\n</note>\n");
     CXmlSerializationContext context;
     context.SetDefaultNamespaceURI(u"urn:d");
     context.SetIgnoreUnknownElements(true);

@@ -98,8 +98,7 @@ TEST_F(RecordsTest, EverySourceAndFormatGivesTheSameRecords) {
 
 TEST_F(RecordsTest, OptionsNameTheRecords) {
     const std::string document = prefix + "<r><n>1</n></r><s><n>2</n></s><o:s><n>3</n></o:s></all>";
-    CXmlSerializationContext ignoring;
-    ignoring.SetIgnoreNamespaces(true);
+    const auto ignoring = With(&CXmlSerializationContext::SetIgnoreNamespaces);
     EXPECT_EQ(Seen(document), "1:1 ");
     EXPECT_EQ(Seen<CTypeRecord>(document, {}, {.name = u"s"}), "1:2 ");
     EXPECT_EQ(Seen<CTypeRecord>(document, ignoring, {.name = u"s"}), "1:2 2:3 ");

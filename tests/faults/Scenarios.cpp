@@ -48,7 +48,6 @@ struct World {
         CRecord::model = &text.Content(ItemType_string);
         group.Prim(u"a", Mnd, ItemType_i4);
         skipping.Class(u"g", Opt, group);
-        lenient.SetIgnoreUnknownElements(true);
         order.Attribute(u"id", Required, ItemType_i8)
             .Prim(u"note", Opt, ItemType_string, true, Facets(u"[a-z ,]*", 1, 100))
             .Class(u"choice", Opt, choice)
@@ -119,8 +118,8 @@ struct World {
     Model point{u"point"}, node{u"n"}, order{u"order"};
     Model choice{u"choice", XmlElementGroupType_Choice}, all{u"all", XmlElementGroupType_All};
     Model group{u"g", XmlElementGroupType_Sequence, XmlElementType_Pseudo}, skipping{u"r"}, text{u"c"};
-    CXmlSerializationContext context, lenient;
-    const CXmlSerializationContext plain;
+    CXmlSerializationContext context;
+    const CXmlSerializationContext plain, lenient = With(&CXmlSerializationContext::SetIgnoreUnknownElements);
     const TempDir directory;
     const std::u16string orderText =
         u"<order id='9223372036854775807'><note>a note that is not short</note>"

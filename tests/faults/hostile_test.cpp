@@ -54,9 +54,7 @@ void CopyGeneric(const std::string& text) {
 }
 
 /// Twice into the same object, and out.
-void ReadObject(const Model& model, const std::string& text, bool lenient = false) {
-    CXmlSerializationContext reading;
-    reading.SetIgnoreUnknownElements(lenient);
+void ReadObject(const Model& model, const std::string& text, const CXmlSerializationContext& reading = {}) {
     const CSmartPtr<CModelObject> object = model.New();
     for (int round = 0; round < 2; ++round)
         object->FromXml(text.c_str(), reading);
@@ -83,7 +81,7 @@ void ReadObjects(const std::string& text) {
 void ReadAmongUnknown(const std::string& text) {
     Model model(u"r");
     model.Prim(u"v", Mnd, ItemType_i4).Prim(u"w", Opt, ItemType_i4);
-    ReadObject(model, text, true);
+    ReadObject(model, text, With(&CXmlSerializationContext::SetIgnoreUnknownElements));
 }
 
 // Shapes

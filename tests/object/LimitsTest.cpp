@@ -44,8 +44,7 @@ TEST(Limits, EachFigureBoundsItsWork) {
         group.Prim(u"a", kit::Mnd, ItemType_i4);
         kit::Model root(u"r");
         root.Class(u"g", kit::Opt, group);
-        CXmlSerializationContext context;
-        context.SetIgnoreUnknownElements(true);
+        const auto context = With(&CXmlSerializationContext::SetIgnoreUnknownElements);
         return Failure<CKzValidationException>([&] { root.New()->FromXml(u"<r><u/><u/><u/></r>", context); });
     };
     const auto match = [] {

@@ -85,6 +85,13 @@ String Repeat(const String& text, std::size_t times) {
     return all;
 }
 
+/// A context with one tolerance switched on.
+inline CXmlSerializationContext With(void (CXmlSerializationContext::*flag)(bool)) {
+    CXmlSerializationContext context;
+    (context.*flag)(true);
+    return context;
+}
+
 /// An object as text of one line, without a declaration.
 inline std::string Text(const CXmlObjectBase& object, const CXmlSerializationContext& context = {}) {
     return ToUtf8(object.ToXml(false, false, EOLType_LF, context));

@@ -16,12 +16,6 @@ inline const std::u16string xsi = u" xmlns:xsi='http://www.w3.org/2001/XMLSchema
 inline const std::u16string nilled =
     u" xmlns:AA=\"http://www.w3.org/2001/XMLSchema-instance\" AA:nil=\"true\"";
 
-/// A context with one tolerance switched on.
-inline CXmlSerializationContext With(void (CXmlSerializationContext::*flag)(bool)) {
-    CXmlSerializationContext context;
-    (context.*flag)(true);
-    return context;
-}
 using Context = const CXmlSerializationContext;
 inline Context strict;
 inline Context unknownElements = With(&Context::SetIgnoreUnknownElements);
