@@ -13,6 +13,8 @@ TEST(XsdPattern, NameEscapesAreReplaced) {
     ExpectMatches(true, {R"(\i\c* -> xs:name)", R"(\i\c* -> _a.b-c1)", R"(\I\C -> 1 )",
                          // An escaped backslash is no part of an escape.
                          R"(\\i -> \i)", R"(\\\i -> \a)", R"(\\c\\C -> \c\C)",
+                         // So does the byte that stands for it, also where there is nothing else to replace.
+                         "a\x01 -> a\\", "\x01i\\i -> \\ia",
                          // The group in the class ends up as its literal characters.
                          R"([\c]+ -> a(|))"});
     ExpectMatches(false, {R"(\i\c* -> 1a)", R"(\I -> a)", R"(\C -> -)", R"(\\i -> \a)"});
@@ -36,6 +38,8 @@ TEST(XsdPattern, MatchesTheWholeValueWithoutAGroup) {
     EXPECT_TRUE(MatchXsdPattern("a.b", u"a\0b"s));
     EXPECT_TRUE(MatchXsdPattern("ab\0("s, u"ab"));
     EXPECT_TRUE(MatchXsdPattern("a", u"a\xD800z"));
+    for (const std::size_t size : {188, 189, 190, 1000}) // on the stack and off it
+        EXPECT_TRUE(MatchXsdPattern(std::string(size, 'a'), std::u16string(size, u'a')));
 }
 
 TEST(XsdPattern, LenientFormsKeepWorking) {

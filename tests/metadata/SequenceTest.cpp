@@ -175,6 +175,29 @@ TEST(Names, AreComparedWithNamespacesUnlessIgnored) {
     EXPECT_EQ(Read(m, u"<m xmlns='urn:x'><a>2</a></m>", context), u"2");
 }
 
+TEST(Names, AreKnownAgainForNoOtherDescriptorNorUnderIgnoredNamespaces) {
+    using Info = CElementInfoSeqUntpdCol;
+    CXmlDocument document;
+    document.LoadXml("<r><a/><a xmlns='urn:a'/></r>");
+    CXmlElement* const plain = document.GetDocumentElement()->GetFirstElement();
+    const auto matches = [&](const Info& info) {
+        std::string result;
+        for (int round = 0; round < 2; ++round) // known in the second
+            for (const CXmlElement* element : {plain, plain->GetNextSiblingElement()})
+                for (const Context& context : {namespaces, Context()})
+                    result += info.IsThisElement(context, element) ? '1' : '0';
+        return result;
+    };
+    const Info infos[] = {Info(u"a", u"", 0), Info(u"a", u"urn:a", 0), Info(u"b", u"", 0)};
+    const char* const expected[] = {"11101110", "10111011", "00000000"};
+    Info changing = infos[2];
+    for (const std::size_t i : {0, 1, 2, 0, 2, 1}) {
+        changing = infos[i];
+        EXPECT_EQ(matches(infos[i]), expected[i]);
+        EXPECT_EQ(matches(changing), expected[i]);
+    }
+}
+
 TEST(NillableClass, IsReadAndWrittenWithoutContent) {
     const Model& m = NewModel(u"m").Nillable().Prim(u"a").Attribute(u"id", Optional);
     const auto object = m.New();
