@@ -148,7 +148,10 @@ TEST(CXmlDocument, DropsWhatTheCallbackDoesNotWant) {
     };
     const std::array<const char*, 3> rows[] = {
         {"<r><d>1</d><d>2</d></r>", R"(d["1"];d["2"];r;)", "r"},
-        {"<r><d/><k><d/><k/><d/></k><d/></r>", "d;d;k;d;k[k];d;r[k[k]];", "r[k[k]]"},
+        {"<r><d b='1'/><k b='2'><d/><k b='3'/><d c='4'><k b='5'><k b='6'/></k></d></k><d b='7' c='8'/></r>",
+         "d[@b=1];d;k[@b=3];k[@b=6];k[@b=5 k[@b=6]];d[@c=4 k[@b=5 k[@b=6]]];k[@b=2 k[@b=3]];d[@b=7 @c=8];"
+         "r[k[@b=2 k[@b=3]]];",
+         "r[k[@b=2 k[@b=3]]]"},
         {"<r>1<d>a<k>b</k>c<d/></d>2<k>3</k>4<d>d</d>5</r>",
          R"(k["b"];d;d["ac" k["b"]];k["3"];d["d"];r["1245" k["3"]];)", R"(r["1245" k["3"]])"}};
     for (const auto& [xml, seen, tree] : rows) {
