@@ -197,6 +197,16 @@ bool Any(const CXmlDocument& document, Predicate holds) {
     return false;
 }
 
+/// In the member of the sequence that holds a year.
+bool HasYearOfOtherThanFourDigits(std::u16string_view text) {
+    static_assert(ItemType_year == u'p' - u'a' + 1);
+    const std::size_t at = text.find(u"p>");
+    if (at == text.npos || text.find(u"sequence") > at)
+        return false;
+    const std::size_t digits = text.find_first_not_of(u"0123456789", at + 2) - (at + 2);
+    return digits > 0 && digits != 4;
+}
+
 } // namespace
 
 bool IsPlainText(std::string_view bytes) {
@@ -215,20 +225,6 @@ bool HasWhatTextLoses(const CXmlDocument& document) {
                std::ranges::any_of(element.GetAttributes(), isLost);
     });
 }
-
-namespace {
-
-/// In the member of the sequence that holds a year.
-bool HasYearOfOtherThanFourDigits(std::u16string_view text) {
-    static_assert(ItemType_year == u'p' - u'a' + 1);
-    const std::size_t at = text.find(u"p>");
-    if (at == text.npos || text.find(u"sequence") > at)
-        return false;
-    const std::size_t digits = text.find_first_not_of(u"0123456789", at + 2) - (at + 2);
-    return digits > 0 && digits != 4;
-}
-
-} // namespace
 
 bool HasMixedContent(const CXmlDocument& document) {
     return Any(document, [](const CXmlElement& element) {
