@@ -2,6 +2,10 @@
 
 namespace {
 
+// Bases that callers rely on.
+static_assert(std::is_base_of_v<CInstanceMonitor, Ci4Col> && std::is_base_of_v<CInstanceMonitor, CdateCol>);
+static_assert(!std::is_base_of_v<CInstanceMonitor, CdatetimeBaseCol> && std::is_abstract_v<CdatetimeBaseCol>);
+
 /// Writes down the calls that a collection makes, such as "<i 5:-7>" for an element with a text of type 5.
 struct RecordingWriter : CXmlTextWriter {
     using CXmlTextWriter::CXmlTextWriter;

@@ -13,7 +13,7 @@ TEST(XsdPattern, NameEscapesAreReplaced) {
     ExpectMatches(true, {R"(\i\c* -> xs:name)", R"(\i\c* -> _a.b-c1)", R"(\I\C -> 1 )",
                          // An escaped backslash is no part of an escape.
                          R"(\\i -> \i)", R"(\\\i -> \a)", R"(\\c\\C -> \c\C)",
-                         // So does the byte that stands for it, also where there is nothing else to replace.
+                         // The byte that stands for one becomes one, also where nothing else is replaced.
                          "a\x01 -> a\\", "\x01i\\i -> \\ia",
                          // The group in the class ends up as its literal characters.
                          R"([\c]+ -> a(|))"});

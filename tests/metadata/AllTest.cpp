@@ -4,6 +4,13 @@
 
 using namespace kit;
 
+// Repeated particles of an all group cannot be made.
+template <class... Classes>
+constexpr bool areAbstract = (std::is_abstract_v<Classes> && ...);
+static_assert(
+    areAbstract<CElementInfoAllNonCol, CElementInfoAllCol, CElementInfoAllClsCol, CElementInfoAllEnumCol,
+                CElementInfoAllAbsClsCol, CElementInfoAllPrimCol, CElementInfoAllUntpdCol>);
+
 TEST(AllGroup, ReadsInAnyOrderAndWritesInTableOrder) {
     const Model& point = NewModel(u"point").Prim(u"x");
     const Model& r =
